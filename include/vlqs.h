@@ -1,0 +1,20 @@
+/**
+ * @file vlqs.h
+ * @brief All of vlqs: signal-processing primitives for audio, speech, telephony and modem samples.
+ *
+ * Every call checks its arguments first and returns a VlqStatus; on an error no output has been
+ * touched. There is nothing to initialise and nothing to shut down.
+ */
+#ifndef VLQS_H
+#define VLQS_H
+
+#include "vlqs/types.h"
+
+#include "vlqs/frame.h"
+
+#include "vlqs/arith.h"
+#include "vlqs/convert.h"
+#include "vlqs/filter.h"
+#include "vlqs/fourier.h"
+
+#endif

@@ -1,0 +1,100 @@
+// Element-wise loops: dst[i] = op(src[i]...). A short head brings dst to a vector boundary, blocks
+// follow, and a partial vector takes what remains, all with the same operation, so a result does
+// not depend on alignment or length. Each block is read whole before it is written: dst may be
+// one of the sources. Nothing outside the vectors is touched.
+#pragma once
+
+#include "frame/simd/vec.h"
+
+namespace vlq {
+
+// N consecutive vectors of memory: what a block holds of a type wider than its narrowest.
+template <class T, int N>
+struct Block {
+    Vec<T> part[N];
+};
+
+namespace detail {
+
+template <class... T>
+inline constexpr int kNarrowest = [] {
+    int narrowest = 64;
+    ((narrowest = static_cast<int>(sizeof(T)) < narrowest ? static_cast<int>(sizeof(T)) : narrowest), ...);
+    return narrowest;
+}();
+
+template <class T, int N>
+inline Block<T, N> loadBlock(const T* p) {
+    Block<T, N> block;
+    for (int i = 0; i < N; ++i) block.part[i] = load<T>(p + i * Vec<T>::lanes);
+    return block;
+}
+template <class T, int N>
+inline Block<T, N> loadBlockPartial(const T* p, int count) {
+    constexpr int lanes = Vec<T>::lanes;
+    Block<T, N> block;
+    for (int i = 0; i < N; ++i, count -= lanes) {
+        block.part[i] = count <= 0 ? Vec<T>::zero() : loadPartial<T>(p + i * lanes, count < lanes ? count : lanes);
+    }
+    return block;
+}
+template <class T, int N>
+inline void storeBlock(T* p, const Block<T, N>& block) {
+    for (int i = 0; i < N; ++i) store(p + i * Vec<T>::lanes, block.part[i]);
+}
+template <class T, int N>
+inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
+    constexpr int lanes = Vec<T>::lanes;
+    for (int i = 0; i < N && count > 0; ++i, count -= lanes) {
+        storePartial(p + i * lanes, block.part[i], count < lanes ? count : lanes);
+    }
+}
+
+}  // namespace detail
+
+// op takes one Block a source and gives a Block of D; a block is one vector of the narrowest type.
+template <class D, class Op, class... S>
+inline void mapBlocks(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
+    constexpr int count = kVecBytes / detail::kNarrowest<D, S...>;
+    constexpr int dstParts = count / Vec<D>::lanes;
+
+    auto partial = [&](int n) {
+        const auto result = op(detail::loadBlockPartial<S, count / Vec<S>::lanes>(src, n)...);
+        detail::storeBlockPartial<D, dstParts>(dst, result, n);
+    };
+    auto advance = [&](std::ptrdiff_t n) {
+        dst += n;
+        ((src += n), ...);
+        len -= n;
+    };
+
+    const auto offset = reinterpret_cast<std::uintptr_t>(dst) % kVecBytes;
+    if (offset % sizeof(D) == 0 && offset != 0 && len > 4 * count) {
+        const int head = static_cast<int>((kVecBytes - offset) / sizeof(D));
+        partial(head);
+        advance(head);
+    }
+    constexpr int unroll = 4;
+    while (len >= unroll * count) {
+#pragma GCC unroll 4
+        for (int u = 0; u < unroll; ++u) {
+            const auto result = op(detail::loadBlock<S, count / Vec<S>::lanes>(src + u * count)...);
+            detail::storeBlock<D, dstParts>(dst + u * count, result);
+        }
+        advance(unroll * count);
+    }
+    while (len >= count) {
+        detail::storeBlock<D, dstParts>(dst, op(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
+        advance(count);
+    }
+    if (len > 0) partial(static_cast<int>(len));
+}
+
+// All types of one size: op takes and gives plain vectors.
+template <class D, class Op, class... S>
+inline void map(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
+    static_assert(((sizeof(S) == sizeof(D)) && ...));
+    mapBlocks(dst, len, [&](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; }, src...);
+}
+
+}  // namespace vlq

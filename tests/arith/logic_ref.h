@@ -1,0 +1,9 @@
+// The definition of the bitwise operations, one element at a time.
+#pragma once
+
+namespace vlqtest {
+
+template <class T>
+T andRef(T a, T b) { return static_cast<T>(a & b); }
+
+}  // namespace vlqtest

@@ -1,0 +1,26 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+#include "harness/core_double.h"
+#include "harness/random.h"
+#include "vlqs.h"
+
+namespace {
+std::uint64_t runSeed = 20120723;
+}
+std::uint64_t vlqtest::seed() { return runSeed; }
+
+// Usage: <program> [gtest flags] [--seed N]. The build under test is the one that the dynamic
+// linker finds; LD_LIBRARY_PATH chooses it.
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    for (int i = 1; i + 1 < argc; ++i) {
+        if (std::string_view(argv[i]) == "--seed") runSeed = std::strtoull(argv[i + 1], nullptr, 10);
+    }
+    std::printf("%s, seed %llu\n", vlqsGetLibVersion()->libraryName, static_cast<unsigned long long>(runSeed));
+    vlqtest::Core::reset();
+    return RUN_ALL_TESTS();
+}
