@@ -2,7 +2,14 @@
 // addition, subtraction and multiplication wrap. Everything else has one name in this folder.
 #pragma once
 
+// GCC 12's AVX-512 intrinsics pass undefined registers on purpose and are then warned of.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+#if !defined(__clang__)
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
 #include <immintrin.h>
+#pragma GCC diagnostic pop
 
 #include <bit>
 #include <cstddef>

@@ -1,0 +1,68 @@
+#include "frame/loop/bulk.h"
+#include "vlqs/arith.h"
+
+namespace {
+
+template <class T>
+VlqStatus zero(T* dst, Vlq32s len) {
+    if (!dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    vlq::fill(dst, vlq::Vec<vlq::Byte>::zero(), static_cast<std::size_t>(len));
+    return vlqStsOk;
+}
+
+template <class T>
+VlqStatus set(T val, T* dst, Vlq32s len) {
+    if (!dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    vlq::fill(dst, vlq::repeated(val), static_cast<std::size_t>(len));
+    return vlqStsOk;
+}
+
+template <class T>
+VlqStatus copy(const T* src, T* dst, Vlq32s len) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    vlq::copyBytes(dst, src, static_cast<std::size_t>(len) * sizeof(T));
+    return vlqStsOk;
+}
+
+template <class T>
+VlqStatus move(const T* src, T* dst, Vlq32s len) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    vlq::moveBytes(dst, src, static_cast<std::size_t>(len) * sizeof(T));
+    return vlqStsOk;
+}
+
+}  // namespace
+
+VlqStatus vlq::vlqsZero_8u(Vlq8u* dst, Vlq32s len) { return zero(dst, len); }
+VlqStatus vlq::vlqsZero_16s(Vlq16s* dst, Vlq32s len) { return zero(dst, len); }
+VlqStatus vlq::vlqsZero_32s(Vlq32s* dst, Vlq32s len) { return zero(dst, len); }
+VlqStatus vlq::vlqsZero_64s(Vlq64s* dst, Vlq32s len) { return zero(dst, len); }
+VlqStatus vlq::vlqsZero_64sc(Vlq64sc* dst, Vlq32s len) { return zero(dst, len); }
+
+VlqStatus vlq::vlqsSet_8u(Vlq8u val, Vlq8u* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_16s(Vlq16s val, Vlq16s* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_16sc(Vlq16sc val, Vlq16sc* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_32s(Vlq32s val, Vlq32s* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_32f(Vlq32f val, Vlq32f* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_32sc(Vlq32sc val, Vlq32sc* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_32fc(Vlq32fc val, Vlq32fc* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_64s(Vlq64s val, Vlq64s* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_64f(Vlq64f val, Vlq64f* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_64sc(Vlq64sc val, Vlq64sc* dst, Vlq32s len) { return set(val, dst, len); }
+VlqStatus vlq::vlqsSet_64fc(Vlq64fc val, Vlq64fc* dst, Vlq32s len) { return set(val, dst, len); }
+
+VlqStatus vlq::vlqsCopy_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len) { return copy(src, dst, len); }
+VlqStatus vlq::vlqsCopy_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len) { return copy(src, dst, len); }
+VlqStatus vlq::vlqsCopy_32s(const Vlq32s* src, Vlq32s* dst, Vlq32s len) { return copy(src, dst, len); }
+VlqStatus vlq::vlqsCopy_64s(const Vlq64s* src, Vlq64s* dst, Vlq32s len) { return copy(src, dst, len); }
+VlqStatus vlq::vlqsCopy_64sc(const Vlq64sc* src, Vlq64sc* dst, Vlq32s len) { return copy(src, dst, len); }
+
+VlqStatus vlq::vlqsMove_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len) { return move(src, dst, len); }
+VlqStatus vlq::vlqsMove_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len) { return move(src, dst, len); }
+VlqStatus vlq::vlqsMove_32s(const Vlq32s* src, Vlq32s* dst, Vlq32s len) { return move(src, dst, len); }
+VlqStatus vlq::vlqsMove_64s(const Vlq64s* src, Vlq64s* dst, Vlq32s len) { return move(src, dst, len); }
+VlqStatus vlq::vlqsMove_64sc(const Vlq64sc* src, Vlq64sc* dst, Vlq32s len) { return move(src, dst, len); }
