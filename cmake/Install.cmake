@@ -1,0 +1,15 @@
+# Headers, CMake package, pkg-config file; the libraries are installed where they are declared.
+include(CMakePackageConfigHelpers)
+
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vlqs)
+install(EXPORT vlqsTargets NAMESPACE vlqs:: DESTINATION ${package_dir})
+configure_package_config_file(cmake/vlqsConfig.cmake.in ${PROJECT_BINARY_DIR}/vlqsConfig.cmake
+  INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/vlqsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/vlqsConfig.cmake ${PROJECT_BINARY_DIR}/vlqsConfigVersion.cmake
+  DESTINATION ${package_dir})
+
+configure_file(cmake/vlqs.pc.in ${PROJECT_BINARY_DIR}/vlqs.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/vlqs.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -25,7 +25,10 @@ function(vlqs_add_library target)
     target_link_options(${target} PRIVATE -Wl,-z,defs)
   endif()
   set_target_properties(${target} PROPERTIES
-    OUTPUT_NAME vlqs VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+    OUTPUT_NAME vlqs
+    # The core library lies beside the baseline build, two folders above the tuned ones.
+    INSTALL_RPATH "$ORIGIN;$ORIGIN/../.."
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
     LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/${ARG_TAG}
     LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/vlqs.map)
   install(TARGETS ${target} EXPORT vlqsTargets LIBRARY

@@ -9,9 +9,9 @@
 
 VLQS_BEGIN_DECLS
 
+/** @name Clear
+ *  @{ */
 /**
- * @name Clear
- *
  * `dst[i] = 0`: every bit is cleared.
  *
  * **Shapes.** @p dst has @p len elements and any alignment.
@@ -24,7 +24,6 @@ VLQS_BEGIN_DECLS
  * @param dst result
  * @param len number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsZero_8u(Vlq8u* dst, Vlq32s len);
 VlqStatus vlqsZero_16s(Vlq16s* dst, Vlq32s len);
@@ -39,9 +38,9 @@ VlqStatus vlqsZero_64sc(Vlq64sc* dst, Vlq32s len);
 VlqStatus vlqsZero_64fc(Vlq64fc* dst, Vlq32s len);
 /** @} */
 
+/** @name Fill
+ *  @{ */
 /**
- * @name Fill
- *
  * `dst[i] = val`, bit for bit: a float that is not a number keeps its payload.
  *
  * **Shapes.** @p dst has @p len elements and any alignment.
@@ -54,7 +53,6 @@ VlqStatus vlqsZero_64fc(Vlq64fc* dst, Vlq32s len);
  * @param dst result
  * @param len number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsSet_8u(Vlq8u val, Vlq8u* dst, Vlq32s len);
 VlqStatus vlqsSet_16s(Vlq16s val, Vlq16s* dst, Vlq32s len);
@@ -69,9 +67,9 @@ VlqStatus vlqsSet_64sc(Vlq64sc val, Vlq64sc* dst, Vlq32s len);
 VlqStatus vlqsSet_64fc(Vlq64fc val, Vlq64fc* dst, Vlq32s len);
 /** @} */
 
+/** @name Copy
+ *  @{ */
 /**
- * @name Copy
- *
  * `dst[i] = src[i]`.
  *
  * **Shapes.** Both vectors have @p len elements and any alignment, and do not overlap.
@@ -85,7 +83,6 @@ VlqStatus vlqsSet_64fc(Vlq64fc val, Vlq64fc* dst, Vlq32s len);
  * @param dst result
  * @param len number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsCopy_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
 VlqStatus vlqsCopy_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len);
@@ -100,9 +97,9 @@ VlqStatus vlqsCopy_64sc(const Vlq64sc* src, Vlq64sc* dst, Vlq32s len);
 VlqStatus vlqsCopy_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
 /** @} */
 
+/** @name Move
+ *  @{ */
 /**
- * @name Move
- *
  * `dst[i] = src[i]` as if the source were read whole before the first element is written.
  *
  * **Shapes.** Both vectors have @p len elements and any alignment; they may overlap in any way.
@@ -115,7 +112,6 @@ VlqStatus vlqsCopy_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
  * @param dst result
  * @param len number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsMove_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
 VlqStatus vlqsMove_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len);
@@ -130,9 +126,9 @@ VlqStatus vlqsMove_64sc(const Vlq64sc* src, Vlq64sc* dst, Vlq32s len);
 VlqStatus vlqsMove_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
 /** @} */
 
+/** @name Bitwise logic of two vectors
+ *  @{ */
 /**
- * @name Bitwise logic of two vectors
- *
  * `dst[i] = src1[i] op src2[i]` with op AND, OR or XOR; the `_I` forms compute
  * `srcDst[i] = srcDst[i] op src[i]`.
  *
@@ -143,14 +139,13 @@ VlqStatus vlqsMove_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
  *
  * **Memory.** None.
  *
- * @param src1   first operand
- * @param src2   second operand
- * @param src    operand of the in-place forms
- * @param dst    result
- * @param srcDst operand and result of the in-place forms
- * @param len    number of elements
+ * @arg @c src1   first operand
+ * @arg @c src2   second operand
+ * @arg @c src    operand of the in-place forms
+ * @arg @c dst    result
+ * @arg @c srcDst operand and result of the in-place forms
+ * @arg @c len    number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsAnd_8u(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len);
 VlqStatus vlqsAnd_8u_I(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len);

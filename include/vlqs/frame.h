@@ -28,9 +28,9 @@ VLQS_BEGIN_DECLS
  */
 const VlqLibraryVersion* vlqsGetLibVersion(void);
 
+/** @name Vector memory
+ *  @{ */
 /**
- * @name Vector memory
- *
  * Allocates a vector of @p len elements on a 64-byte boundary, contents undefined.
  *
  * **Size.** The byte count `len * sizeof(element)` is formed in 32 bits without an overflow test:
@@ -42,7 +42,6 @@ const VlqLibraryVersion* vlqsGetLibVersion(void);
  *
  * @param len number of elements.
  * @return the vector, or null when @p len is below 1 or memory is refused.
- * @{
  */
 Vlq8u* vlqsMalloc_8u(Vlq32s len);
 Vlq8s* vlqsMalloc_8s(Vlq32s len);

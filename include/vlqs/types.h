@@ -38,16 +38,44 @@ typedef float Vlq32f;    /**< IEEE 754 binary32 */
 typedef double Vlq64f;   /**< IEEE 754 binary64 */
 /** @} */
 
-/** @name Complex samples: real part first, imaginary part next, no gap
- *  A vector of n complex elements lies in memory as 2 n scalars.
- *  @{ */
-typedef struct { Vlq8s re; Vlq8s im; } Vlq8sc;    /**< two 8-bit signed; only the allocator knows it */
-typedef struct { Vlq16s re; Vlq16s im; } Vlq16sc; /**< two 16-bit signed */
-typedef struct { Vlq32s re; Vlq32s im; } Vlq32sc; /**< two 32-bit signed */
-typedef struct { Vlq64s re; Vlq64s im; } Vlq64sc; /**< two 64-bit signed */
-typedef struct { Vlq32f re; Vlq32f im; } Vlq32fc; /**< two binary32 */
-typedef struct { Vlq64f re; Vlq64f im; } Vlq64fc; /**< two binary64 */
-/** @} */
+/* Complex samples: real part first, imaginary part next, no gap. A vector of n complex elements
+ * lies in memory as 2 n scalars. */
+
+/** Complex sample of two 8-bit signed parts; only the allocator knows it. */
+typedef struct {
+    Vlq8s re; /**< real part */
+    Vlq8s im; /**< imaginary part */
+} Vlq8sc;
+
+/** Complex sample of two 16-bit signed parts. */
+typedef struct {
+    Vlq16s re; /**< real part */
+    Vlq16s im; /**< imaginary part */
+} Vlq16sc;
+
+/** Complex sample of two 32-bit signed parts. */
+typedef struct {
+    Vlq32s re; /**< real part */
+    Vlq32s im; /**< imaginary part */
+} Vlq32sc;
+
+/** Complex sample of two 64-bit signed parts. */
+typedef struct {
+    Vlq64s re; /**< real part */
+    Vlq64s im; /**< imaginary part */
+} Vlq64sc;
+
+/** Complex sample of two binary32 parts. */
+typedef struct {
+    Vlq32f re; /**< real part */
+    Vlq32f im; /**< imaginary part */
+} Vlq32fc;
+
+/** Complex sample of two binary64 parts. */
+typedef struct {
+    Vlq64f re; /**< real part */
+    Vlq64f im; /**< imaginary part */
+} Vlq64fc;
 
 /** Rounding of a value that lies between two integers. */
 typedef Vlq32s VlqRoundMode;

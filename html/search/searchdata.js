@@ -1,0 +1,12 @@
+var indexSectionsWithContent =
+{
+};
+
+var indexSectionNames =
+{
+};
+
+var indexSectionLabels =
+{
+};
+
