@@ -1,0 +1,42 @@
+# Reads the public headers, one declaration a line, and writes the signature table: for each
+# exported function that returns a status its name, its parameters, and a way to call it.
+function(vlqs_write_signatures output)
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/vlqs/*.h)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${headers})
+  set(table "")
+  foreach(header IN LISTS headers)
+    file(STRINGS ${header} declarations REGEX "^VlqStatus vlqs[A-Za-z0-9_]+\\(.*\\);$")
+    foreach(declaration IN LISTS declarations)
+      string(REGEX MATCH "^VlqStatus (vlqs[A-Za-z0-9_]+)\\((.*)\\);$" _ "${declaration}")
+      set(name ${CMAKE_MATCH_1})
+      string(REPLACE ", " ";" parameters "${CMAKE_MATCH_2}")
+      set(described "")
+      set(passed "")
+      set(index 0)
+      foreach(parameter IN LISTS parameters)
+        # `const Vlq32f* const rows[]` and the like: an array parameter is a pointer.
+        string(REGEX MATCH "^(.*[ *])([A-Za-z0-9_]+)(\\[\\])?$" _ "${parameter}")
+        string(STRIP "${CMAKE_MATCH_1}" type)
+        set(parameter_name ${CMAKE_MATCH_2})
+        if(CMAKE_MATCH_3)
+          string(APPEND type " *")
+        endif()
+        string(APPEND described "{\"${type}\", \"${parameter_name}\"}, ")
+        string(APPEND passed ", a.get<${type}>(${index})")
+        math(EXPR index "${index} + 1")
+      endforeach()
+      string(REGEX REPLACE "^, " "" passed "${passed}")
+      string(APPEND table "    {\"${name}\", {${described}},\n     [](Arguments& a) { return ${name}(${passed}); }},\n")
+    endforeach()
+  endforeach()
+  file(CONFIGURE OUTPUT ${output} CONTENT [=[
+// Written by cmake/Signatures.cmake from the public headers.
+#include "harness/signatures.h"
+
+const std::vector<vlqtest::Signature>& vlqtest::signatures() {
+    static const std::vector<Signature> table = {
+@table@    };
+    return table;
+}
+]=] @ONLY)
+endfunction()
