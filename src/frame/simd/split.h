@@ -1,0 +1,166 @@
+// Interleaved complex values as vectors of real and of imaginary parts. Which value of a run lies
+// in which lane is the build's choice (splitLane): the one that needs the fewest shuffles.
+#pragma once
+
+#include "frame/simd/vec.h"
+
+namespace vlq {
+
+template <class T, int B = kVecBytes>
+struct Split {
+    static constexpr int lanes = Vec<T, B>::lanes;
+    Vec<T, B> re;
+    Vec<T, B> im;
+};
+
+// Lane i holds value number splitLane<T, B>(i) of a run, counted from its first value by
+// loadSplit, from its last one by loadSplitBackward.
+template <class T, int B = kVecBytes>
+constexpr int splitLane(int lane) {
+    constexpr int each = 16 / static_cast<int>(sizeof(T));      // lanes to 16 bytes
+    constexpr int pairs = each / 2;                             // whole values in 16 bytes
+    constexpr int half = Vec<T, B>::lanes / 2;
+    if constexpr (B == 16) return lane;
+    else return lane / each * pairs + lane % each % pairs + (lane % each >= pairs ? half : 0);
+}
+
+// ---- 16 bytes --------------------------------------------------------------------------------
+namespace detail {
+
+using F4 = Vec<float, 16>;
+using D2 = Vec<double, 16>;
+inline Split<float, 16> split(F4 a, F4 b) {
+    return {F4(_mm_shuffle_ps(a.raw, b.raw, _MM_SHUFFLE(2, 0, 2, 0))),
+            F4(_mm_shuffle_ps(a.raw, b.raw, _MM_SHUFFLE(3, 1, 3, 1)))};
+}
+inline Split<float, 16> splitBackward(F4 a, F4 b) {
+    return {F4(_mm_shuffle_ps(b.raw, a.raw, _MM_SHUFFLE(0, 2, 0, 2))),
+            F4(_mm_shuffle_ps(b.raw, a.raw, _MM_SHUFFLE(1, 3, 1, 3)))};
+}
+inline void join(Split<float, 16> v, F4& a, F4& b) {
+    a = F4(_mm_unpacklo_ps(v.re.raw, v.im.raw));
+    b = F4(_mm_unpackhi_ps(v.re.raw, v.im.raw));
+}
+inline void joinBackward(Split<float, 16> v, F4& a, F4& b) {
+    join(v, b, a);
+    a = F4(_mm_shuffle_ps(a.raw, a.raw, _MM_SHUFFLE(1, 0, 3, 2)));
+    b = F4(_mm_shuffle_ps(b.raw, b.raw, _MM_SHUFFLE(1, 0, 3, 2)));
+}
+inline Split<double, 16> split(D2 a, D2 b) {
+    return {D2(_mm_unpacklo_pd(a.raw, b.raw)), D2(_mm_unpackhi_pd(a.raw, b.raw))};
+}
+inline Split<double, 16> splitBackward(D2 a, D2 b) { return split(b, a); }
+inline void join(Split<double, 16> v, D2& a, D2& b) {
+    a = D2(_mm_unpacklo_pd(v.re.raw, v.im.raw));
+    b = D2(_mm_unpackhi_pd(v.re.raw, v.im.raw));
+}
+inline void joinBackward(Split<double, 16> v, D2& a, D2& b) { join(v, b, a); }
+
+// ---- 32 bytes --------------------------------------------------------------------------------
+#if VLQ_SIMD_BYTES >= 32
+using F8 = Vec<float, 32>;
+using D4 = Vec<double, 32>;
+// Whole values (float) or 16-byte halves (double) from last to first.
+inline F8 reverseValues(F8 v) {
+    return F8(_mm256_castpd_ps(_mm256_permute4x64_pd(_mm256_castps_pd(v.raw), _MM_SHUFFLE(0, 1, 2, 3))));
+}
+inline D4 reverseValues(D4 v) { return D4(_mm256_permute4x64_pd(v.raw, _MM_SHUFFLE(1, 0, 3, 2))); }
+inline Split<float, 32> split(F8 a, F8 b) {
+    return {F8(_mm256_shuffle_ps(a.raw, b.raw, _MM_SHUFFLE(2, 0, 2, 0))),
+            F8(_mm256_shuffle_ps(a.raw, b.raw, _MM_SHUFFLE(3, 1, 3, 1)))};
+}
+inline void join(Split<float, 32> v, F8& a, F8& b) {
+    a = F8(_mm256_unpacklo_ps(v.re.raw, v.im.raw));
+    b = F8(_mm256_unpackhi_ps(v.re.raw, v.im.raw));
+}
+inline Split<double, 32> split(D4 a, D4 b) {
+    return {D4(_mm256_unpacklo_pd(a.raw, b.raw)), D4(_mm256_unpackhi_pd(a.raw, b.raw))};
+}
+inline void join(Split<double, 32> v, D4& a, D4& b) {
+    a = D4(_mm256_unpacklo_pd(v.re.raw, v.im.raw));
+    b = D4(_mm256_unpackhi_pd(v.re.raw, v.im.raw));
+}
+template <class T>
+inline Split<T, 32> splitBackward(Vec<T, 32> a, Vec<T, 32> b) { return split(reverseValues(b), reverseValues(a)); }
+template <class T>
+inline void joinBackward(Split<T, 32> v, Vec<T, 32>& a, Vec<T, 32>& b) {
+    join(v, b, a);
+    a = reverseValues(a);
+    b = reverseValues(b);
+}
+#endif
+
+// ---- 64 bytes --------------------------------------------------------------------------------
+#if VLQ_SIMD_BYTES >= 64
+using F16 = Vec<float, 64>;
+using D8 = Vec<double, 64>;
+inline Split<float, 64> split(F16 a, F16 b) {
+    return {F16(_mm512_shuffle_ps(a.raw, b.raw, _MM_SHUFFLE(2, 0, 2, 0))),
+            F16(_mm512_shuffle_ps(a.raw, b.raw, _MM_SHUFFLE(3, 1, 3, 1)))};
+}
+inline void join(Split<float, 64> v, F16& a, F16& b) {
+    a = F16(_mm512_unpacklo_ps(v.re.raw, v.im.raw));
+    b = F16(_mm512_unpackhi_ps(v.re.raw, v.im.raw));
+}
+inline Split<double, 64> split(D8 a, D8 b) {
+    return {D8(_mm512_unpacklo_pd(a.raw, b.raw)), D8(_mm512_unpackhi_pd(a.raw, b.raw))};
+}
+inline void join(Split<double, 64> v, D8& a, D8& b) {
+    a = D8(_mm512_unpacklo_pd(v.re.raw, v.im.raw));
+    b = D8(_mm512_unpackhi_pd(v.re.raw, v.im.raw));
+}
+// One two-source permutation takes the parts apart and turns their order; bit 4 (3) of an index
+// selects the second source.
+inline Split<float, 64> splitBackward(F16 a, F16 b) {
+    const __m512i re = _mm512_setr_epi32(30, 28, 14, 12, 26, 24, 10, 8, 22, 20, 6, 4, 18, 16, 2, 0);
+    const __m512i im = _mm512_setr_epi32(31, 29, 15, 13, 27, 25, 11, 9, 23, 21, 7, 5, 19, 17, 3, 1);
+    return {F16(_mm512_permutex2var_ps(a.raw, re, b.raw)), F16(_mm512_permutex2var_ps(a.raw, im, b.raw))};
+}
+inline void joinBackward(Split<float, 64> v, F16& a, F16& b) {
+    const __m512i last = _mm512_setr_epi32(15, 31, 14, 30, 11, 27, 10, 26, 7, 23, 6, 22, 3, 19, 2, 18);
+    const __m512i first = _mm512_setr_epi32(13, 29, 12, 28, 9, 25, 8, 24, 5, 21, 4, 20, 1, 17, 0, 16);
+    a = F16(_mm512_permutex2var_ps(v.re.raw, last, v.im.raw));
+    b = F16(_mm512_permutex2var_ps(v.re.raw, first, v.im.raw));
+}
+inline Split<double, 64> splitBackward(D8 a, D8 b) {
+    const __m512i re = _mm512_setr_epi64(14, 6, 12, 4, 10, 2, 8, 0);
+    const __m512i im = _mm512_setr_epi64(15, 7, 13, 5, 11, 3, 9, 1);
+    return {D8(_mm512_permutex2var_pd(a.raw, re, b.raw)), D8(_mm512_permutex2var_pd(a.raw, im, b.raw))};
+}
+inline void joinBackward(Split<double, 64> v, D8& a, D8& b) {
+    const __m512i last = _mm512_setr_epi64(7, 15, 5, 13, 3, 11, 1, 9);
+    const __m512i first = _mm512_setr_epi64(6, 14, 4, 12, 2, 10, 0, 8);
+    a = D8(_mm512_permutex2var_pd(v.re.raw, last, v.im.raw));
+    b = D8(_mm512_permutex2var_pd(v.re.raw, first, v.im.raw));
+}
+#endif
+
+}  // namespace detail
+
+// ---- memory ----------------------------------------------------------------------------------
+// A run of Split::lanes complex values that begins at p, any alignment.
+template <class T, int B = kVecBytes>
+inline Split<T, B> loadSplit(const T* p) {
+    return detail::split(load<T, B>(p), load<T, B>(p + Vec<T, B>::lanes));
+}
+template <class T, int B>
+inline void storeSplit(T* p, Split<T, B> v) {
+    Vec<T, B> a, b;
+    detail::join(v, a, b);
+    store(p, a);
+    store(p + Vec<T, B>::lanes, b);
+}
+// The run from its last value to its first: lanes meet those of a forward run mirrored.
+template <class T, int B = kVecBytes>
+inline Split<T, B> loadSplitBackward(const T* p) {
+    return detail::splitBackward(load<T, B>(p), load<T, B>(p + Vec<T, B>::lanes));
+}
+template <class T, int B>
+inline void storeSplitBackward(T* p, Split<T, B> v) {
+    Vec<T, B> a, b;
+    detail::joinBackward(v, a, b);
+    store(p, a);
+    store(p + Vec<T, B>::lanes, b);
+}
+
+}  // namespace vlq
