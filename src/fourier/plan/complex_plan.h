@@ -6,6 +6,16 @@
 
 namespace vlq::fft {
 
+// Where the regimes of the complex transform change, by order.
+template <class T>
+struct ComplexLimits {
+    static constexpr bool single = sizeof(T) == 4;
+    static constexpr int largest = single ? 28 : 27;
+    static constexpr int straightLine = 5;             // the last without tables
+    static constexpr int inCache = single ? 15 : 13;  // the last with one table for all passes
+    static constexpr int plainReversal = single ? 16 : 15;
+};
+
 // Sizes of a complex record of `order`, as its size query gives them.
 template <class T>
 PlanSizes complexSizes(int order);

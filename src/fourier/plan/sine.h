@@ -5,7 +5,9 @@
 
 namespace vlq::fft {
 
-// values[i * stride(p)] = sin(2 pi i / 2^p) for i in 0 to 2^p / 4.
+inline constexpr int kConstantSineOrder = 10;  // up to here the table is the library's
+
+// values[i << (order - p)] = sin(2 pi i / 2^p) for p up to `order` and i in 0 to 2^p / 4.
 template <class T>
 struct SineTable {
     const T* values;
@@ -16,5 +18,27 @@ struct SineTable {
 // it one of its own order, computed in double precision into `scratch`.
 template <class T>
 SineTable<T> sineTable(int order, T* scratch);
+
+template <class T>
+struct Twiddle {
+    T re;
+    T im;
+};
+
+// exp(-2 pi i k / 2^order) for 0 <= k < 2^order, folded into the quarter wave: no arithmetic but
+// signs, so that values a quarter turn apart agree to the bit.
+template <class T>
+inline Twiddle<T> twiddle(const SineTable<T>& sine, int order, Vlq64s k) {
+    const Vlq64s quarter = Vlq64s{1} << (sine.order - 2);
+    const Vlq64s angle = k << (sine.order - order);
+    const Vlq64s a = angle & (quarter - 1);
+    const T c = sine.values[quarter - a], s = sine.values[a];
+    switch (angle / quarter) {
+        case 0: return {c, -s};
+        case 1: return {-s, -c};
+        case 2: return {-c, s};
+        default: return {s, c};
+    }
+}
 
 }  // namespace vlq::fft

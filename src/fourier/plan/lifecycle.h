@@ -1,0 +1,86 @@
+// Planning calls of the floating transforms, the same for every kind. A Kind gives the record's
+// type, its element, its word, the largest order, and sizes() and build() of its tables.
+#pragma once
+
+#include <cstring>
+#include <new>
+
+#include "fourier/plan/normalisation.h"
+#include "fourier/plan/record.h"
+#include "fourier/plan/sine.h"
+
+namespace vlq::fft {
+
+template <class Kind>
+VlqStatus getSize(Vlq32s order, Vlq32s flag, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes) {
+    if (static_cast<Vlq32u>(order) > 30) return vlqStsBadOrder;
+    if (!specBytes || !initBytes || !workBytes) return vlqStsNullPtr;
+    if (!isNormalisation(flag)) return vlqStsBadFlag;
+    if (order > Kind::largestOrder) return vlqStsBadOrder;
+    const PlanSizes sizes = Kind::sizes(order);
+    *specBytes = static_cast<Vlq32s>(sizes.spec);
+    *initBytes = static_cast<Vlq32s>(sizes.init);
+    *workBytes = static_cast<Vlq32s>(sizes.work);
+    return vlqStsOk;
+}
+
+template <class Kind>
+VlqStatus init(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf) {
+    using T = typename Kind::Element;
+    using Spec = typename Kind::Spec;
+    if (!outSpec) return vlqStsNullPtr;
+    if (order < 0 || order > Kind::largestOrder) return vlqStsBadOrder;
+    if (!specMem) return vlqStsNullPtr;
+    Cursor cursor(specMem, Kind::sizes(order).spec);
+    Spec* spec = ::new (cursor.take<Spec>(1, kTableAlignment)) Spec{};
+    spec->hint = hint;
+    spec->order = order;
+    if (!isNormalisation(flag)) return vlqStsBadFlag;
+    if (order > kConstantSineOrder && !initBuf) return vlqStsNullPtr;
+    setNormalisation(*spec, order, flag);
+    T* scratch = initBuf ? reinterpret_cast<T*>(alignUp(initBuf, kTableAlignment)) : nullptr;
+    Kind::build(*spec, order, sineTable<T>(order, scratch), cursor);
+    spec->ident = Kind::ident;
+    *outSpec = spec;
+    return vlqStsOk;
+}
+
+template <class Kind>
+VlqStatus initAlloc(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+    if (!outSpec) return vlqStsNullPtr;
+    Vlq32s specBytes, initBytes, workBytes;
+    VlqStatus status = getSize<Kind>(order, flag, &specBytes, &initBytes, &workBytes);
+    if (status != vlqStsOk) return status;
+    Vlq8u* block = vlqsMalloc_8u(specBytes);
+    if (!block) return vlqStsNoMemory;
+    Vlq8u* scratch = nullptr;
+    if (initBytes > 0 && !(scratch = vlqsMalloc_8u(initBytes))) {
+        vlqsFree(block);
+        return vlqStsNoMemory;
+    }
+    status = init<Kind>(outSpec, order, flag, hint, block, scratch);
+    if (scratch) vlqsFree(scratch);
+    if (status == vlqStsOk) (*outSpec)->owned = 1;
+    else vlqsFree(block);
+    return status;
+}
+
+template <class Kind>
+VlqStatus getBufSize(const typename Kind::Spec* spec, Vlq32s* bufBytes) {
+    if (!spec) return vlqStsNullPtr;
+    if (spec->ident != Kind::ident) return vlqStsBadSpec;
+    if (!bufBytes) return vlqStsNullPtr;
+    *bufBytes = spec->workBytes > 0 ? spec->workBytes + 64 : 0;
+    return vlqStsOk;
+}
+
+template <class Kind>
+VlqStatus release(typename Kind::Spec* spec) {
+    if (!spec) return vlqStsNullPtr;
+    if (spec->ident != Kind::ident) return vlqStsBadSpec;
+    spec->ident = 0;
+    if (spec->owned == 1) vlqsFree(spec);
+    return vlqStsOk;
+}
+
+}  // namespace vlq::fft
