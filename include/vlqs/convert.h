@@ -1,6 +1,8 @@
 /**
  * @file convert.h
  * @brief Conversion between sample types.
+ *
+ * Integer results saturate silently. No conversion gives a warning.
  */
 #ifndef VLQS_CONVERT_H
 #define VLQS_CONVERT_H
@@ -8,6 +10,68 @@
 #include "vlqs/types.h"
 
 VLQS_BEGIN_DECLS
+
+/**
+ * @name Integers to floats
+ *
+ * `dst[i] = src[i]`, exact. Only a 32-bit integer in a 32-bit float is rounded, in the direction
+ * that the calling thread's floating-point control word asks for.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment, and do not overlap;
+ * vlqsConvert_32s32f may run in place.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src  samples
+ * @param dst  result
+ * @param len  number of elements
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_8s32f(const Vlq8s* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_8u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_16s32f(const Vlq16s* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_16u32f(const Vlq16u* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_32s32f(const Vlq32s* src, Vlq32f* dst, Vlq32s len);
+/** @} */
+
+/**
+ * @name Floats to integers, scaled and rounded
+ *
+ * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`. @p rndMode 0 drops the fraction, 1 takes the
+ * nearest integer and the even one of two equally near, any other value the nearest and the one
+ * farther from zero of two equally near. The product is formed in the source's precision with a
+ * factor that is infinite or zero where 2^-scaleFactor leaves the type. A not-a-number, a product
+ * of zero and infinity included, gives the top value of the integer type.
+ *
+ * The result does not depend on the rounding or flushing that the calling thread has set.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment. @p dst may begin where @p src
+ * does; other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ * No rounding mode and no scale factor is refused.
+ *
+ * **Memory.** None.
+ *
+ * @param src         samples
+ * @param dst         result
+ * @param len         number of elements
+ * @param rndMode     rounding, see VlqRoundMode
+ * @param scaleFactor negated exponent of the factor
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f8u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f16s_Sfs(const Vlq32f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f16u_Sfs(const Vlq32f* src, Vlq16u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f32s_Sfs(const Vlq32f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_64f16s_Sfs(const Vlq64f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+/** @} */
 
 VLQS_END_DECLS
 

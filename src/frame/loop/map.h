@@ -8,12 +8,6 @@
 
 namespace vlq {
 
-// N consecutive vectors of memory: what a block holds of a type wider than its narrowest.
-template <class T, int N>
-struct Block {
-    Vec<T> part[N];
-};
-
 namespace detail {
 
 template <class... T>

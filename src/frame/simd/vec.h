@@ -98,6 +98,12 @@ struct Vec {
     static Vec fromBits(BitsRaw b) { return Vec((RawType)b); }
 };
 
+// N vectors of consecutive memory: a vector of a narrow type once its elements are widened.
+template <class T, int N>
+struct Block {
+    Vec<T> part[N];
+};
+
 // The same bits seen as lanes of another type.
 template <class To, class T, int B>
 inline Vec<To, B> bitCast(Vec<T, B> v) {

@@ -1,0 +1,79 @@
+#include "arith/convert_float_kernels.h"
+
+#include "frame/simd/control.h"
+#include "vlqs/convert.h"
+
+namespace {
+
+using namespace vlq::convert;
+using vlq::StandardFloatMode;
+
+template <class From, class To, class Op>
+VlqStatus plain(const From* src, To* dst, std::int64_t len, Op op) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    vlq::mapBlocks(dst, len, op, src);
+    return vlqStsOk;
+}
+
+// With these scale factors a product rounds to the same integer whether subnormals are kept or
+// flushed, and however it is rounded where it is subnormal: all such products lie below one half.
+template <class T>
+bool subnormalsVanish(Vlq32s scaleFactor) {
+    return scaleFactor >= std::numeric_limits<T>::min_exponent && scaleFactor <= -std::numeric_limits<T>::min_exponent + 1;
+}
+
+template <class From, class To, class Scale, class Round>
+void run(const From* src, To* dst, Vlq32s len, Scale scale, Round round, bool flushingMatters) {
+    const StandardFloatMode hold(Round::usesControlWord || flushingMatters);
+    vlq::mapBlocks(dst, len, ToInteger<To, Scale, Round>{scale, round}, src);
+}
+
+template <class From, class To>
+VlqStatus toInteger(const From* src, To* dst, Vlq32s len, VlqRoundMode mode, Vlq32s scaleFactor) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    const bool flushingMatters = !subnormalsVanish<From>(scaleFactor);
+    auto withScale = [&](auto scale) {
+        switch (mode) {
+            case vlqRndZero: run(src, dst, len, scale, Zero{}, flushingMatters); break;
+            case vlqRndNear: run(src, dst, len, scale, Nearest{}, flushingMatters); break;
+            default: run(src, dst, len, scale, NearestAway{}, flushingMatters);
+        }
+    };
+    if (scaleFactor == 0) withScale(Unscaled<From>{});
+    else withScale(Times<From>{stepwisePower<From>(scaleFactor)});
+    return vlqStsOk;
+}
+
+}  // namespace
+
+// ---- integers to floats ----------------------------------------------------------------------------
+VlqStatus vlq::vlqsConvert_8s32f(const Vlq8s* src, Vlq32f* dst, Vlq32s len) { return plain(src, dst, len, ToFloat{}); }
+VlqStatus vlq::vlqsConvert_8u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len) { return plain(src, dst, len, ToFloat{}); }
+VlqStatus vlq::vlqsConvert_16s32f(const Vlq16s* src, Vlq32f* dst, Vlq32s len) { return plain(src, dst, len, ToFloat{}); }
+VlqStatus vlq::vlqsConvert_16u32f(const Vlq16u* src, Vlq32f* dst, Vlq32s len) { return plain(src, dst, len, ToFloat{}); }
+VlqStatus vlq::vlqsConvert_32s32f(const Vlq32s* src, Vlq32f* dst, Vlq32s len) { return plain(src, dst, len, ToFloat{}); }
+
+// ---- floats to integers ----------------------------------------------------------------------------
+VlqStatus vlq::vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_32f8u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_32f16s_Sfs(const Vlq32f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_32f16u_Sfs(const Vlq32f* src, Vlq16u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_32f32s_Sfs(const Vlq32f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_64f16s_Sfs(const Vlq64f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
