@@ -126,6 +126,67 @@ VlqStatus vlqsMove_64sc(const Vlq64sc* src, Vlq64sc* dst, Vlq32s len);
 VlqStatus vlqsMove_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
 /** @} */
 
+/** @name Reverse
+ *  @{ */
+/**
+ * `dst[i] = src[len - 1 - i]`; the `_I` forms work on @p srcDst.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be @p src; other
+ * overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src    source
+ * @arg @c dst    result
+ * @arg @c srcDst source and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFlip_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsFlip_8u_I(Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsFlip_16u(const Vlq16u* src, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsFlip_16u_I(Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsFlip_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsFlip_32f_I(Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsFlip_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsFlip_64f_I(Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsFlip_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsFlip_32fc_I(Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsFlip_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsFlip_64fc_I(Vlq64fc* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Byte swap
+ *  @{ */
+/**
+ * The bytes of each element change their order: little-endian samples become big-endian ones and
+ * back. The `24u` forms take packed samples of three bytes.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be @p src; other
+ * overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src    source
+ * @arg @c dst    result
+ * @arg @c srcDst source and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsSwapBytes_16u(const Vlq16u* src, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsSwapBytes_16u_I(Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsSwapBytes_24u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsSwapBytes_24u_I(Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsSwapBytes_32u(const Vlq32u* src, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsSwapBytes_32u_I(Vlq32u* srcDst, Vlq32s len);
+VlqStatus vlqsSwapBytes_64u(const Vlq64u* src, Vlq64u* dst, Vlq32s len);
+VlqStatus vlqsSwapBytes_64u_I(Vlq64u* srcDst, Vlq32s len);
+/** @} */
+
 /** @name Bitwise logic of two vectors
  *  @{ */
 /**
@@ -149,6 +210,169 @@ VlqStatus vlqsMove_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
  */
 VlqStatus vlqsAnd_8u(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len);
 VlqStatus vlqsAnd_8u_I(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsAnd_16u(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsAnd_16u_I(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsAnd_32u(const Vlq32u* src1, const Vlq32u* src2, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsAnd_32u_I(const Vlq32u* src, Vlq32u* srcDst, Vlq32s len);
+VlqStatus vlqsOr_8u(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsOr_8u_I(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsOr_16u(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsOr_16u_I(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsOr_32u(const Vlq32u* src1, const Vlq32u* src2, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsOr_32u_I(const Vlq32u* src, Vlq32u* srcDst, Vlq32s len);
+VlqStatus vlqsXor_8u(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsXor_8u_I(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsXor_16u(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsXor_16u_I(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsXor_32u(const Vlq32u* src1, const Vlq32u* src2, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsXor_32u_I(const Vlq32u* src, Vlq32u* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Bitwise logic with a constant
+ *  @{ */
+/**
+ * `dst[i] = src[i] op val` with op AND, OR or XOR; the `_I` forms work on @p srcDst.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be @p src; other
+ * overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ * With @p val 0, AND tests only @p src and then clears @p dst as vlqsZero does; OR and XOR copy as
+ * vlqsCopy does.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src    first operand
+ * @arg @c val    second operand of every element
+ * @arg @c dst    result
+ * @arg @c srcDst operand and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsAndC_8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsAndC_8u_I(Vlq8u val, Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsAndC_16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsAndC_16u_I(Vlq16u val, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsAndC_32u(const Vlq32u* src, Vlq32u val, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsAndC_32u_I(Vlq32u val, Vlq32u* srcDst, Vlq32s len);
+VlqStatus vlqsOrC_8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsOrC_8u_I(Vlq8u val, Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsOrC_16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsOrC_16u_I(Vlq16u val, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsOrC_32u(const Vlq32u* src, Vlq32u val, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsOrC_32u_I(Vlq32u val, Vlq32u* srcDst, Vlq32s len);
+VlqStatus vlqsXorC_8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsXorC_8u_I(Vlq8u val, Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsXorC_16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsXorC_16u_I(Vlq16u val, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsXorC_32u(const Vlq32u* src, Vlq32u val, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsXorC_32u_I(Vlq32u val, Vlq32u* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Bitwise complement
+ *  @{ */
+/**
+ * `dst[i] = ~src[i]`; the `_I` forms work on @p srcDst.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be @p src; other
+ * overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src    operand
+ * @arg @c dst    result
+ * @arg @c srcDst operand and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsNot_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsNot_8u_I(Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsNot_16u(const Vlq16u* src, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsNot_16u_I(Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsNot_32u(const Vlq32u* src, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsNot_32u_I(Vlq32u* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Shifts by a constant
+ *  @{ */
+/**
+ * `dst[i] = src[i] << val` (LShiftC) or `src[i] >> val` (RShiftC); the `_I` forms work on
+ * @p srcDst. Bits that leave the element are lost, without saturation. A right shift of a signed
+ * type is arithmetic. A @p val of the element's width or more leaves 0, or, from the right shift of
+ * a signed element, its sign in every bit.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be @p src; other
+ * overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
+ * #vlqStsBadShift for a negative @p val. With @p val 0 the call is a vlqsCopy. Where a large @p val
+ * clears, only @p src is tested and the call is a vlqsZero.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src    operand
+ * @arg @c val    number of bits
+ * @arg @c dst    result
+ * @arg @c srcDst operand and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsLShiftC_8u(const Vlq8u* src, Vlq32s val, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsLShiftC_8u_I(Vlq32s val, Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsLShiftC_16s(const Vlq16s* src, Vlq32s val, Vlq16s* dst, Vlq32s len);
+VlqStatus vlqsLShiftC_16s_I(Vlq32s val, Vlq16s* srcDst, Vlq32s len);
+VlqStatus vlqsLShiftC_16u(const Vlq16u* src, Vlq32s val, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsLShiftC_16u_I(Vlq32s val, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsLShiftC_32s(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len);
+VlqStatus vlqsLShiftC_32s_I(Vlq32s val, Vlq32s* srcDst, Vlq32s len);
+VlqStatus vlqsRShiftC_8u(const Vlq8u* src, Vlq32s val, Vlq8u* dst, Vlq32s len);
+VlqStatus vlqsRShiftC_8u_I(Vlq32s val, Vlq8u* srcDst, Vlq32s len);
+VlqStatus vlqsRShiftC_16s(const Vlq16s* src, Vlq32s val, Vlq16s* dst, Vlq32s len);
+VlqStatus vlqsRShiftC_16s_I(Vlq32s val, Vlq16s* srcDst, Vlq32s len);
+VlqStatus vlqsRShiftC_16u(const Vlq16u* src, Vlq32s val, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsRShiftC_16u_I(Vlq32s val, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsRShiftC_32s(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len);
+VlqStatus vlqsRShiftC_32s_I(Vlq32s val, Vlq32s* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Bit streams
+ *  @{ */
+/**
+ * Bits are numbered from the most significant bit of each byte.
+ *
+ * vlqsCopy_1u copies @p len bits from bit @p srcBitOffset of @p src to bit @p dstBitOffset of
+ * @p dst. Only an offset's value modulo 8 counts: the pointer names the byte that holds the first
+ * bit. Bits of @p dst outside the range keep their values, and no byte that holds no bit of the
+ * range is read or written.
+ *
+ * vlqsPackBits_32u8u writes the low `widths[i]` bits of each `src[i]`, most significant first, one
+ * after another from bit @p dstBitOffset of @p dst on (an offset of 8 or more passes whole bytes).
+ * The bits before the offset keep their values; the bits after the last one written are cleared to
+ * the end of its byte. A width below 0 counts as 0, one above 32 as 32. `*pDstBitOffset` receives
+ * @p dstBitOffset plus the number of bits written, modulo 2^32: the offset at which a next call
+ * goes on. When all widths are 0, no byte is written.
+ *
+ * **Shapes.** Any alignment; source and destination do not overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer, #vlqStsBadSize for @p len below 1 or
+ * a negative offset.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src           bits or values
+ * @arg @c srcBitOffset  first bit of the source
+ * @arg @c widths        number of bits of each value
+ * @arg @c dst           result
+ * @arg @c dstBitOffset  first bit of the result
+ * @arg @c len           number of bits, or of values
+ * @arg @c pDstBitOffset receives the bit offset of the end of the result
+ * @return #vlqStsOk, an error above, or the warning #vlqStsWarnBitWidth where a width was brought
+ *         into 0 to 32.
+ */
+VlqStatus vlqsCopy_1u(const Vlq8u* src, Vlq32s srcBitOffset, Vlq8u* dst, Vlq32s dstBitOffset, Vlq32s len);
+VlqStatus vlqsPackBits_32u8u(const Vlq32u* src, const Vlq32s* widths, Vlq32s len, Vlq8u* dst, Vlq32s dstBitOffset, Vlq32s* pDstBitOffset);
 /** @} */
 
 VLQS_END_DECLS

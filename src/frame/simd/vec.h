@@ -161,6 +161,13 @@ template <class T, int B>
 inline void store(T* p, Vec<T, B> v) {
     std::memcpy(p, &v.raw, B);
 }
+// One element, at any address.
+template <class T>
+inline T loadScalar(const T* p) {
+    T value;
+    std::memcpy(&value, p, sizeof(T));
+    return value;
+}
 // p stands on a boundary of the vector.
 template <class T, int B = kVecBytes>
 inline Vec<T, B> loadAligned(const T* p) {
