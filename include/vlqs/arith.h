@@ -9,6 +9,17 @@
 
 VLQS_BEGIN_DECLS
 
+/* ADD */
+VlqStatus vlqsAdd_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len);
+VlqStatus vlqsAdd_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len);
+VlqStatus vlqsAdd_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len);
+VlqStatus vlqsSub_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len);
+VlqStatus vlqsSub_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+/* ADD END */
+
 /** @name Clear
  *  @{ */
 /**

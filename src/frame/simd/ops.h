@@ -167,6 +167,13 @@ inline Vec<T, B> shiftRight(Vec<T, B> v, int count) {
         auto words = bitCast<std::uint16_t>(v);
         const auto keep = Vec<T, B>::broadcast(static_cast<T>(0xFFu >> count));
         return bitCast<T>(shiftRight(words, count)) & keep;
+#if !defined(__AVX512VL__)
+    } else if constexpr (sizeof(T) == 8 && std::is_signed_v<T>) {
+        // No arithmetic shift of this width: shift in zeros, then spread the sign bit.
+        const auto moved = bitCast<T>(shiftRight(bitCast<std::uint64_t>(v), count));
+        const auto sign = Vec<T, B>::broadcast(static_cast<T>(std::uint64_t{1} << (63 - count)));
+        return (moved ^ sign) - sign;
+#endif
     } else {
         return Vec<T, B>(v.raw >> static_cast<T>(count));
     }

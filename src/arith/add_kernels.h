@@ -1,0 +1,98 @@
+// Sums and differences. Each operation gives what the scale rule asks of it: the saturated result,
+// half the result with ties to even, and the exact result split in half and odd bit, which fits
+// where the result itself has a bit too many for its lane.
+#pragma once
+
+#include "frame/loop/map.h"
+#include "frame/scale.h"
+
+namespace vlq::add {
+
+// a + b
+struct Sum {
+    // Unsigned sums reach one bit further than signed ones; a tie of the largest goes to 0.
+    template <class T>
+    static constexpr int vanishesFrom = std::numeric_limits<T>::digits + 2;
+
+    template <class T>
+    static Vec<T> saturated(Vec<T> a, Vec<T> b) { return addSat(a, b); }
+    // The sum's lowest bit marks a tie, and the even neighbour is the upper one less its own.
+    template <class T>
+    static Vec<T> half(Vec<T> a, Vec<T> b) {
+        return meanUp(a, b) & ~((a ^ b) & Vec<T>::broadcast(1));
+    }
+    template <class T>
+    static Halved<T> halved(Vec<T> a, Vec<T> b) {
+        const auto odd = a ^ b;
+        return {(a & b) + shiftRight(odd, 1), odd};
+    }
+};
+// 64 is where the 64-bit sum is given up, though the largest ones would still round to 1 or -1.
+template <>
+inline constexpr int Sum::vanishesFrom<std::int64_t> = 64;
+
+// a - b. An unsigned difference below 0 is 0 at every scale.
+struct Difference {
+    template <class T>
+    static constexpr int vanishesFrom = std::numeric_limits<T>::digits + (std::is_signed_v<T> ? 2 : 1);
+
+    template <class T>
+    static Vec<T> saturated(Vec<T> a, Vec<T> b) { return subSat(a, b); }
+    template <class T>
+    static Vec<T> half(Vec<T> a, Vec<T> b) {
+        if constexpr (std::is_unsigned_v<T>) {
+            return Sum::half(subSat(a, b), Vec<T>::zero());
+        } else {
+            // A tie goes up from an odd half, except from the largest, which has no neighbour above.
+            const auto [floor, odd] = halved(a, b);
+            const auto up = floor & odd & Vec<T>::broadcast(1);
+            if constexpr (sizeof(T) == 2) return addSat(floor, up);
+            else return floor + (up & ~(floor == Vec<T>::broadcast(std::numeric_limits<T>::max())));
+        }
+    }
+    template <class T>
+    static Halved<T> halved(Vec<T> a, Vec<T> b) {
+        if constexpr (std::is_unsigned_v<T>) {
+            const auto difference = subSat(a, b);
+            return {shiftRight(difference, 1), difference};
+        } else {
+            const auto odd = a ^ b;
+            return {shiftRight(odd, 1) - (b & ~a), odd};
+        }
+    }
+};
+
+// The scale factor that leaves an unsigned sum nothing but its carry: 1 where a + b lies above
+// the carry's weight, which is the tie.
+template <class T>
+struct CarryOfSum {
+    Vec<T> operator()(Vec<T> a, Vec<T> b) const {
+        const auto one = Vec<T>::broadcast(1);
+        const auto aboveHighest = subSat(a, ~b);
+        return one + bitCast<T>(subSat(aboveHighest, one) == Vec<T>::zero());
+    }
+};
+
+// Hands `run` the operation on two vectors that serves this scale factor; not for a range that
+// vanishes.
+template <class Op, class T, class Run>
+inline void withScale(std::int32_t scaleFactor, Run run) {
+    using V = Vec<T>;
+    switch (classify<Op, T>(scaleFactor)) {
+    case Scaling::None:
+        return run([](V a, V b) { return Op::saturated(a, b); });
+    case Scaling::Left:
+        return run([scale = ScaleLeft<T>(scaleFactor)](V a, V b) { return scale(Op::saturated(a, b)); });
+    case Scaling::Half:
+        return run([](V a, V b) { return Op::half(a, b); });
+    case Scaling::Right:
+        if constexpr (std::is_unsigned_v<T> && std::is_same_v<Op, Sum>) {
+            if (scaleFactor > std::numeric_limits<T>::digits) return run(CarryOfSum<T>{});
+        }
+        return run([scale = ScaleRight<T>(scaleFactor)](V a, V b) { return scale(Op::halved(a, b)); });
+    case Scaling::Vanish:
+        return;
+    }
+}
+
+}  // namespace vlq::add

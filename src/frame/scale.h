@@ -1,0 +1,96 @@
+// The scale rule: how an exact integer result e becomes a stored sample of type T.
+//
+//     dst = clamp(round(e * 2^-scaleFactor)),    round: to nearest, ties to the even integer
+//
+// Every 32-bit scale factor is legal. Its range is classified once, before the loop; each range
+// has a policy below that holds its constants as vectors and never forms e in full where e is
+// wider than a lane:
+//
+//     Scaling::None     dst = clamp(e)                  the family's saturating operation
+//     Scaling::Left     dst = clamp(clamp(e) * 2^n)     ScaleLeft, on the saturated result
+//     Scaling::Half     one bit rounded off             the family's own trick, or RoundRight
+//     Scaling::Right    more bits rounded off           ScaleRight, on e split in half and odd
+//                                                       bit, or RoundRight, in wider lanes
+//     Scaling::Vanish   dst = 0 for every e             a clear of the destination
+//
+// Clamping before a left shift is exact: a value outside the range stays outside it.
+#pragma once
+
+#include "frame/simd/saturate.h"
+
+namespace vlq {
+
+enum class Scaling { None, Left, Half, Right, Vanish };
+
+// Family::vanishesFrom<T> is the first scale factor at which no operands give anything but 0.
+template <class Family, class T>
+constexpr Scaling classify(std::int32_t scaleFactor) {
+    if (scaleFactor == 0) return Scaling::None;
+    if (scaleFactor < 0) return Scaling::Left;
+    if (scaleFactor >= Family::template vanishesFrom<T>) return Scaling::Vanish;
+    return scaleFactor == 1 ? Scaling::Half : Scaling::Right;
+}
+
+// Negative scale factors. The count ends at the value bits of T: from there on any value but 0
+// saturates, and a longer shift changes nothing.
+template <class T>
+class ScaleLeft {
+public:
+    explicit ScaleLeft(std::int32_t scaleFactor) : count_(scaleFactor < -kBits ? kBits : -scaleFactor) {}
+    Vec<T> operator()(Vec<T> clamped) const { return shiftLeftSat(clamped, count_); }
+
+private:
+    static constexpr int kBits = std::numeric_limits<T>::digits;
+    int count_;
+};
+
+// An exact integer of one bit more than T: e = 2 half + (lowest bit of odd). The other bits of odd
+// mean nothing.
+template <class T>
+struct Halved {
+    Vec<T> half;
+    Vec<T> odd;
+};
+
+// e * 2^-scaleFactor for 2 <= scaleFactor <= width of T.
+template <class T>
+class ScaleRight {
+public:
+    explicit ScaleRight(std::int32_t scaleFactor)
+        : shift_(scaleFactor - 1),
+          remainder_(Vec<T>::broadcast(static_cast<T>((Wide{1} << shift_) - 1))),
+          middle_(Vec<T>::broadcast(static_cast<T>(Wide{1} << (shift_ - 1)))) {}
+
+    Vec<T> operator()(Halved<T> e) const {
+        using S = BitsOf<T>;
+        const auto quotient = shiftRight(e.half, shift_);
+        // On the middle itself a set odd bit lies above the tie, and a tie goes up from an odd quotient.
+        const auto tip = (e.odd | quotient) & Vec<T>::broadcast(1);
+        const auto up = isAbove(bitCast<S>(e.half & remainder_), bitCast<S>(middle_ - tip));
+        return quotient - bitCast<T>(up);
+    }
+
+private:
+    using Wide = std::uint64_t;
+    int shift_;  // of the half
+    Vec<T> remainder_, middle_;
+};
+
+// e * 2^-scaleFactor for results that fit their lane with room for half a quotient more:
+// |e| + 2^(scaleFactor-1) lies in T, 1 <= scaleFactor < width of T. The result is not clamped.
+template <class T>
+class RoundRight {
+public:
+    explicit RoundRight(std::int32_t scaleFactor)
+        : shift_(scaleFactor), bias_(Vec<T>::broadcast(static_cast<T>((std::uint64_t{1} << (scaleFactor - 1)) - 1))) {}
+    Vec<T> operator()(Vec<T> e) const {
+        const auto odd = shiftRight(e, shift_) & Vec<T>::broadcast(1);
+        return shiftRight(e + bias_ + odd, shift_);
+    }
+
+private:
+    int shift_;
+    Vec<T> bias_;
+};
+
+}  // namespace vlq
