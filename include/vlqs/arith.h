@@ -9,7 +9,40 @@
 
 VLQS_BEGIN_DECLS
 
-/* ADD */
+/** @name Sum and difference of two vectors
+ *  @{ */
+/**
+ * Sum: `dst[i] = src1[i] + src2[i]`, in place `srcDst[i] += src[i]`. Difference: the second vector
+ * is the minuend, `dst[i] = src2[i] - src1[i]`, in place `srcDst[i] -= src[i]`.
+ *
+ * Integer results e are exact at any width and stored by the form:
+ * - `_Sfs`, `_ISfs`: `e * 2^-scaleFactor`, rounded to the nearest integer, ties to the even one, and
+ *   saturated. Every scale factor is legal. An unsigned difference below 0 is 0.
+ * - The other integer forms saturate e to the type of the result. `_8u16u` and `_16s32f` hold any e.
+ *   `_16s32s_I` adds 16-bit samples to 32-bit ones.
+ *
+ * Float results are one IEEE operation in the precision of the samples. Complex samples are pairs of
+ * independent reals.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be one of the sources;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ * Complex forms: #vlqStsBadSize for @p len below 1, #vlqStsNullPtr, #vlqStsBadSize for @p len of 2^30
+ * or more.
+ *
+ * **Memory.** None. Float sums, not in place, of more than 5461 blocks of 32 bytes go past the cache
+ * where @p dst stands on a 16-byte boundary.
+ *
+ * @arg @c src1        first operand
+ * @arg @c src2        second operand, the minuend of a difference
+ * @arg @c src         operand of the in-place forms
+ * @arg @c dst         result
+ * @arg @c srcDst      result and other operand of the in-place forms, the minuend of a difference
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor the result is multiplied by 2^-scaleFactor
+ * @return #vlqStsOk or an error above.
+ */
 VlqStatus vlqsAdd_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len);
 VlqStatus vlqsAdd_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len);
 VlqStatus vlqsAdd_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
@@ -18,7 +51,7 @@ VlqStatus vlqsSub_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32
 VlqStatus vlqsSub_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len);
 VlqStatus vlqsSub_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsSub_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
-/* ADD END */
+/** @} */
 
 /** @name Clear
  *  @{ */
