@@ -1,96 +1,107 @@
 #include "fourier/kernel/complex.h"
 
-#include <cmath>
-#include <cstring>
-#include <utility>
+#include "fourier/kernel/large.h"
+#include "fourier/kernel/passes.h"
+#include "fourier/kernel/small.h"
+#include "fourier/plan/complex_plan.h"
+#include "fourier/plan/passes.h"
 
 namespace vlq::fft {
 namespace {
 
-template <class T>
-T get(const T* p) {
-    T v;
-    std::memcpy(&v, p, sizeof(T));
-    return v;
+template <class T, int B, bool scaled, class In, class Out>
+void later(int radix, In in, Out out, std::ptrdiff_t n, std::ptrdiff_t span, const T* table, T scale) {
+    switch (radix) {
+        case 4: return laterPass<T, B, 4, scaled>(in, out, n, span, table, scale);
+        case 8: return laterPass<T, B, 8, scaled>(in, out, n, span, table, scale);
+        default: return laterPass<T, B, 16, scaled>(in, out, n, span, table, scale);
+    }
 }
-template <class T>
-void put(T* p, T v) { std::memcpy(p, &v, sizeof(T)); }
 
-// In place, decimated in time, one value at a time, element i at re[i * step], im[i * step].
-template <class T, Direction direction>
-void transformInPlace(int order, const T* table, T* re, T* im, std::ptrdiff_t step, T scale) {
+// All passes of one order: from src to `work`, then between `work` and `middle`, which is the
+// memory of dst in the form that passes use among themselves, and at last to dst.
+template <class T, int B, class In, class Middle, class Out>
+void runPasses(const PassPlan& plan, int order, const T* table, In src, Middle work, Middle middle, Out dst, T scale,
+               bool scaled) {
+    constexpr int lanes = Vec<T, B>::lanes;
     const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
-    for (std::ptrdiff_t i = 1, j = 0; i < n; ++i) {
-        std::ptrdiff_t bit = n >> 1;
-        for (; j & bit; bit >>= 1) j ^= bit;
-        j ^= bit;
-        if (i >= j) continue;
-        for (T* a : {re, im}) {
-            const T x = get(a + i * step), y = get(a + j * step);
-            put(a + i * step, y);
-            put(a + j * step, x);
-        }
+    const T eighth = order % 2 ? kEightPoint<T> : kRootHalf<T>;
+    if constexpr (lanes <= 8) {
+        if (plan.first == 8) firstPass<T, B, 8>(src, work, n, eighth);
     }
-    for (std::ptrdiff_t span = 1; span < n; span *= 2) {
-        for (std::ptrdiff_t k = 0; k < span; ++k) {
-            T c, s;
-            if (table) {
-                c = table[2 * k * (n / 2 / span)];
-                s = table[2 * k * (n / 2 / span) + 1];
-            } else {
-                const double angle = -3.14159265358979323846 * static_cast<double>(k) / static_cast<double>(span);
-                c = static_cast<T>(std::cos(angle));
-                s = static_cast<T>(std::sin(angle));
-            }
-            if (direction == Direction::inverse) s = -s;
-            for (std::ptrdiff_t g = k; g < n; g += 2 * span) {
-                T *ar = re + g * step, *ai = im + g * step, *br = ar + span * step, *bi = ai + span * step;
-                const T xr = get(br) * c - get(bi) * s, xi = get(br) * s + get(bi) * c;
-                const T yr = get(ar), yi = get(ai);
-                put(ar, yr + xr);
-                put(ai, yi + xi);
-                put(br, yr - xr);
-                put(bi, yi - xi);
-            }
-        }
+    if (plan.first == 16) firstPass<T, B, 16>(src, work, n, eighth);
+    std::ptrdiff_t span = plan.first;
+    Middle from = work, to = middle;
+    for (int i = 0; i + 1 < plan.count; ++i) {
+        const int radix = plan.radix[i];
+        later<T, B, false>(radix, from, to, n, span, table, scale);
+        table += 2 * (radix - 1) * span;
+        span *= radix;
+        std::swap(from, to);
     }
-    for (std::ptrdiff_t i = 0; i < n; ++i) {
-        put(re + i * step, get(re + i * step) * scale);
-        put(im + i * step, get(im + i * step) * scale);
+    const int radix = plan.radix[plan.count - 1];
+    if (scaled) later<T, B, true>(radix, from, dst, n, span, table, scale);
+    else later<T, B, false>(radix, from, dst, n, span, table, scale);
+}
+
+template <class T, class In, class Middle, class Out>
+void inCache(int order, const FloatingRecord<T>& record, In src, Middle work, Middle middle, Out dst, bool scaled) {
+    const PassPlan plan = passPlan<T>(order);
+    const T* table = record.twiddleTable;
+    auto run = [&]<int B>(std::integral_constant<int, B>) {
+        runPasses<T, B>(plan, order, table, src, work, middle, dst, record.normFactor, scaled);
+    };
+    if constexpr (kVecBytes == 64) {
+        if (plan.bytes == 64) return run(std::integral_constant<int, 64>{});
     }
+    if constexpr (kVecBytes >= 32) {
+        if (plan.bytes == 32) return run(std::integral_constant<int, 32>{});
+    }
+    if constexpr (kVecBytes == 16) run(std::integral_constant<int, 16>{});
 }
 
 }  // namespace
 
 template <class T, Direction direction>
-void complexTransform(int order, const FloatingRecord<T>& record, const T* src, T* dst, void*, bool scaled) {
-    if (src != dst) std::memcpy(static_cast<void*>(dst), src, (2 * sizeof(T)) << order);
-    transformInPlace<T, direction>(order, record.twiddleTable, dst, dst + 1, 2, scaled ? record.normFactor : T(1));
+void complexTransform(int order, const FloatingRecord<T>& record, const T* src, T* dst, void* work, bool scaled) {
+    constexpr bool exchanged = direction == Direction::inverse;
+    if (order <= ComplexLimits<T>::straightLine) {
+        const Interleaved<const T, exchanged> in{src};
+        const Interleaved<T, exchanged> out{dst};
+        return scaled ? smallTransform<T, true>(order, in, out, record.normFactor)
+                      : smallTransform<T, false>(order, in, out, T(1));
+    }
+    if (order > ComplexLimits<T>::inCache) return largeTransform<T, direction>(order, record, src, src + 1, dst, dst + 1, 2, scaled);
+    inCache<T>(order, record, Interleaved<const T, exchanged>{src}, Blocks<T>{static_cast<T*>(work)}, Blocks<T>{dst},
+               Interleaved<T, exchanged>{dst}, scaled);
 }
 
 template <class T, Direction direction>
 void splitTransform(int order, const FloatingRecord<T>& record, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
-                    void*, bool scaled) {
-    if (srcRe != dstRe) std::memcpy(static_cast<void*>(dstRe), srcRe, sizeof(T) << order);
-    if (srcIm != dstIm) std::memcpy(static_cast<void*>(dstIm), srcIm, sizeof(T) << order);
-    transformInPlace<T, direction>(order, record.twiddleTable, dstRe, dstIm, 1, scaled ? record.normFactor : T(1));
+                    void* work, bool scaled) {
+    if (order > ComplexLimits<T>::inCache) return largeTransform<T, direction>(order, record, srcRe, srcIm, dstRe, dstIm, 1, scaled);
+    if constexpr (direction == Direction::inverse) {
+        std::swap(srcRe, srcIm);
+        std::swap(dstRe, dstIm);
+    }
+    if (order <= ComplexLimits<T>::straightLine) {
+        const Parts<const T> in{srcRe, srcIm};
+        const Parts<T> out{dstRe, dstIm};
+        return scaled ? smallTransform<T, true>(order, in, out, record.normFactor)
+                      : smallTransform<T, false>(order, in, out, T(1));
+    }
+    T* plane = static_cast<T*>(work);
+    inCache<T>(order, record, Parts<const T>{srcRe, srcIm}, Planes<T>{plane, plane + (std::ptrdiff_t{1} << order)},
+               Planes<T>{dstRe, dstIm}, Parts<T>{dstRe, dstIm}, scaled);
 }
 
-template void complexTransform<Vlq32f, Direction::forward>(int, const FloatingRecord<Vlq32f>&, const Vlq32f*, Vlq32f*,
-                                                           void*, bool);
-template void complexTransform<Vlq32f, Direction::inverse>(int, const FloatingRecord<Vlq32f>&, const Vlq32f*, Vlq32f*,
-                                                           void*, bool);
-template void complexTransform<Vlq64f, Direction::forward>(int, const FloatingRecord<Vlq64f>&, const Vlq64f*, Vlq64f*,
-                                                           void*, bool);
-template void complexTransform<Vlq64f, Direction::inverse>(int, const FloatingRecord<Vlq64f>&, const Vlq64f*, Vlq64f*,
-                                                           void*, bool);
-template void splitTransform<Vlq32f, Direction::forward>(int, const FloatingRecord<Vlq32f>&, const Vlq32f*,
-                                                         const Vlq32f*, Vlq32f*, Vlq32f*, void*, bool);
-template void splitTransform<Vlq32f, Direction::inverse>(int, const FloatingRecord<Vlq32f>&, const Vlq32f*,
-                                                         const Vlq32f*, Vlq32f*, Vlq32f*, void*, bool);
-template void splitTransform<Vlq64f, Direction::forward>(int, const FloatingRecord<Vlq64f>&, const Vlq64f*,
-                                                         const Vlq64f*, Vlq64f*, Vlq64f*, void*, bool);
-template void splitTransform<Vlq64f, Direction::inverse>(int, const FloatingRecord<Vlq64f>&, const Vlq64f*,
-                                                         const Vlq64f*, Vlq64f*, Vlq64f*, void*, bool);
+#define VLQ_TRANSFORMS(T, direction)                                                                               \
+    template void complexTransform<T, direction>(int, const FloatingRecord<T>&, const T*, T*, void*, bool);        \
+    template void splitTransform<T, direction>(int, const FloatingRecord<T>&, const T*, const T*, T*, T*, void*, bool);
+VLQ_TRANSFORMS(Vlq32f, Direction::forward)
+VLQ_TRANSFORMS(Vlq32f, Direction::inverse)
+VLQ_TRANSFORMS(Vlq64f, Direction::forward)
+VLQ_TRANSFORMS(Vlq64f, Direction::inverse)
+#undef VLQ_TRANSFORMS
 
 }  // namespace vlq::fft

@@ -1,8 +1,11 @@
 #include "fourier/plan/complex_plan.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "fourier/plan/large.h"
+#include "fourier/plan/passes.h"
+#include "frame/simd/split.h"
 
 namespace vlq::fft {
 namespace {
@@ -32,6 +35,47 @@ template <class T>
 constexpr Vlq64s quarterWaveBytes(int order) {
     constexpr Vlq64s element = sizeof(T);
     return roundDown(element * (powerOfTwo(order - 2) + 1) + 63, 64);
+}
+
+template <class T>
+int laneOrder(int bytes, int lane) {
+    return bytes == 16 ? splitLane<T, 16>(lane) : bytes == 32 ? splitLane<T, 32>(lane) : splitLane<T, 64>(lane);
+}
+
+// The twiddles of every pass after the first, in the order in which the pass reads them: for each
+// vector of columns k the R - 1 factors of a radix-R pass, real parts and then imaginary parts.
+template <class T>
+T* buildPassTable(int order, const SineTable<T>& sine, Cursor& cursor) {
+    const PassPlan plan = passPlan<T>(order);
+    const int lanes = plan.bytes / static_cast<int>(sizeof(T));
+    T* const table = cursor.take<T>(2 * (powerOfTwo(order) - plan.first), kTableAlignment);
+    T* next = table;
+    int spanBits = std::countr_zero(static_cast<unsigned>(plan.first));
+    auto append = [&](int unitBits, Vlq64s factor, Vlq64s column) {
+        for (int lane = 0; lane < lanes; ++lane) {
+            const Vlq64s k = column + laneOrder<T>(plan.bytes, lane);
+            const Twiddle<T> w = twiddle(sine, unitBits, factor * k);
+            next[lane] = w.re;
+            next[lanes + lane] = w.im;
+        }
+        next += 2 * lanes;
+    };
+    for (int pass = 0; pass < plan.count; ++pass) {
+        const int radix = plan.radix[pass], radixBits = std::countr_zero(static_cast<unsigned>(radix));
+        const Vlq64s span = powerOfTwo(spanBits);
+        for (Vlq64s k = 0; k < span; k += lanes) {
+            if (radix == 16) {
+                for (int i = 1; i < 4; ++i) append(spanBits + 2, i, k);
+                for (int q = 0; q < 4; ++q) {
+                    for (int m = 1; m < 4; ++m) append(spanBits + 4, m, k + q * span);
+                }
+            } else {
+                for (int p = 1; p < radix; ++p) append(spanBits + radixBits, p, k);
+            }
+        }
+        spanBits += radixBits;
+    }
+    return table;
 }
 
 // Table and work of a large order, without the record and the slack.
@@ -75,13 +119,7 @@ void buildComplexTables(FloatingRecord<T>& record, int order, const SineTable<T>
     record.workBytes = static_cast<Vlq32s>(complexSizes<T>(order).work - 64);
     if (order > Limits::inCache) return;
 
-    T* table = cursor.take<T>(2 * powerOfTwo(order), kTableAlignment);
-    record.twiddleTable = table;
-    for (Vlq64s k = 0; k < powerOfTwo(order); ++k) {
-        const Twiddle<T> w = twiddle(sine, order, k);
-        table[2 * k] = w.re;
-        table[2 * k + 1] = w.im;
-    }
+    record.twiddleTable = buildPassTable<T>(order, sine, cursor);
 }
 
 template PlanSizes complexSizes<Vlq32f>(int);

@@ -163,4 +163,29 @@ inline void storeSplitBackward(T* p, Split<T, B> v) {
     store(p + Vec<T, B>::lanes, b);
 }
 
+// ---- lanes -----------------------------------------------------------------------------------
+// From memory order to splitLane order and back, for parts that come in arrays of their own.
+template <class T>
+inline Vec<T, 16> toSplitLanes(Vec<T, 16> v) { return v; }
+template <class T>
+inline Vec<T, 16> fromSplitLanes(Vec<T, 16> v) { return v; }
+#if VLQ_SIMD_BYTES >= 32
+template <class T>
+inline Vec<T, 32> toSplitLanes(Vec<T, 32> v) {
+    return fromRegister<T>(_mm256_permute4x64_epi64(asInt(v), _MM_SHUFFLE(3, 1, 2, 0)));
+}
+template <class T>
+inline Vec<T, 32> fromSplitLanes(Vec<T, 32> v) { return toSplitLanes(v); }
+#endif
+#if VLQ_SIMD_BYTES >= 64
+template <class T>
+inline Vec<T, 64> toSplitLanes(Vec<T, 64> v) {
+    return fromRegister<T>(_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 4, 1, 5, 2, 6, 3, 7), asInt(v)));
+}
+template <class T>
+inline Vec<T, 64> fromSplitLanes(Vec<T, 64> v) {
+    return fromRegister<T>(_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), asInt(v)));
+}
+#endif
+
 }  // namespace vlq

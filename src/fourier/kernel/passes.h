@@ -1,0 +1,180 @@
+// The passes of the self-sorting transform. Before a pass of radix R, groups of `span` values
+// hold the transforms of the n / span sequences that every (n / span)-th value makes; it combines
+// R groups at distance n / R into one of R * span. Reads are R streams in order, writes are
+// contiguous groups. A pass whose groups are the last ones (R * span = n) may run in place.
+#pragma once
+
+#include "fourier/kernel/butterflies.h"
+#include "fourier/kernel/views.h"
+#include "frame/simd/transpose.h"
+
+namespace vlq::fft {
+
+// exp(-2 pi i e / 16) for the products e of 1, 2, 3 with 1, 2, 3.
+inline constexpr double kCosine16 = 0.92387953251128675613, kSine16 = 0.38268343236508977173;
+
+template <class V>
+[[gnu::always_inline]] inline Split<typename V::Scalar, V::bytes> constantTwiddle(double re, double im) {
+    using T = typename V::Scalar;
+    return {V::broadcast(static_cast<T>(re)), V::broadcast(static_cast<T>(im))};
+}
+
+// Sixteen values as four by four; get(p) gives input p, put(q, value) takes output q. eighth is
+// the factor of the eight-point transform in it.
+template <class T, int B, class Get, class Put>
+[[gnu::always_inline]] inline void dft16(T eighth, Get&& get, Put&& put) {
+    using V = Vec<T, B>;
+    using S = Split<T, B>;
+    S t[16];
+    unroll<4>([&](auto m) __attribute__((always_inline)) {
+        S a = get(m), b = get(m + 4), c = get(m + 8), d = get(m + 12);
+        dft4(a, b, c, d);
+        t[m] = a;
+        t[m + 4] = b;
+        t[m + 8] = c;
+        t[m + 12] = d;
+    });
+    const V half = V::broadcast(kRootHalf<T>), first = V::broadcast(eighth);
+    auto turn1 = [](S v, V h) __attribute__((always_inline)) { return S{(v.re + v.im) * h, (v.im - v.re) * h}; };
+    auto turn3 = [](S v, V h) __attribute__((always_inline)) {
+        return S{(v.im - v.re) * h, (v.re + v.im) * (V::zero() - h)};
+    };
+    const S w1 = constantTwiddle<V>(kCosine16, -kSine16), w3 = constantTwiddle<V>(kSine16, -kCosine16),
+            w9 = constantTwiddle<V>(-kCosine16, kSine16);
+    unroll<4>([&](auto q) __attribute__((always_inline)) {
+        S a = t[4 * q], b = t[4 * q + 1], c = t[4 * q + 2], d = t[4 * q + 3];
+        if constexpr (q == 1) {
+            b = b * w1;
+            c = turn1(c, first);
+            d = d * w3;
+        } else if constexpr (q == 2) {
+            b = turn1(b, half);
+            c = S{c.im, V::zero() - c.re};
+            d = turn3(d, half);
+        } else if constexpr (q == 3) {
+            b = b * w3;
+            c = turn3(c, first);
+            d = d * w9;
+        }
+        dft4(a, b, c, d);
+        put(std::integral_constant<int, q>{}, a);
+        put(std::integral_constant<int, q + 4>{}, b);
+        put(std::integral_constant<int, q + 8>{}, c);
+        put(std::integral_constant<int, q + 12>{}, d);
+    });
+}
+
+// Vectors of `lanes` outputs each become `lanes` contiguous runs of R outputs.
+template <int R, class T, int B, class Out>
+[[gnu::always_inline]] inline void putTransposed(Out out, std::ptrdiff_t j, const Split<T, B> (&y)[R]) {
+    using V = Vec<T, B>;
+    constexpr int lanes = V::lanes;
+    unroll<R / lanes>([&](auto part) __attribute__((always_inline)) {
+        V re[lanes], im[lanes];
+        unroll<lanes>([&](auto i) __attribute__((always_inline)) {
+            re[i] = y[part * lanes + splitLane<T, B>(i)].re;
+            im[i] = y[part * lanes + splitLane<T, B>(i)].im;
+        });
+        transpose(re);
+        transpose(im);
+        unroll<lanes>([&](auto i) __attribute__((always_inline)) {
+            out.template put<B>((j + splitLane<T, B>(i)) * R + part * lanes, Split<T, B>{re[i], im[i]});
+        });
+    });
+}
+
+// The first pass, span 1.
+template <class T, int B, int R, class In, class Out>
+void firstPass(In in, Out out, std::ptrdiff_t n, T eighth) {
+    using V = Vec<T, B>;
+    using S = Split<T, B>;
+    const std::ptrdiff_t stride = n / R;
+    for (std::ptrdiff_t j = 0; j < stride; j += V::lanes) {
+        S y[R];
+        if constexpr (R == 16) {
+            dft16<T, B>(
+                eighth, [&](auto p) __attribute__((always_inline)) { return in.template get<B>(j + p * stride); },
+                [&](auto q, S v) __attribute__((always_inline)) { y[q] = v; });
+        } else {
+            unroll<R>([&](auto p) __attribute__((always_inline)) { y[p] = in.template get<B>(j + p * stride); });
+            if constexpr (R == 8) dft8(y, V::broadcast(eighth));
+            else dft4(y[0], y[1], y[2], y[3]);
+        }
+        putTransposed<R>(out, j, y);
+    }
+}
+
+template <class T, int B>
+[[gnu::always_inline]] inline Split<T, B> tableTwiddle(const T* table, int index) {
+    return {loadAligned<T, B>(table + 2 * index * Vec<T, B>::lanes),
+            loadAligned<T, B>(table + (2 * index + 1) * Vec<T, B>::lanes)};
+}
+
+// A later pass: R * lanes values from in(i + p * stride) to out(o + q * span), R - 1 twiddles.
+template <class T, int B, int R, class Get, class Put>
+[[gnu::always_inline]] inline void combine(const T* table, Get&& get, Put&& put) {
+    using V = Vec<T, B>;
+    using S = Split<T, B>;
+    if constexpr (R == 4) {
+        S a = get(std::integral_constant<int, 0>{}), b = get(std::integral_constant<int, 1>{}) * tableTwiddle<T, B>(table, 0),
+          c = get(std::integral_constant<int, 2>{}) * tableTwiddle<T, B>(table, 1),
+          d = get(std::integral_constant<int, 3>{}) * tableTwiddle<T, B>(table, 2);
+        dft4(a, b, c, d);
+        put(std::integral_constant<int, 0>{}, a);
+        put(std::integral_constant<int, 1>{}, b);
+        put(std::integral_constant<int, 2>{}, c);
+        put(std::integral_constant<int, 3>{}, d);
+    } else if constexpr (R == 8) {
+        S x[8];
+        x[0] = get(std::integral_constant<int, 0>{});
+        unroll<7>([&](auto p) __attribute__((always_inline)) {
+            x[p + 1] = get(std::integral_constant<int, p + 1>{}) * tableTwiddle<T, B>(table, p);
+        });
+        dft8(x, V::broadcast(kRootHalf<T>));
+        unroll<8>([&](auto q) __attribute__((always_inline)) { put(q, x[q]); });
+    } else {
+        // Two stages of radix 4; the first has the same three twiddles throughout.
+        S t[16];
+        unroll<4>([&](auto m) __attribute__((always_inline)) {
+            S a = get(std::integral_constant<int, m>{}),
+              b = get(std::integral_constant<int, m + 4>{}) * tableTwiddle<T, B>(table, 0),
+              c = get(std::integral_constant<int, m + 8>{}) * tableTwiddle<T, B>(table, 1),
+              d = get(std::integral_constant<int, m + 12>{}) * tableTwiddle<T, B>(table, 2);
+            dft4(a, b, c, d);
+            t[m] = a;
+            t[m + 4] = b;
+            t[m + 8] = c;
+            t[m + 12] = d;
+        });
+        unroll<4>([&](auto q) __attribute__((always_inline)) {
+            S a = t[4 * q], b = t[4 * q + 1] * tableTwiddle<T, B>(table, 3 * q + 3),
+              c = t[4 * q + 2] * tableTwiddle<T, B>(table, 3 * q + 4),
+              d = t[4 * q + 3] * tableTwiddle<T, B>(table, 3 * q + 5);
+            dft4(a, b, c, d);
+            put(std::integral_constant<int, q>{}, a);
+            put(std::integral_constant<int, q + 4>{}, b);
+            put(std::integral_constant<int, q + 8>{}, c);
+            put(std::integral_constant<int, q + 12>{}, d);
+        });
+    }
+}
+
+template <class T, int B, int R, bool scaled, class In, class Out>
+void laterPass(In in, Out out, std::ptrdiff_t n, std::ptrdiff_t span, const T* table, T scale) {
+    using V = Vec<T, B>;
+    using S = Split<T, B>;
+    const std::ptrdiff_t stride = n / R;
+    [[maybe_unused]] const V factor = V::broadcast(scale);
+    for (std::ptrdiff_t group = 0; group < stride; group += span) {
+        const T* w = table;
+        for (std::ptrdiff_t k = 0; k < span; k += V::lanes, w += 2 * (R - 1) * V::lanes) {
+            combine<T, B, R>(
+                w, [&](auto p) __attribute__((always_inline)) { return in.template get<B>(group + k + p * stride); },
+                [&](auto q, S v) __attribute__((always_inline)) {
+                    out.template put<B>(group * R + k + q * span, scaled ? times(v, factor) : v);
+                });
+        }
+    }
+}
+
+}  // namespace vlq::fft
