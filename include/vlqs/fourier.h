@@ -110,6 +110,128 @@ VlqStatus vlqsFFTFwd_CToC_32f(const Vlq32f* srcRe, const Vlq32f* srcIm, Vlq32f* 
 VlqStatus vlqsFFTFwd_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTInv_CToC_32f(const Vlq32f* srcRe, const Vlq32f* srcIm, Vlq32f* dstRe, Vlq32f* dstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTInv_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
+
+/**
+ * @name Real transforms of 2^order points: records
+ *
+ * A record holds the order, the normalisation and all tables of a transform of `N = 2^order` real
+ * points. `GetSize` tells how many bytes each part needs; `Init` builds the record in the caller's
+ * memory and `InitAlloc` in memory of its own; `GetBufSize` tells the work buffer of one transform;
+ * `Free` ends the record's life and releases what `InitAlloc` took.
+ *
+ * **Shapes.** Orders 0 to 29 in single precision. @p specMem and @p initBuf may stand at any
+ * address. The record stands at the first 64-byte boundary in @p specMem; it refers to itself and
+ * must not be moved. @p initBuf is free again when `Init` returns; up to order 10 it may be null.
+ * A transform reads the record only: one record serves several threads at a time.
+ *
+ * **Errors,** in this order. `GetSize`: #vlqStsBadOrder for an order below 0 or above 30,
+ * #vlqStsNullPtr for a null result pointer, #vlqStsBadFlag, #vlqStsBadOrder above the largest order.
+ * `Init`: #vlqStsNullPtr for @p outSpec, #vlqStsBadOrder, #vlqStsNullPtr for @p specMem,
+ * #vlqStsBadFlag, #vlqStsNullPtr for @p initBuf. `InitAlloc`: #vlqStsNullPtr, those of `GetSize`,
+ * #vlqStsNoMemory. `GetBufSize` and `Free`: #vlqStsNullPtr for a null pointer, #vlqStsBadSpec for a
+ * record that is dead or of another kind.
+ *
+ * **Memory.** `InitAlloc` allocates the record and, while it works, the scratch of `Init`.
+ *
+ * @param order     log2 of the number of points
+ * @param flag      normalisation: #vlqNormFwdByN, #vlqNormInvByN, #vlqNormBySqrtN or #vlqNormNone
+ * @param hint      kept in the record, without effect
+ * @param specBytes size of the record and its tables
+ * @param initBytes size of the scratch of `Init`, 0 when it needs none
+ * @param workBytes size of the work buffer of a transform, 0 when it needs none
+ * @param outSpec   receives the address of the record
+ * @param specMem   memory of @p specBytes bytes
+ * @param initBuf   scratch of @p initBytes bytes
+ * @param spec      the record
+ * @param bufBytes  size of the work buffer of this record, 0 when it needs none
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+typedef struct VlqsFFTSpec_R_32f VlqsFFTSpec_R_32f;
+VlqStatus vlqsFFTGetSize_R_32f(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_R_32f(const VlqsFFTSpec_R_32f* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_R_32f(VlqsFFTSpec_R_32f* spec);
+/** @} */
+
+/**
+ * @name Real transforms of 2^order points
+ *
+ * `X[k] = f sum x[n] exp(-2 pi i n k / N)` for real x of `N = 2^order` points, and the inverse
+ * `x[n] = g sum X[k] exp(2 pi i n k / N)`; f and g are 1, `1/N` or `1/sqrt(N)` as the record's
+ * normalisation says. `X[N-k]` is the conjugate of `X[k]`, so half of the spectrum tells all; three
+ * layouts hold it:
+ *
+ * - CCS, N + 2 values: `Re X[0], 0, Re X[1], Im X[1], ..., Re X[N/2], 0`
+ * - Pack, N values: `Re X[0], Re X[1], Im X[1], ..., Re X[N/2]`
+ * - Perm, N values: `Re X[0], Re X[N/2], Re X[1], Im X[1], ...`; the quickest, as all work in it
+ *
+ * One point: CCS is `x, 0`, the others `x`.
+ *
+ * **Shapes.** Signals have N elements, any alignment. Source and destination are one vector or do
+ * not overlap; an in-place vector for CCS has N + 2 elements. The work buffer has the size that
+ * `GetBufSize` tells, any alignment; its contents are lost.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for @p spec, #vlqStsBadSpec for a record that is dead
+ * or of another kind, #vlqStsNullPtr for a vector, #vlqStsNoMemory.
+ *
+ * **Memory.** None with a work buffer. When @p buf is null and the record needs one, it is
+ * allocated for the call.
+ *
+ * **Source.** A complex transform of N/2 points and the separation of its two interleaved signals:
+ * Brigham, The Fast Fourier Transform and its Applications, 1988, section 9.3.
+ *
+ * @param src    signal, or spectrum for the inverse
+ * @param dst    spectrum, or signal for the inverse
+ * @param srcDst both, of the in-place forms
+ * @param spec   record
+ * @param buf    work buffer or null
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsFFTFwd_RToCCS_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToCCS_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPack_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPack_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPerm_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPerm_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PackToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PackToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PermToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PermToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+/** @} */
+
+/**
+ * @name Products of packed spectra
+ *
+ * The spectrum of a cyclic convolution: real terms multiply, complex values multiply as such,
+ * `(ar br - ai bi, ar bi + ai br)`, each product rounded. In Pack the first value is real, and the
+ * last one of an even @p len; in Perm the first, and the second of an even @p len. The others are
+ * pairs. The `_I` forms compute `srcDst = src srcDst`.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be one of the sources;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param srcA   first spectrum
+ * @param srcB   second spectrum
+ * @param src    first spectrum of the in-place forms
+ * @param dst    product
+ * @param srcDst second spectrum and product of the in-place forms
+ * @param len    number of elements
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsMulPack_32f(const Vlq32f* srcA, const Vlq32f* srcB, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsMulPack_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsMulPerm_32f(const Vlq32f* srcA, const Vlq32f* srcB, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsMulPerm_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
 /** @} */
 
 VLQS_END_DECLS

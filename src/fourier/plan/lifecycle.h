@@ -67,9 +67,8 @@ VlqStatus initAlloc(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, Vl
 
 template <class Kind>
 VlqStatus getBufSize(const typename Kind::Spec* spec, Vlq32s* bufBytes) {
-    if (!spec) return vlqStsNullPtr;
+    if (!spec || !bufBytes) return vlqStsNullPtr;
     if (spec->ident != Kind::ident) return vlqStsBadSpec;
-    if (!bufBytes) return vlqStsNullPtr;
     *bufBytes = spec->workBytes > 0 ? spec->workBytes + 64 : 0;
     return vlqStsOk;
 }

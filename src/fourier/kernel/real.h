@@ -1,0 +1,134 @@
+// The real power-of-two transform in each layout of the spectrum. N = 2^record.order.
+//   Perm: X[0], X[N/2], then real and imaginary parts of X[1] to X[N/2-1]; the kernels' own form.
+//   Pack: X[0], the same values, X[N/2].
+//   CCS:  all values as complex numbers from X[0] to X[N/2], N + 2 elements.
+#pragma once
+
+#include <cstring>
+
+#include "fourier/kernel/real_recombine.h"
+#include "fourier/kernel/real_small.h"
+
+namespace vlq::fft {
+
+enum class Layout { perm, pack, ccs };
+
+namespace detail {
+
+// One element at any address.
+template <class T>
+inline T get(const T* p) {
+    T value;
+    std::memcpy(&value, p, sizeof value);
+    return value;
+}
+template <class T>
+inline void put(T* p, T value) { std::memcpy(p, &value, sizeof value); }
+
+// Layout to Perm or back for n values; src may be dst.
+template <Layout layout, class T>
+inline void permToLayout(T* data, std::ptrdiff_t n) {
+    if constexpr (layout == Layout::pack) {
+        if (n < 4) return;
+        const T nyquist = get(data + 1);
+        std::memmove(data + 1, data + 2, static_cast<std::size_t>(n - 2) * sizeof(T));
+        put(data + n - 1, nyquist);
+    }
+    if constexpr (layout == Layout::ccs) {
+        if (n > 1) {
+            put(data + n, get(data + 1));
+            put(data + n + 1, T(0));
+        }
+        put(data + 1, T(0));
+    }
+}
+
+template <Layout layout, int order, class T>
+inline void forwardSmall(const T* src, T* dst, bool scaled, T factor) {
+    constexpr int n = 1 << order;
+    T x[n], spectrum[n];
+    std::memcpy(x, src, sizeof x);
+    realForward<order, 1>(x, spectrum);
+    if (scaled) {
+        for (T& value : spectrum) value *= factor;
+    }
+    std::memcpy(dst, spectrum, sizeof spectrum);
+    permToLayout<layout>(dst, n);
+}
+
+template <Layout layout, int order, class T>
+inline void inverseSmall(const T* src, T* dst, bool scaled, T factor) {
+    constexpr int n = 1 << order;
+    T spectrum[n], x[n];
+    if constexpr (layout == Layout::perm || n == 1) {
+        std::memcpy(spectrum, src, sizeof spectrum);
+    } else {
+        spectrum[0] = get(src);
+        spectrum[1] = get(src + (layout == Layout::ccs ? n : n - 1));
+        std::memcpy(spectrum + 2, src + (layout == Layout::ccs ? 2 : 1), (n - 2) * sizeof(T));
+    }
+    realInverse<order, 1>(spectrum, x);
+    if (scaled) {
+        for (T& value : x) value *= factor;
+    }
+    std::memcpy(dst, x, sizeof x);
+}
+
+}  // namespace detail
+
+// dst = spectrum of src, scaled if the record says so. src may be dst. `work` as in complexTransform.
+template <Layout layout, class T>
+inline void realForwardTransform(const FloatingRecord<T>& record, const T* src, T* dst, void* work) {
+    const int order = record.order;
+    const bool scaled = record.doFwdScale != 0;
+    switch (order) {
+        case 0: return detail::forwardSmall<layout, 0>(src, dst, scaled, record.normFactor);
+        case 1: return detail::forwardSmall<layout, 1>(src, dst, scaled, record.normFactor);
+        case 2: return detail::forwardSmall<layout, 2>(src, dst, scaled, record.normFactor);
+        case 3: return detail::forwardSmall<layout, 3>(src, dst, scaled, record.normFactor);
+        case 4: return detail::forwardSmall<layout, 4>(src, dst, scaled, record.normFactor);
+        default: break;
+    }
+    if constexpr (RealLimits<T>::straightLine >= 5) {
+        if (order == 5) return detail::forwardSmall<layout, 5>(src, dst, scaled, record.normFactor);
+    }
+    complexTransform<T, Direction::forward>(order - 1, record, src, dst, work, scaled);
+    const T re = detail::get(dst), im = detail::get(dst + 1);
+    detail::put(dst, re + im);
+    detail::put(dst + 1, re - im);
+    recombine<Direction::forward>(order, record, dst + 2, dst + 2);
+    detail::permToLayout<layout>(dst, std::ptrdiff_t{1} << order);
+}
+
+// dst = signal of the spectrum src. src may be dst.
+template <Layout layout, class T>
+inline void realInverseTransform(const FloatingRecord<T>& record, const T* src, T* dst, void* work) {
+    const int order = record.order;
+    const bool scaled = record.doInvScale != 0;
+    switch (order) {
+        case 0: return detail::inverseSmall<layout, 0>(src, dst, scaled, record.normFactor);
+        case 1: return detail::inverseSmall<layout, 1>(src, dst, scaled, record.normFactor);
+        case 2: return detail::inverseSmall<layout, 2>(src, dst, scaled, record.normFactor);
+        case 3: return detail::inverseSmall<layout, 3>(src, dst, scaled, record.normFactor);
+        case 4: return detail::inverseSmall<layout, 4>(src, dst, scaled, record.normFactor);
+        default: break;
+    }
+    if constexpr (RealLimits<T>::straightLine >= 5) {
+        if (order == 5) return detail::inverseSmall<layout, 5>(src, dst, scaled, record.normFactor);
+    }
+    const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
+    const T mean = detail::get(src);
+    const T nyquist = detail::get(src + (layout == Layout::perm ? 1 : layout == Layout::pack ? n - 1 : n));
+    const T* values = src + (layout == Layout::pack ? 1 : 2);
+    if (layout == Layout::pack && src == dst) {
+        // In place the values first move up to where the pass leaves them.
+        std::memmove(dst + 2, values, static_cast<std::size_t>(n - 2) * sizeof(T));
+        values = dst + 2;
+    }
+    detail::put(dst, mean + nyquist);
+    detail::put(dst + 1, mean - nyquist);
+    recombine<Direction::inverse>(order, record, values, dst + 2);
+    complexTransform<T, Direction::inverse>(order - 1, record, dst, dst, work, scaled);
+}
+
+}  // namespace vlq::fft

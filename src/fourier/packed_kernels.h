@@ -1,0 +1,81 @@
+// Products of packed spectra.
+#pragma once
+
+#include <cstring>
+
+#include "frame/simd/split.h"
+
+namespace vlq::packed {
+
+// (a re + i a im) (b re + i b im), the sums as they stand: equal in every build.
+struct Product {
+    template <class V>
+    void operator()(V aRe, V aIm, V bRe, V bIm, V& re, V& im) const {
+        re = aRe * bRe - aIm * bIm;
+        im = aRe * bIm + aIm * bRe;
+    }
+};
+// a times the conjugate of b.
+struct ProductConjugate {
+    template <class V>
+    void operator()(V aRe, V aIm, V bRe, V bIm, V& re, V& im) const {
+        re = aRe * bRe + aIm * bIm;
+        im = bRe * aIm - aRe * bIm;
+    }
+};
+
+template <class T>
+inline void multiplyReal(const T* a, const T* b, T* dst) {
+    T x, y;
+    std::memcpy(&x, a, sizeof x);
+    std::memcpy(&y, b, sizeof y);
+    x *= y;
+    std::memcpy(dst, &x, sizeof x);
+}
+
+// Whole vectors of B bytes each from pair i on; returns where they end.
+template <int B, class T, class Op>
+inline std::ptrdiff_t multiplyVectors(const T* a, const T* b, T* dst, std::ptrdiff_t i, std::ptrdiff_t pairs, Op op) {
+    constexpr int lanes = Split<T, B>::lanes;
+    for (; i + lanes <= pairs; i += lanes) {
+        const auto x = loadSplit<T, B>(a + 2 * i), y = loadSplit<T, B>(b + 2 * i);
+        Split<T, B> product;
+        op(x.re, x.im, y.re, y.im, product.re, product.im);
+        storeSplit(dst + 2 * i, product);
+    }
+    return i;
+}
+
+// `pairs` complex values, interleaved; dst may be a or b.
+template <class T, class Op>
+inline void multiplyPairs(const T* a, const T* b, T* dst, std::ptrdiff_t pairs, Op op) {
+    std::ptrdiff_t i = multiplyVectors<kVecBytes>(a, b, dst, 0, pairs, op);
+    if constexpr (kVecBytes > 32) i = multiplyVectors<32>(a, b, dst, i, pairs, op);
+    if constexpr (kVecBytes > 16) i = multiplyVectors<16>(a, b, dst, i, pairs, op);
+    for (; i < pairs; ++i) {
+        T x[2], y[2], product[2];
+        std::memcpy(x, a + 2 * i, sizeof x);
+        std::memcpy(y, b + 2 * i, sizeof y);
+        op(x[0], x[1], y[0], y[1], product[0], product[1]);
+        std::memcpy(dst + 2 * i, product, sizeof product);
+    }
+}
+
+// A Pack spectrum of len values: a real term at the front, one at the end of an even length.
+template <class T, class Op>
+inline void multiplyPack(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op op) {
+    multiplyReal(a, b, dst);
+    if (len % 2 == 0) multiplyReal(a + len - 1, b + len - 1, dst + len - 1);
+    multiplyPairs(a + 1, b + 1, dst + 1, (len - 1) / 2, op);
+}
+
+// A Perm spectrum: both real terms at the front.
+template <class T, class Op>
+inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op op) {
+    const std::ptrdiff_t real = len % 2 == 0 ? 2 : 1;
+    multiplyReal(a, b, dst);
+    if (real == 2) multiplyReal(a + 1, b + 1, dst + 1);
+    multiplyPairs(a + real, b + real, dst + real, (len - real) / 2, op);
+}
+
+}  // namespace vlq::packed
