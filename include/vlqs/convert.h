@@ -14,11 +14,70 @@ VLQS_BEGIN_DECLS
 /**
  * @name Integers to floats
  *
- * `dst[i] = src[i]`, exact. Only a 32-bit integer in a 32-bit float is rounded, in the direction
- * that the calling thread's floating-point control word asks for.
+ * `dst[i] = src[i]`. Exact, but for the conversion of 32-bit integers to 32-bit floats and of
+ * 64-bit ones to 64-bit floats: these round in the direction that the calling thread's
+ * floating-point control word asks for.
  *
- * **Shapes.** Both vectors have @p len elements and any alignment, and do not overlap;
- * vlqsConvert_32s32f may run in place.
+ * **Shapes.** Both vectors have @p len elements and any alignment. Where the types are equally wide
+ * @p dst may be @p src; other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src  samples
+ * @param dst  result
+ * @param len  number of elements, unsigned in vlqsConvert_64s64f
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_8s32f(const Vlq8s* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_8u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_16s32f(const Vlq16s* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_16u32f(const Vlq16u* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_32s32f(const Vlq32s* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_32s64f(const Vlq32s* src, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsConvert_64s64f(const Vlq64s* src, Vlq64f* dst, Vlq32u len);
+/** @} */
+
+/**
+ * @name Integers to floats, scaled
+ *
+ * `dst[i] = src[i] * 2^-scaleFactor`, a conversion and a multiplication in the float type; a 32-bit
+ * integer in a 32-bit float is rounded by the conversion, in the direction that the calling
+ * thread's floating-point control word asks for. A scale factor outside the range of the form is
+ * replaced by the nearer end: -112 to 126 for `16s32f`, -1008 to 1022 for `16s64f`, -127 to 126 for
+ * `32s32f`, -1023 to 1022 for `32s64f`. A product past the float's range is infinite.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment. Where the types are equally wide
+ * @p dst may be @p src; other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src         samples
+ * @param dst         result
+ * @param len         number of elements
+ * @param scaleFactor negated exponent of the factor
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_16s32f_Sfs(const Vlq16s* src, Vlq32f* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_16s64f_Sfs(const Vlq16s* src, Vlq64f* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32s32f_Sfs(const Vlq32s* src, Vlq32f* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32s64f_Sfs(const Vlq32s* src, Vlq64f* dst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
+/**
+ * @name Floats to floats
+ *
+ * `dst[i] = src[i]`. Widening is exact, subnormals included; narrowing rounds, and flushes
+ * subnormals or keeps them, as the calling thread's floating-point control word asks for. A
+ * signalling not-a-number becomes quiet.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment. vlqsConvert_64f32f allows
+ * @p dst to begin where @p src does; other overlaps are not allowed.
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
  *
@@ -30,11 +89,8 @@ VLQS_BEGIN_DECLS
  * @return #vlqStsOk or an error above.
  * @{
  */
-VlqStatus vlqsConvert_8s32f(const Vlq8s* src, Vlq32f* dst, Vlq32s len);
-VlqStatus vlqsConvert_8u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
-VlqStatus vlqsConvert_16s32f(const Vlq16s* src, Vlq32f* dst, Vlq32s len);
-VlqStatus vlqsConvert_16u32f(const Vlq16u* src, Vlq32f* dst, Vlq32s len);
-VlqStatus vlqsConvert_32s32f(const Vlq32s* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_32f64f(const Vlq32f* src, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsConvert_64f32f(const Vlq64f* src, Vlq32f* dst, Vlq32s len);
 /** @} */
 
 /**
@@ -44,7 +100,8 @@ VlqStatus vlqsConvert_32s32f(const Vlq32s* src, Vlq32f* dst, Vlq32s len);
  * nearest integer and the even one of two equally near, any other value the nearest and the one
  * farther from zero of two equally near. The product is formed in the source's precision with a
  * factor that is infinite or zero where 2^-scaleFactor leaves the type. A not-a-number, a product
- * of zero and infinity included, gives the top value of the integer type.
+ * of zero and infinity included, gives the top value of the integer type; in vlqsConvert_64f64s_Sfs
+ * it gives the most negative one.
  *
  * The result does not depend on the rounding or flushing that the calling thread has set.
  *
@@ -58,7 +115,7 @@ VlqStatus vlqsConvert_32s32f(const Vlq32s* src, Vlq32f* dst, Vlq32s len);
  *
  * @param src         samples
  * @param dst         result
- * @param len         number of elements
+ * @param len         number of elements, unsigned in vlqsConvert_64f64s_Sfs
  * @param rndMode     rounding, see VlqRoundMode
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
@@ -71,6 +128,7 @@ VlqStatus vlqsConvert_32f16u_Sfs(const Vlq32f* src, Vlq16u* dst, Vlq32s len, Vlq
 VlqStatus vlqsConvert_32f32s_Sfs(const Vlq32f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 VlqStatus vlqsConvert_64f16s_Sfs(const Vlq64f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 VlqStatus vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 /** @} */
 
 VLQS_END_DECLS

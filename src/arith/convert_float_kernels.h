@@ -6,6 +6,7 @@
 
 #include "frame/loop/map.h"
 #include "frame/simd/convert.h"
+#include "frame/simd/int64.h"
 #include "frame/simd/ops.h"
 
 namespace vlq::convert {
@@ -29,16 +30,19 @@ struct Zero {
     static constexpr bool usesControlWord = false;
     template <class V>
     Vec<std::int32_t> operator()(V v) const { return toZero(v); }
+    Vec<std::int64_t> wide(Vec<double> v) const { return toZero64(v); }
 };
 struct Nearest {
     static constexpr bool usesControlWord = !kRoundingInInstruction;
     template <class V>
     Vec<std::int32_t> operator()(V v) const { return toNearest(v); }
+    Vec<std::int64_t> wide(Vec<double> v) const { return toNearest64(v); }
 };
 struct NearestAway {
     static constexpr bool usesControlWord = !kRoundingInInstruction;
     template <class V>
     Vec<std::int32_t> operator()(V v) const { return toNearestAway(v); }
+    Vec<std::int64_t> wide(Vec<double> v) const { return toNearestAway64(v); }
 };
 
 template <class T>
@@ -86,21 +90,76 @@ struct ToInteger {
     Block<To, 1> operator()(const Block<double, 2>& v) const { return {{convert(v.part[0], v.part[1])}}; }
 };
 
+// A not-a-number stays what the conversion answers, the most negative integer.
+template <class Scale, class Round>
+struct ToInteger64 {
+    Scale scale;
+    Round round;
+
+    Block<std::int64_t, 1> operator()(const Block<double, 1>& block) const {
+        const Vec<double> v = scale(block.part[0]);
+        const Vec<std::int64_t> tooLarge = v >= Vec<double>::broadcast(0x1p63);
+        return {{round.wide(v) ^ tooLarge}};
+    }
+};
+
+template <class To, class Scale, class Round>
+using IntegerOf = std::conditional_t<sizeof(To) == 8, ToInteger64<Scale, Round>, ToInteger<To, Scale, Round>>;
+
 // ---- integers to floats ----------------------------------------------------------------------------
+// 2^-scaleFactor as a normal number; the exponent has been brought into the type's range.
+template <class T>
+T normalPower(std::int32_t scaleFactor) {
+    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
+    constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
+    return std::bit_cast<T>(static_cast<Bits>(bias - scaleFactor) << (std::numeric_limits<T>::digits - 1));
+}
+
+template <class Scale>
 struct ToFloat {
+    Scale scale;
+
+    Vec<float> convert(Vec<std::int32_t> v) const { return scale(toFloat(v)); }
+    Vec<float> convert(Vec<std::uint32_t> v) const { return convert(bitCast<std::int32_t>(v)); }
+
     template <class T>
-    Block<float, 4> operator()(const Block<T, 1>& v) const requires(sizeof(T) == 1) {
+        requires(sizeof(T) == 1)
+    Block<float, 4> operator()(const Block<T, 1>& v) const {
         const auto w = widenTwice(v.part[0]);
-        Block<float, 4> result;
-        for (int i = 0; i < 4; ++i) result.part[i] = toFloat(bitCast<std::int32_t>(w.part[i]));
-        return result;
+        return {{convert(w.part[0]), convert(w.part[1]), convert(w.part[2]), convert(w.part[3])}};
     }
     template <class T>
-    Block<float, 2> operator()(const Block<T, 1>& v) const requires(sizeof(T) == 2) {
+        requires(sizeof(T) == 2)
+    Block<float, 2> operator()(const Block<T, 1>& v) const {
         const auto w = widen(v.part[0]);
-        return {{toFloat(bitCast<std::int32_t>(w.part[0])), toFloat(bitCast<std::int32_t>(w.part[1]))}};
+        return {{convert(w.part[0]), convert(w.part[1])}};
     }
-    Block<float, 1> operator()(const Block<std::int32_t, 1>& v) const { return {{toFloat(v.part[0])}}; }
+    Block<float, 1> operator()(const Block<std::int32_t, 1>& v) const { return {{convert(v.part[0])}}; }
+};
+
+template <class Scale>
+struct ToDouble {
+    Scale scale;
+
+    Block<double, 2> convert(Vec<std::int32_t> v) const {
+        const auto d = toDouble(v);
+        return {{scale(d.part[0]), scale(d.part[1])}};
+    }
+    Block<double, 4> operator()(const Block<std::int16_t, 1>& v) const {
+        const auto w = widen(v.part[0]);
+        const auto low = convert(w.part[0]), high = convert(w.part[1]);
+        return {{low.part[0], low.part[1], high.part[0], high.part[1]}};
+    }
+    Block<double, 2> operator()(const Block<std::int32_t, 1>& v) const { return convert(v.part[0]); }
+    Block<double, 1> operator()(const Block<std::int64_t, 1>& v) const { return {{toDouble(v.part[0])}}; }
+};
+
+// ---- floats to floats ------------------------------------------------------------------------------
+struct WidenFloat {
+    Block<double, 2> operator()(const Block<float, 1>& v) const { return toDouble(v.part[0]); }
+};
+struct NarrowDouble {
+    Block<float, 1> operator()(const Block<double, 2>& v) const { return {{toFloat(v)}}; }
 };
 
 }  // namespace vlq::convert

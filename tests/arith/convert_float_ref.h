@@ -27,7 +27,7 @@ template <class To, class From>
 To toIntegerRef(From value, int mode, std::int32_t scaleFactor) {
     constexpr long double low = std::numeric_limits<To>::min(), high = std::numeric_limits<To>::max();
     const From product = scaleFactor == 0 ? value : value * stepwiseFactor<From>(scaleFactor);
-    if (std::isnan(product)) return std::numeric_limits<To>::max();
+    if (std::isnan(product)) return sizeof(To) == 8 ? std::numeric_limits<To>::min() : std::numeric_limits<To>::max();
     const long double rounded = roundByMode(product, mode);
     return static_cast<To>(rounded < low ? low : rounded > high ? high : rounded);
 }

@@ -1,0 +1,98 @@
+// Lanes of 64-bit integers: shifts and conversions that only the widest build has as instructions.
+#pragma once
+
+#include "frame/simd/convert.h"
+#include "frame/simd/ops.h"
+
+namespace vlq {
+
+// All bits set where a lane is negative.
+inline Vec<std::int64_t> signMask(Vec<std::int64_t> v) {
+#if VLQ_SIMD_BYTES == 16
+    return fromRegister<std::int64_t>(_mm_shuffle_epi32(_mm_srai_epi32(asInt(v), 31), _MM_SHUFFLE(3, 3, 1, 1)));
+#elif VLQ_SIMD_BYTES == 32
+    return fromRegister<std::int64_t>(_mm256_cmpgt_epi64(_mm256_setzero_si256(), asInt(v)));
+#else
+    return fromRegister<std::int64_t>(_mm512_srai_epi64(asInt(v), 63));
+#endif
+}
+
+inline Vec<std::uint64_t> shiftRightLogical(Vec<std::int64_t> v, int count) {
+    return shiftRight(bitCast<std::uint64_t>(v), count);
+}
+
+// 1 <= count <= 63: a logical shift of the value moved up by 2^63, moved down again.
+inline Vec<std::int64_t> shiftRightArithmetic(Vec<std::int64_t> v, int count) {
+#if VLQ_SIMD_BYTES == 64
+    return fromRegister<std::int64_t>(_mm512_sra_epi64(asInt(v), _mm_cvtsi32_si128(count)));
+#else
+    using V = Vec<std::int64_t>;
+    const V moved = v ^ V::broadcast(std::numeric_limits<std::int64_t>::min());
+    return bitCast<std::int64_t>(shiftRightLogical(moved, count)) - V::broadcast(std::int64_t{1} << (63 - count));
+#endif
+}
+
+inline Vec<std::int32_t> narrowSat(Block<std::int64_t, 2> v) {
+#if VLQ_SIMD_BYTES == 64
+    return joinHalves(fromRegister<std::int32_t>(_mm512_cvtsepi64_epi32(asInt(v.part[0]))),
+                      fromRegister<std::int32_t>(_mm512_cvtsepi64_epi32(asInt(v.part[1]))));
+#else
+    using V = Vec<std::int32_t>;
+#if VLQ_SIMD_BYTES == 16
+    const __m128 a = _mm_castsi128_ps(asInt(v.part[0])), b = _mm_castsi128_ps(asInt(v.part[1]));
+    const V low = bitCast<std::int32_t>(Vec<float>(_mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0))));
+    const V high = bitCast<std::int32_t>(Vec<float>(_mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1))));
+#else
+    const __m256 a = _mm256_castsi256_ps(asInt(v.part[0])), b = _mm256_castsi256_ps(asInt(v.part[1]));
+    const V low = bitCast<std::int32_t>(Vec<float>(_mm256_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0))));
+    const V high = bitCast<std::int32_t>(Vec<float>(_mm256_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1))));
+#endif
+    const V limit = shiftRight(high, 31) ^ V::broadcast(std::numeric_limits<std::int32_t>::max());
+    const V result = select(shiftRight(low, 31) == high, low, limit);
+#if VLQ_SIMD_BYTES == 16
+    return result;
+#else
+    return fromRegister<std::int32_t>(detail::inOrder(asInt(result)));
+#endif
+#endif
+}
+
+// Rounded as the control word says.
+inline Vec<double> toDouble(Vec<std::int64_t> v) {
+#if VLQ_SIMD_BYTES == 64
+    return Vec<double>(_mm512_cvtepi64_pd(asInt(v)));
+#else
+    // The low word in the fraction of 2^52, the high word, moved up by 2^31, in that of 2^84. The
+    // difference is exact, so one rounding remains.
+    using I = Vec<std::int64_t>;
+    const I low = (v & I::broadcast(0xFFFFFFFF)) | I::broadcast(0x4330000000000000);
+    const I high = bitCast<std::int64_t>(shiftRightLogical(v, 32)) ^ I::broadcast(0x4530000080000000);
+    const Vec<double> sum = bitCast<double>(high) - Vec<double>::broadcast(0x1p84 + 0x1p63 + 0x1p52) + bitCast<double>(low);
+    // Rounding down makes -0 of 0: the sign is the integer's.
+    return sum & bitCast<double>(v | I::broadcast(std::numeric_limits<std::int64_t>::max()));
+#endif
+}
+
+// Doubles to 64-bit integers; out of range and not a number as in the 32-bit conversions, and the
+// same demand on the control word.
+#if VLQ_SIMD_BYTES == 64
+inline Vec<std::int64_t> toNearest64(Vec<double> v) {
+    return fromRegister<std::int64_t>(_mm512_cvt_roundpd_epi64(v.raw, detail::kNearest));
+}
+inline Vec<std::int64_t> toZero64(Vec<double> v) { return fromRegister<std::int64_t>(_mm512_cvttpd_epi64(v.raw)); }
+#else
+// One lane at a time: as fast as splitting a double into words.
+inline Vec<std::int64_t> toNearest64(Vec<double> v) {
+    Vec<std::int64_t> result;
+    for (int i = 0; i < Vec<double>::lanes; ++i) result.raw[i] = _mm_cvtsd_si64(_mm_set_sd(v[i]));
+    return result;
+}
+inline Vec<std::int64_t> toZero64(Vec<double> v) {
+    Vec<std::int64_t> result;
+    for (int i = 0; i < Vec<double>::lanes; ++i) result.raw[i] = _mm_cvttsd_si64(_mm_set_sd(v[i]));
+    return result;
+}
+#endif
+inline Vec<std::int64_t> toNearestAway64(Vec<double> v) { return toZero64(detail::plusAlmostHalf(v)); }
+
+}  // namespace vlq
