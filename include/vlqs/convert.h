@@ -12,6 +12,80 @@
 VLQS_BEGIN_DECLS
 
 /**
+ * @name Integers to wider integers
+ *
+ * `dst[i] = src[i]`.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment, and do not overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src  samples
+ * @param dst  result
+ * @param len  number of elements
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_8s16s(const Vlq8s* src, Vlq16s* dst, Vlq32s len);
+VlqStatus vlqsConvert_16s32s(const Vlq16s* src, Vlq32s* dst, Vlq32s len);
+/** @} */
+
+/**
+ * @name 32-bit integers to 16-bit ones
+ *
+ * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`, to the nearest integer and the even one of
+ * two equally near; vlqsConvert_32s16s is the case of a scale factor of 0. A scale factor above 31
+ * counts as 31, one below -15 as -15.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment. @p dst may begin where @p src
+ * does; other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src         samples
+ * @param dst         result
+ * @param len         number of elements
+ * @param scaleFactor negated exponent of the factor
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_32s16s(const Vlq32s* src, Vlq16s* dst, Vlq32s len);
+VlqStatus vlqsConvert_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
+/**
+ * @name Integers to integers of half the width, rounded by mode
+ *
+ * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`. @p rndMode 0 drops the fraction, 1 takes the
+ * nearest integer and the even one of two equally near, any other value the nearest and the one
+ * farther from zero of two equally near. In vlqsConvert_64s32s_Sfs a scale factor above 63 counts
+ * as 63.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment. @p dst may begin where @p src
+ * does; other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ * No rounding mode and no scale factor is refused.
+ *
+ * **Memory.** None.
+ *
+ * @param src         samples
+ * @param dst         result
+ * @param len         number of elements, unsigned in vlqsConvert_16s8s_Sfs
+ * @param rndMode     rounding, see VlqRoundMode
+ * @param scaleFactor negated exponent of the factor
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_16s8s_Sfs(const Vlq16s* src, Vlq8s* dst, Vlq32u len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_64s32s_Sfs(const Vlq64s* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+/** @} */
+
+/**
  * @name Integers to floats
  *
  * `dst[i] = src[i]`. Exact, but for the conversion of 32-bit integers to 32-bit floats and of

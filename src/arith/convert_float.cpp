@@ -123,7 +123,10 @@ VlqStatus vlq::vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len
 
 // ---- floats to floats ------------------------------------------------------------------------------
 VlqStatus vlq::vlqsConvert_32f64f(const Vlq32f* src, Vlq64f* dst, Vlq32s len) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    return plain(src, dst, len, WidenFloat{});
+    vlq::mapBlocks(dst, len, WidenFloat{}, src);
+    return vlqStsOk;
 }
 VlqStatus vlq::vlqsConvert_64f32f(const Vlq64f* src, Vlq32f* dst, Vlq32s len) { return plain(src, dst, len, NarrowDouble{}); }

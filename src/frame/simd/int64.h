@@ -1,36 +1,10 @@
-// Lanes of 64-bit integers: shifts and conversions that only the widest build has as instructions.
+// Conversions of 64-bit integers, which only the widest build has as instructions.
 #pragma once
 
 #include "frame/simd/convert.h"
 #include "frame/simd/ops.h"
 
 namespace vlq {
-
-// All bits set where a lane is negative.
-inline Vec<std::int64_t> signMask(Vec<std::int64_t> v) {
-#if VLQ_SIMD_BYTES == 16
-    return fromRegister<std::int64_t>(_mm_shuffle_epi32(_mm_srai_epi32(asInt(v), 31), _MM_SHUFFLE(3, 3, 1, 1)));
-#elif VLQ_SIMD_BYTES == 32
-    return fromRegister<std::int64_t>(_mm256_cmpgt_epi64(_mm256_setzero_si256(), asInt(v)));
-#else
-    return fromRegister<std::int64_t>(_mm512_srai_epi64(asInt(v), 63));
-#endif
-}
-
-inline Vec<std::uint64_t> shiftRightLogical(Vec<std::int64_t> v, int count) {
-    return shiftRight(bitCast<std::uint64_t>(v), count);
-}
-
-// 1 <= count <= 63: a logical shift of the value moved up by 2^63, moved down again.
-inline Vec<std::int64_t> shiftRightArithmetic(Vec<std::int64_t> v, int count) {
-#if VLQ_SIMD_BYTES == 64
-    return fromRegister<std::int64_t>(_mm512_sra_epi64(asInt(v), _mm_cvtsi32_si128(count)));
-#else
-    using V = Vec<std::int64_t>;
-    const V moved = v ^ V::broadcast(std::numeric_limits<std::int64_t>::min());
-    return bitCast<std::int64_t>(shiftRightLogical(moved, count)) - V::broadcast(std::int64_t{1} << (63 - count));
-#endif
-}
 
 inline Vec<std::int32_t> narrowSat(Block<std::int64_t, 2> v) {
 #if VLQ_SIMD_BYTES == 64
@@ -66,7 +40,7 @@ inline Vec<double> toDouble(Vec<std::int64_t> v) {
     // difference is exact, so one rounding remains.
     using I = Vec<std::int64_t>;
     const I low = (v & I::broadcast(0xFFFFFFFF)) | I::broadcast(0x4330000000000000);
-    const I high = bitCast<std::int64_t>(shiftRightLogical(v, 32)) ^ I::broadcast(0x4530000080000000);
+    const I high = bitCast<std::int64_t>(shiftRight(bitCast<std::uint64_t>(v), 32)) ^ I::broadcast(0x4530000080000000);
     const Vec<double> sum = bitCast<double>(high) - Vec<double>::broadcast(0x1p84 + 0x1p63 + 0x1p52) + bitCast<double>(low);
     // Rounding down makes -0 of 0: the sign is the integer's.
     return sum & bitCast<double>(v | I::broadcast(std::numeric_limits<std::int64_t>::max()));
