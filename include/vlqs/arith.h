@@ -53,6 +53,102 @@ VlqStatus vlqsSub_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, V
 VlqStatus vlqsSub_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
 /** @} */
 
+/** @name Products of floats
+ *  @{ */
+/**
+ * `dst[i] = src1[i] * src2[i]`; in place `srcDst[i] = srcDst[i] * src[i]`. Of complex values
+ * `(a + bi)(c + di) = (ac - bd) + (ad + bc)i`. The form of `16s` multiplies exactly and converts the
+ * product. Of two different types the first is that of the first vector, the second that of all others
+ * but for `16s32f`, where both sources have the first.
+ *
+ * Each product and each sum is rounded by itself in the element's precision, in all builds alike;
+ * infinities and what is not a number follow IEEE 754. There is no status for them.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be a source of its own type;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src1   first factor
+ * @arg @c src2   second factor
+ * @arg @c src    factor of the in-place forms
+ * @arg @c dst    result
+ * @arg @c srcDst factor and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsMul_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsMul_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsMul_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsMul_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsMul_32fc(const Vlq32fc* src1, const Vlq32fc* src2, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsMul_32fc_I(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsMul_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsMul_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsMul_32f32fc(const Vlq32f* src1, const Vlq32fc* src2, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsMul_32f32fc_I(const Vlq32f* src, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsMul_16s32f(const Vlq16s* src1, const Vlq16s* src2, Vlq32f* dst, Vlq32s len);
+/** @} */
+
+/** @name Products of floats and a constant
+ *  @{ */
+/**
+ * `dst[i] = src[i] * val`; in place `srcDst[i] = srcDst[i] * val`. Rounded as the products of vectors.
+ *
+ * **Shapes.** Vectors have @p len elements and any alignment. @p dst may be @p src; other overlaps
+ * are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src    factors
+ * @arg @c val    constant factor
+ * @arg @c dst    result
+ * @arg @c srcDst factors and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsMulC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsMulC_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsMulC_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsMulC_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsMulC_32fc(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsMulC_32fc_I(Vlq32fc val, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsMulC_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsMulC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Products added to a vector of floats
+ *  @{ */
+/**
+ * `srcDst[i] = srcDst[i] + src1[i] * src2[i]`, or `srcDst[i] + src[i] * val` with a constant. The product
+ * is rounded before it is added, in all builds alike.
+ *
+ * **Shapes.** Vectors have @p len elements and any alignment. @p srcDst may be a source; other overlaps
+ * are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src1   first factor
+ * @arg @c src2   second factor
+ * @arg @c src    factors that meet the constant
+ * @arg @c val    constant factor
+ * @arg @c srcDst sum so far, and the result
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsAddProduct_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsAddProduct_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsAddProduct_32fc(const Vlq32fc* src1, const Vlq32fc* src2, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsAddProduct_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsAddProductC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* srcDst, Vlq32s len);
+/** @} */
+
 /** @name Clear
  *  @{ */
 /**

@@ -47,7 +47,9 @@ inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
 }  // namespace detail
 
 // op takes one Block a source and gives a Block of D; a block is one vector of the narrowest type.
-template <class D, class Op, class... S>
+// Elements that belong together, as the two parts of a complex value, are a group: len counts
+// whole groups' elements and no group is split over two vectors.
+template <int group = 1, class D, class Op, class... S>
 inline void mapBlocks(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
     constexpr int count = kVecBytes / detail::kNarrowest<D, S...>;
     constexpr int dstParts = count / Vec<D>::lanes;
@@ -63,7 +65,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
     };
 
     const auto offset = reinterpret_cast<std::uintptr_t>(dst) % kVecBytes;
-    if (offset % sizeof(D) == 0 && offset != 0 && len > 4 * count) {
+    if (offset % (group * sizeof(D)) == 0 && offset != 0 && len > 4 * count) {
         const int head = static_cast<int>((kVecBytes - offset) / sizeof(D));
         partial(head);
         advance(head);
