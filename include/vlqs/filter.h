@@ -9,6 +9,134 @@
 
 VLQS_BEGIN_DECLS
 
+/** @name Records of FIR filters, opaque
+ *  The first type is that of the taps, the second that of the samples; one type stands for both.
+ *  @{ */
+typedef struct VlqsFIRState_32f VlqsFIRState_32f;
+typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s;
+/** @} */
+
+/**
+ * @name FIR: records
+ *
+ * A record holds a filter of @p tapsLen taps h and its delay line, the last @p tapsLen samples of
+ * the stream. `GetStateSize` tells the size of a record, `Init` builds one in memory of the
+ * caller's, `InitAlloc` in blocks of its own, `Free` ends it.
+ *
+ * **Shapes.** @p taps has @p tapsLen elements, h[0] first. @p dlyLine has as many, the newest sample
+ * first; where it is null the filter starts from silence. Both are copied. @p buffer has the size
+ * that `GetStateSize` tells and may begin at any address; the record lies somewhere inside and can
+ * be neither copied nor moved. A record whose size would reach 2 GiB cannot be built.
+ *
+ * **Threads.** A record has room for as many threads as the core library allows when its size is
+ * asked for and when it is built. That count must be the same for both calls, and must not be
+ * raised while the record is in use.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer other than @p dlyLine,
+ * #vlqStsBadTapCount for @p tapsLen below 1, #vlqStsNoMemory. Of `Free`: #vlqStsNullPtr,
+ * #vlqStsBadSpec for a record of another kind. A transform that cannot be prepared, for want of
+ * memory too, is no error: such a filter computes all blocks directly.
+ *
+ * **Memory.** `InitAlloc` allocates the record and, from 64 taps on, the record of a transform and
+ * for the call the scratch of building it; `Free` releases both. A record of `Init` may be
+ * abandoned, `Free` leaves it as it is.
+ *
+ * @param tapsLen    number of taps, at least 1
+ * @param stateBytes receives the size of a record
+ * @param outState   receives the record's address
+ * @param taps       impulse response
+ * @param dlyLine    past samples, or null
+ * @param buffer     memory for the record
+ * @param state      record
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsFIRGetStateSize_32f(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize32f_16s(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRInit_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInitAlloc_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine);
+VlqStatus vlqsFIRInitAlloc32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRFree_32f(VlqsFIRState_32f* state);
+VlqStatus vlqsFIRFree32f_16s(VlqsFIRState32f_16s* state);
+/** @} */
+
+/**
+ * @name FIR: taps and delay line
+ *
+ * `SetTaps` replaces the taps of a record and leaves its delay line, `GetTaps` reads them back, bit
+ * for bit. `SetDlyLine` replaces the delay line, with silence where @p dlyLine is null; `GetDlyLine`
+ * reads it.
+ *
+ * **Shapes.** @p taps and @p dlyLine have as many elements as the record has taps: h[0] first, and
+ * the newest sample first. `SetTaps` takes the taps before the record, unlike the other calls.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer other than the @p dlyLine of
+ * `SetDlyLine`, #vlqStsBadSpec for a record of another kind. If `SetTaps` cannot transform the new
+ * taps it returns the transform's error, and the record must not be used to filter any more.
+ *
+ * **Memory.** None.
+ *
+ * @param taps    impulse response
+ * @param dlyLine past samples
+ * @param state   record
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsFIRSetTaps_32f(const Vlq32f* taps, VlqsFIRState_32f* state);
+VlqStatus vlqsFIRSetTaps32f_16s(const Vlq32f* taps, VlqsFIRState32f_16s* state);
+VlqStatus vlqsFIRGetTaps_32f(const VlqsFIRState_32f* state, Vlq32f* taps);
+VlqStatus vlqsFIRGetTaps32f_16s(const VlqsFIRState32f_16s* state, Vlq32f* taps);
+VlqStatus vlqsFIRSetDlyLine_32f(VlqsFIRState_32f* state, const Vlq32f* dlyLine);
+VlqStatus vlqsFIRSetDlyLine32f_16s(VlqsFIRState32f_16s* state, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRGetDlyLine_32f(const VlqsFIRState_32f* state, Vlq32f* dlyLine);
+VlqStatus vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dlyLine);
+/** @} */
+
+/**
+ * @name FIR: filtering
+ *
+ * `y[n] = sum over k of h[k] * x[n - k]`, x[n] for n below 0 from the delay line, which moves on: a
+ * stream may be cut into calls, of blocks and of single samples (`One`), in any way. The `_Sfs` forms
+ * store `saturate(round(y[n] * 2^-scaleFactor))`, round to nearest and to the even one of two equally
+ * near; a sum that is not a number gives the top value.
+ *
+ * **Accuracy.** Sums are formed in the type of the taps. A block of at least 512 samples through at
+ * least 64 taps is computed by overlap-save with transforms of 2 to 4 times the number of taps, any
+ * other directly; in place, where blocks of 4096 are taken, the samples left after a block must be
+ * 512 for that block to be transformed, while the in-place `_Sfs` form goes by the whole length.
+ * The paths differ in rounding. Results of the direct path do not depend on the cut into calls.
+ *
+ * **Shapes.** @p src and @p dst have @p len elements and any alignment, and do not overlap.
+ *
+ * **Threads.** Blocks above 1600 samples are shared among the threads that the core library allows.
+ * Results do not depend on their number. One record serves one call at a time.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer, #vlqStsBadSize for @p len below 1,
+ * #vlqStsBadSpec for a record of another kind.
+ *
+ * **Memory.** None.
+ *
+ * **Source.** Overlap-save: A. V. Oppenheim, R. W. Schafer, Discrete-Time Signal Processing,
+ * section on implementing linear time-invariant systems using the DFT.
+ *
+ * @arg @c src         samples; for `One` the sample itself
+ * @arg @c dst         result
+ * @arg @c srcDst      samples and result of the in-place forms
+ * @arg @c len         number of samples
+ * @arg @c state       record
+ * @arg @c scaleFactor negated exponent of the factor of the result
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsFIR_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, VlqsFIRState_32f* state);
+VlqStatus vlqsFIR_32f_I(Vlq32f* srcDst, Vlq32s len, VlqsFIRState_32f* state);
+VlqStatus vlqsFIR32f_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState32f_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32f_16s_ISfs(Vlq16s* srcDst, Vlq32s len, VlqsFIRState32f_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne_32f(Vlq32f src, Vlq32f* dst, VlqsFIRState_32f* state);
+VlqStatus vlqsFIROne32f_16s_Sfs(Vlq16s src, Vlq16s* dst, VlqsFIRState32f_16s* state, Vlq32s scaleFactor);
+/** @} */
+
 VLQS_END_DECLS
 
 #endif

@@ -1,0 +1,16 @@
+#include "filter/fir_block.h"
+
+namespace fir = vlq::fir;
+
+VlqStatus vlq::vlqsFIR_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, VlqsFIRState_32f* state) {
+    return fir::filter(src, dst, len, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIR_32f_I(Vlq32f* srcDst, Vlq32s len, VlqsFIRState_32f* state) {
+    return fir::filterInPlace(srcDst, len, state);
+}
+VlqStatus vlq::vlqsFIR32f_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState32f_16s* state, Vlq32s scaleFactor) {
+    return fir::filter(src, dst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR32f_16s_ISfs(Vlq16s* srcDst, Vlq32s len, VlqsFIRState32f_16s* state, Vlq32s scaleFactor) {
+    return fir::filterInPlace16(srcDst, len, state, scaleFactor);
+}

@@ -1,0 +1,36 @@
+#include "filter/fir_record.h"
+
+namespace fir = vlq::fir;
+
+VlqStatus vlq::vlqsFIRGetStateSize_32f(Vlq32s tapsLen, Vlq32s* stateBytes) {
+    return fir::stateSize<Vlq32f>(tapsLen, stateBytes);
+}
+
+VlqStatus vlq::vlqsFIRInit_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInit32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+
+VlqStatus vlq::vlqsFIRInitAlloc_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRInitAlloc32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+
+VlqStatus vlq::vlqsFIRFree_32f(VlqsFIRState_32f* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRFree32f_16s(VlqsFIRState32f_16s* state) { return fir::release(state); }
+
+VlqStatus vlq::vlqsFIRSetTaps_32f(const Vlq32f* taps, VlqsFIRState_32f* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRSetTaps32f_16s(const Vlq32f* taps, VlqsFIRState32f_16s* state) { return fir::setTaps(taps, state); }
+
+VlqStatus vlq::vlqsFIRGetTaps_32f(const VlqsFIRState_32f* state, Vlq32f* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRGetTaps32f_16s(const VlqsFIRState32f_16s* state, Vlq32f* taps) { return fir::getTaps(state, taps); }
+
+VlqStatus vlq::vlqsFIRSetDlyLine_32f(VlqsFIRState_32f* state, const Vlq32f* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRSetDlyLine32f_16s(VlqsFIRState32f_16s* state, const Vlq16s* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRGetDlyLine_32f(const VlqsFIRState_32f* state, Vlq32f* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dlyLine) { return fir::getDelayLine(state, dlyLine); }
