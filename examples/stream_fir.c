@@ -25,6 +25,7 @@
 #include "sound_file.h"
 #include "spectrum_png.h"
 #include "vlqs.h"
+#include "vlqs/core.h"
 
 enum { tapCount = 64 };
 
@@ -240,6 +241,10 @@ static bool run(Job* job, char* paths[3]) {
     /* The telephone band ends at 3.4 kHz; below 8 kHz of sample rate at the same share of it. */
     job->cutOff = fmin(3400, 0.425 * job->info.samplerate);
     designLowPass(job->taps, job->cutOff / job->info.samplerate);
+
+    /* The library shares long blocks among threads. These take some ten microseconds each, less
+     * than it may cost to wait for a second thread on a busy machine. */
+    vlqSetNumThreads(1);
     if (!createAnalyser(&job->analyser) || !createChannels(job)) return false;
 
     printf("%s: %.2f s, %d Hz, %d channel%s\n", paths[0], (double)job->info.frames / job->info.samplerate,

@@ -106,7 +106,8 @@ Sound sines(int rate, int frames, const std::vector<double>& frequencies, double
 Sound noise(int rate, int frames, int channels) {
     Sound sound{rate, channels, 16, {}};
     vlqtest::Rng rng(vlqtest::seed());
-    sound.samples = vlqtest::uniformVector<std::int16_t>(static_cast<std::size_t>(frames * channels), -12000, 12000, rng);
+    const auto count = static_cast<std::size_t>(frames * channels);
+    sound.samples = vlqtest::uniformVector<std::int16_t>(count, -12000, 12000, rng);
     return sound;
 }
 
@@ -155,9 +156,11 @@ protected:
 
         const pid_t child = fork();
         if (child != 0) return child;
-        const int outFile = standardOutput >= 0 ? standardOutput : open(out.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600);
-        dup2(outFile, STDOUT_FILENO);
-        dup2(open(err.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600), STDERR_FILENO);
+        const auto create = [](const std::string& path) {
+            return open(path.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600);
+        };
+        dup2(standardOutput >= 0 ? standardOutput : create(out), STDOUT_FILENO);
+        dup2(create(err), STDERR_FILENO);
         execv(STREAM_FIR, pointers.data());
         _exit(127);
     }
