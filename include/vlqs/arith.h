@@ -20,6 +20,8 @@ VLQS_BEGIN_DECLS
  *   saturated. Every scale factor is legal. An unsigned difference below 0 is 0.
  * - The other integer forms saturate e to the type of the result. `_8u16u` and `_16s32f` hold any e.
  *   `_16s32s_I` adds 16-bit samples to 32-bit ones.
+ * - #vlqsAdd_64s_Sfs stores 0 at a @p scaleFactor of 64 or more, where the largest sums would round
+ *   to 1 or -1.
  *
  * Float results are one IEEE operation in the precision of the samples. Complex samples are pairs of
  * independent reals.
@@ -43,14 +45,162 @@ VLQS_BEGIN_DECLS
  * @arg @c scaleFactor the result is multiplied by 2^-scaleFactor
  * @return #vlqStsOk or an error above.
  */
+VlqStatus vlqsAdd_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_8u16u(const Vlq8u* src1, const Vlq8u* src2, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsAdd_16u(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsAdd_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsAdd_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len);
 VlqStatus vlqsAdd_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len);
 VlqStatus vlqsAdd_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsAdd_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_16s32f(const Vlq16s* src1, const Vlq16s* src2, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsAdd_16s32s_I(const Vlq16s* src, Vlq32s* srcDst, Vlq32s len);
+VlqStatus vlqsAdd_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_32u(const Vlq32u* src1, const Vlq32u* src2, Vlq32u* dst, Vlq32s len);
+VlqStatus vlqsAdd_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_32s_ISfs(const Vlq32s* src, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_32sc_Sfs(const Vlq32sc* src1, const Vlq32sc* src2, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_32sc_ISfs(const Vlq32sc* src, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_64s_Sfs(const Vlq64s* src1, const Vlq64s* src2, Vlq64s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAdd_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsAdd_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsAdd_32fc(const Vlq32fc* src1, const Vlq32fc* src2, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsAdd_32fc_I(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsAdd_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsAdd_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsAdd_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsAdd_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsSub_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsSub_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len);
 VlqStatus vlqsSub_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len);
 VlqStatus vlqsSub_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsSub_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_16s32f(const Vlq16s* src1, const Vlq16s* src2, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsSub_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_32s_ISfs(const Vlq32s* src, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_32sc_Sfs(const Vlq32sc* src1, const Vlq32sc* src2, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_32sc_ISfs(const Vlq32sc* src, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSub_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsSub_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsSub_32fc(const Vlq32fc* src1, const Vlq32fc* src2, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsSub_32fc_I(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsSub_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsSub_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsSub_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsSub_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Sum and difference of a vector and a constant
+ *  @{ */
+/**
+ * `AddC`: `dst[i] = src[i] + val`. `SubC`: `dst[i] = src[i] - val`. `SubCRev`: `dst[i] = val - src[i]`.
+ * In place, `srcDst` stands for both vectors. Results are stored as those of the sums and
+ * differences of two vectors.
+ *
+ * #vlqsAddC_64s_Sfs and #vlqsAddC_64u_Sfs keep the exact sum for every @p scaleFactor and round as
+ * @p rndMode says: #vlqRndZero towards zero, #vlqRndNear to the nearest with ties to even, any other
+ * value to the nearest with ties away from zero.
+ *
+ * A real constant of 0 (of either sign) with nothing to scale copies the samples bit for bit, so -0.0
+ * stays, and leaves them alone in place. A constant that is not a number makes every result so.
+ *
+ * **Shapes.** The vectors have @p len elements and any alignment, and are the same or do not overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1 (0 for
+ * an unsigned @p len). The `16u` forms look for a shortcut first and leave the checks to it:
+ * - `AddC` and `SubC` of 0 at scale factor 0: the checks of a copy; none in place.
+ * - `AddC` with a scale factor above 17: as above; below -15 with @p val not 0: the checks of a fill
+ *   of the result, the source is not looked at.
+ * - `SubCRev` from 0, or with a scale factor of 17 or more: the checks of a clear of the result.
+ *
+ * The copy for #vlqsAddC_64f of 0 counts bytes in 32 bits, which wrap for @p len of 2^28 or more: it
+ * then copies the count that is left, or refuses it with #vlqStsBadSize. That for the 64-bit integer
+ * forms refuses @p len of 2^31 or more.
+ *
+ * **Memory.** None. #vlqsAddC_64fc of more than 8192 elements goes past the cache where @p dst stands
+ * on a 16-byte boundary.
+ *
+ * @arg @c src         vector operand
+ * @arg @c val         constant operand
+ * @arg @c dst         result
+ * @arg @c srcDst      vector operand and result of the in-place forms
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor the result is multiplied by 2^-scaleFactor
+ * @arg @c rndMode     rounding of the 64-bit forms
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsAddC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_16s_I(Vlq16s val, Vlq16s* srcDst, Vlq32s len);
+VlqStatus vlqsAddC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddC_64s_Sfs(const Vlq64s* src, Vlq64s val, Vlq64s* dst, Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode);
+VlqStatus vlqsAddC_64u_Sfs(const Vlq64u* src, Vlq64u val, Vlq64u* dst, Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode);
+VlqStatus vlqsAddC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsAddC_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsAddC_32fc(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsAddC_32fc_I(Vlq32fc val, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsAddC_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsAddC_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsAddC_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsAddC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsSubC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_16s_I(Vlq16s val, Vlq16s* srcDst, Vlq32s len);
+VlqStatus vlqsSubC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsSubC_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsSubC_32fc(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsSubC_32fc_I(Vlq32fc val, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsSubC_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsSubC_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsSubC_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsSubC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsSubCRev_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsSubCRev_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsSubCRev_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsSubCRev_32fc(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsSubCRev_32fc_I(Vlq32fc val, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsSubCRev_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsSubCRev_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsSubCRev_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsSubCRev_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
 /** @} */
 
 /** @name Products of floats

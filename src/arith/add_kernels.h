@@ -5,15 +5,19 @@
 
 #include "frame/loop/map.h"
 #include "frame/scale.h"
+#include "frame/simd/convert.h"
 
 namespace vlq::add {
 
 // a + b
 struct Sum {
+    static constexpr bool leavesAt0 = true;  // b of 0 leaves a as it is
     // Unsigned sums reach one bit further than signed ones; a tie of the largest goes to 0.
     template <class T>
     static constexpr int vanishesFrom = std::numeric_limits<T>::digits + 2;
 
+    template <class T>
+    static Vec<T> exact(Vec<T> a, Vec<T> b) { return a + b; }
     template <class T>
     static Vec<T> saturated(Vec<T> a, Vec<T> b) { return addSat(a, b); }
     // The sum's lowest bit marks a tie, and the even neighbour is the upper one less its own.
@@ -33,9 +37,12 @@ inline constexpr int Sum::vanishesFrom<std::int64_t> = 64;
 
 // a - b. An unsigned difference below 0 is 0 at every scale.
 struct Difference {
+    static constexpr bool leavesAt0 = true;
     template <class T>
     static constexpr int vanishesFrom = std::numeric_limits<T>::digits + (std::is_signed_v<T> ? 2 : 1);
 
+    template <class T>
+    static Vec<T> exact(Vec<T> a, Vec<T> b) { return a - b; }
     template <class T>
     static Vec<T> saturated(Vec<T> a, Vec<T> b) { return subSat(a, b); }
     template <class T>
@@ -62,6 +69,57 @@ struct Difference {
     }
 };
 
+// Operands the other way round: b - a.
+struct ReverseDifference {
+    static constexpr bool leavesAt0 = false;
+    template <class T>
+    static constexpr int vanishesFrom = Difference::vanishesFrom<T>;
+
+    template <class T>
+    static Vec<T> exact(Vec<T> a, Vec<T> b) { return Difference::exact(b, a); }
+    template <class T>
+    static Vec<T> saturated(Vec<T> a, Vec<T> b) { return Difference::saturated(b, a); }
+    template <class T>
+    static Vec<T> half(Vec<T> a, Vec<T> b) { return Difference::half(b, a); }
+    template <class T>
+    static Halved<T> halved(Vec<T> a, Vec<T> b) { return Difference::halved(b, a); }
+};
+
+// ---- without a scale factor ---------------------------------------------------------------------
+template <class Op>
+struct Exact {
+    template <class V>
+    V operator()(V a, V b) const { return Op::exact(a, b); }
+};
+template <class Op>
+struct Saturated {
+    template <class V>
+    V operator()(V a, V b) const { return Op::saturated(a, b); }
+};
+// Bytes to words, and words to floats by way of integers: wide enough for every result.
+template <class Op>
+struct Widened {
+    Block<std::uint16_t, 2> operator()(Block<std::uint8_t, 1> a, Block<std::uint8_t, 1> b) const {
+        const auto x = widen(a.part[0]), y = widen(b.part[0]);
+        return {{Op::exact(x.part[0], y.part[0]), Op::exact(x.part[1], y.part[1])}};
+    }
+    Block<float, 2> operator()(Block<std::int16_t, 1> a, Block<std::int16_t, 1> b) const {
+        const auto x = widen(a.part[0]), y = widen(b.part[0]);
+        return {{toFloat(Op::exact(x.part[0], y.part[0])), toFloat(Op::exact(x.part[1], y.part[1]))}};
+    }
+};
+// Words onto integers.
+struct WidenedToSum {
+    Block<std::int32_t, 2> operator()(Block<std::int32_t, 2> sum, Block<std::int16_t, 1> v) const {
+        const auto x = widen(v.part[0]);
+        return {{addSat(sum.part[0], x.part[0]), addSat(sum.part[1], x.part[1])}};
+    }
+};
+
+// A destination on a 16-byte boundary may be stored past the cache.
+inline bool standsOn16(const void* dst) { return reinterpret_cast<std::uintptr_t>(dst) % 16 == 0; }
+
+// ---- with a scale factor ------------------------------------------------------------------------
 // The scale factor that leaves an unsigned sum nothing but its carry: 1 where a + b lies above
 // the carry's weight, which is the tie.
 template <class T>

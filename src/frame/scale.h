@@ -52,22 +52,47 @@ struct Halved {
     Vec<T> odd;
 };
 
-// e * 2^-scaleFactor for 2 <= scaleFactor <= width of T.
+// To the nearest: ties to the even integer, which is the rule, or away from zero.
+enum class Rounding { ToZero, TiesToEven, TiesAway };
+
+// All bits where e is negative.
 template <class T>
+inline Vec<T> negative(Halved<T> e) {
+    if constexpr (std::is_signed_v<T>) return signMask(e.half);
+    else return Vec<T>::zero();
+}
+
+// The lowest bit is set where a value in the middle between the quotient and the next goes up.
+template <Rounding rounding, class T>
+inline Vec<T> middleGoesUp(Halved<T> e, Vec<T> quotient) {
+    if constexpr (rounding == Rounding::TiesToEven) return quotient;
+    else if constexpr (rounding == Rounding::TiesAway) return ~negative(e);
+    else return negative(e);
+}
+
+// e * 2^-scaleFactor for 2 <= scaleFactor <= width of T.
+template <class T, Rounding rounding = Rounding::TiesToEven>
 class ScaleRight {
 public:
     explicit ScaleRight(std::int32_t scaleFactor)
         : shift_(scaleFactor - 1),
           remainder_(Vec<T>::broadcast(static_cast<T>((Wide{1} << shift_) - 1))),
-          middle_(Vec<T>::broadcast(static_cast<T>(Wide{1} << (shift_ - 1)))) {}
+          middle_(Vec<T>::broadcast(static_cast<T>(rounding == Rounding::ToZero ? 0 : Wide{1} << (shift_ - 1)))) {}
 
     Vec<T> operator()(Halved<T> e) const {
         using S = BitsOf<T>;
+        const auto one = Vec<T>::broadcast(1);
         const auto quotient = shiftRight(e.half, shift_);
-        // On the middle itself a set odd bit lies above the tie, and a tie goes up from an odd quotient.
-        const auto tip = (e.odd | quotient) & Vec<T>::broadcast(1);
-        const auto up = isAbove(bitCast<S>(e.half & remainder_), bitCast<S>(middle_ - tip));
-        return quotient - bitCast<T>(up);
+        const auto remainder = e.half & remainder_;
+        if constexpr (rounding == Rounding::ToZero) {
+            // From the floor up where anything was cut off a negative e.
+            const auto cut = isAbove(bitCast<S>(remainder), bitCast<S>(middle_ - (e.odd & one)));
+            return quotient - (bitCast<T>(cut) & negative(e));
+        } else {
+            // In the middle a set odd bit lies above the tie.
+            const auto tip = (e.odd | middleGoesUp<rounding>(e, quotient)) & one;
+            return quotient - bitCast<T>(isAbove(bitCast<S>(remainder), bitCast<S>(middle_ - tip)));
+        }
     }
 
 private:

@@ -19,8 +19,7 @@ enum class Tie { Even, Away };
 // e / 2^shift for 1 <= shift <= 100, by the distance to the integers on both sides.
 inline Exact nearestRef(Exact e, int shift, Tie tie) {
     const Exact unit = Exact{1} << shift;
-    Exact below = e / unit;
-    if (below * unit > e) --below;
+    const Exact below = e >> shift;
     const Exact distance = e - below * unit, left = unit - distance;
     if (distance != left) return distance < left ? below : below + 1;
     if (tie == Tie::Away) return e < 0 ? below : below + 1;
@@ -32,10 +31,12 @@ template <class T>
 T scaleRef(Exact e, std::int32_t scaleFactor, Tie tie = Tie::Even) {
     if (scaleFactor > 100) return 0;
     if (scaleFactor > 0) return clampRef<T>(nearestRef(e, scaleFactor, tie));
-    // Doubling keeps what lies outside the range outside.
-    Exact value = clampRef<T>(e);
-    for (int n = 0; n > scaleFactor && n > -64; --n) value = clampRef<T>(value * 2);
-    return static_cast<T>(value);
+    // What lies outside the range stays outside, so two halves of the shift may clamp in between;
+    // 64 bits saturate anything but 0.
+    const int first = scaleFactor < -32 ? 32 : -scaleFactor;
+    const int second = scaleFactor < -64 ? 32 : -scaleFactor - first;
+    const Exact value = clampRef<T>(Exact{clampRef<T>(e)} * (Exact{1} << first));
+    return clampRef<T>(value * (Exact{1} << second));
 }
 
 template <class T>

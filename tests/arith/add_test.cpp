@@ -1,113 +1,340 @@
-#include "arith/add_ref.h"
-
-#include "harness/sweep.h"
-#include "vlqs/arith.h"
+#include "arith/add_check.h"
 
 namespace {
 
 using namespace vlqtest;
 
+// Sub computes src2 - src1, in place srcDst - src.
 template <class T>
-using Scaled = VlqStatus (*)(const T*, const T*, T*, Vlq32s, Vlq32s);
+T addElement(T src1, T src2, Vlq32s scaleFactor) { return sumRef(src1, src2, scaleFactor); }
 template <class T>
-using ScaledInPlace = VlqStatus (*)(const T*, T*, Vlq32s, Vlq32s);
+T subElement(T src1, T src2, Vlq32s scaleFactor) { return differenceRef(src2, src1, scaleFactor); }
 template <class T>
-using Element = T (*)(T, T, Vlq32s);  // of the first and the second vector
+T addFloat(T src1, T src2, Vlq32s) { return src1 + src2; }
+template <class T>
+T subFloat(T src1, T src2, Vlq32s) { return src2 - src1; }
 
-// All ranges of every type, their ends, and the far ends of the scale factor.
-std::vector<int> scaleFactors() {
-    std::vector<int> all;
-    for (int s = -70; s <= 70; ++s) all.push_back(s);
-    for (const int s : {-1000, 1000, INT32_MIN, INT32_MIN + 1, INT32_MAX, -256, 256, -65536, 65536}) all.push_back(s);
-    return all;
+// ---- integers with a scale factor ----------------------------------------------------------------
+template <class T>
+void checkScaled(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T> ref, std::size_t randomPairs) {
+    checkPlaces<T>(call, inPlace, ref, someScaleFactors<T>());
+    checkValues<T>(call, ref, randomPairs);
 }
 
-template <class T>
-std::vector<T> wanted(const std::vector<T>& a, const std::vector<T>& b, Element<T> ref, int scaleFactor) {
-    std::vector<T> want(a.size());
-    for (std::size_t i = 0; i < a.size(); ++i) want[i] = ref(a[i], b[i], scaleFactor);
-    return want;
+// Ten million random pairs a type are these, 151 scale factors times two operations, and more.
+constexpr std::size_t kPairs = 35000;
+
+TEST(Add, Scaled16s) { checkScaled<Vlq16s>(vlqsAdd_16s_Sfs, vlqsAdd_16s_ISfs, addElement, kPairs); }
+TEST(Add, Scaled16u) { checkScaled<Vlq16u>(vlqsAdd_16u_Sfs, vlqsAdd_16u_ISfs, addElement, kPairs); }
+TEST(Add, Scaled32s) { checkScaled<Vlq32s>(vlqsAdd_32s_Sfs, vlqsAdd_32s_ISfs, addElement, kPairs); }
+TEST(Sub, Scaled16s) { checkScaled<Vlq16s>(vlqsSub_16s_Sfs, vlqsSub_16s_ISfs, subElement, kPairs); }
+TEST(Sub, Scaled16u) { checkScaled<Vlq16u>(vlqsSub_16u_Sfs, vlqsSub_16u_ISfs, subElement, kPairs); }
+TEST(Sub, Scaled32s) { checkScaled<Vlq32s>(vlqsSub_32s_Sfs, vlqsSub_32s_ISfs, subElement, kPairs); }
+
+// From 64 on the 64-bit sum is given up.
+Vlq64s add64(Vlq64s src1, Vlq64s src2, Vlq32s scaleFactor) {
+    return scaleFactor >= 64 ? 0 : sumRef(src1, src2, scaleFactor);
+}
+TEST(Add, Scaled64s) { checkScaled<Vlq64s>(vlqsAdd_64s_Sfs, nullptr, add64, 2 * kPairs); }
+
+TEST(Add, EveryPairOf8u) {
+    checkPlaces<Vlq8u>(vlqsAdd_8u_Sfs, vlqsAdd_8u_ISfs, addElement, someScaleFactors<Vlq8u>());
+    checkPlaces<Vlq8u>(vlqsSub_8u_Sfs, vlqsSub_8u_ISfs, subElement, someScaleFactors<Vlq8u>());
+    std::vector<Vlq8u> a, b;
+    for (int x = 0; x < 256; ++x) {
+        for (int y = 0; y < 256; ++y) {
+            a.push_back(static_cast<Vlq8u>(x));
+            b.push_back(static_cast<Vlq8u>(y));
+        }
+    }
+    std::vector<int> factors = {INT32_MIN, INT32_MAX};
+    for (int s = -40; s <= 40; ++s) factors.push_back(s);
+    for (const int s : factors) {
+        checkPairs<Vlq8u>(vlqsAdd_8u_Sfs, addElement, a, b, s);
+        checkPairs<Vlq8u>(vlqsSub_8u_Sfs, subElement, a, b, s);
+    }
 }
 
-// Lengths, offsets and guard pages, with a scale factor of each range in turn.
-template <class T>
-void checkPlaces(Scaled<T> call, ScaledInPlace<T> inPlace, Element<T> ref) {
-    constexpr int bits = 8 * static_cast<int>(sizeof(T));
-    const int factors[] = {0, 1, 2, 3, bits / 2, bits, bits + 2, -1, -bits / 2, -bits - 1};
-    std::size_t turn = 0;
-    sweep(sizeof(T), {5003}, [&](Case& c) {
-        const int scaleFactor = factors[turn++ % std::size(factors)];
-        const auto a = extremeVector<T>(static_cast<std::size_t>(c.len), c.rng);
-        const auto b = extremeVector<T>(static_cast<std::size_t>(c.len), c.rng);
-        const auto want = wanted<T>(a, b, ref, scaleFactor);
+TEST(Add, ScaledComplex) {
+    checkPlaces<Vlq16s>(over<Vlq16s>(vlqsAdd_16sc_Sfs), over<Vlq16s>(vlqsAdd_16sc_ISfs), addElement, someScaleFactors<Vlq16s>(), 2);
+    checkPlaces<Vlq32s>(over<Vlq32s>(vlqsAdd_32sc_Sfs), over<Vlq32s>(vlqsAdd_32sc_ISfs), addElement, someScaleFactors<Vlq32s>(), 2);
+    checkPlaces<Vlq16s>(over<Vlq16s>(vlqsSub_16sc_Sfs), over<Vlq16s>(vlqsSub_16sc_ISfs), subElement, someScaleFactors<Vlq16s>(), 2);
+    checkPlaces<Vlq32s>(over<Vlq32s>(vlqsSub_32sc_Sfs), over<Vlq32s>(vlqsSub_32sc_ISfs), subElement, someScaleFactors<Vlq32s>(), 2);
+}
 
-        const Buffer<T> src1(a, c.place[1]), src2(b, c.place[2]);
-        Buffer<T> dst(a.size(), c.place[0]);
-        ASSERT_EQ(vlqStsOk, call(src1.data(), src2.data(), dst.data(), c.len, scaleFactor));
-        ASSERT_TRUE(same(dst, want)) << "scale factor " << scaleFactor;
+// ---- integers without a scale factor ---------------------------------------------------------------
+TEST(Add, Saturated) {
+    checkPlaces<Vlq16s>(over<Vlq16s>(vlqsAdd_16s), over<Vlq16s>(vlqsAdd_16s_I), addElement, {0});
+    checkPlaces<Vlq16u>(over<Vlq16u>(vlqsAdd_16u), nullptr, addElement, {0});
+    checkPlaces<Vlq32u>(over<Vlq32u>(vlqsAdd_32u), nullptr, addElement, {0});
+    checkPlaces<Vlq16s>(over<Vlq16s>(vlqsSub_16s), over<Vlq16s>(vlqsSub_16s_I), subElement, {0});
+    const std::vector<Vlq32u> some = corners<Vlq32u>();
+    for (const Vlq32u x : some) {
+        checkPairs<Vlq32u>(over<Vlq32u>(vlqsAdd_32u), addElement, std::vector<Vlq32u>(some.size(), x), some, 0);
+    }
+}
 
-        // In place the destination is the second operand of a sum and the minuend of a difference.
-        dst.assign(b);
-        ASSERT_EQ(vlqStsOk, inPlace(src1.data(), dst.data(), c.len, scaleFactor));
-        ASSERT_TRUE(same(dst, want)) << "in place, scale factor " << scaleFactor;
-        dst.assign(a);
-        ASSERT_EQ(vlqStsOk, call(dst.data(), src2.data(), dst.data(), c.len, scaleFactor));
-        ASSERT_TRUE(same(dst, want)) << "over the first, scale factor " << scaleFactor;
+template <class S, class D>
+void checkWidened(VlqStatus (*call)(const S*, const S*, D*, Vlq32s), int sign) {
+    sweep(sizeof(D), {5003}, [&](Case& c) {
+        const auto a = extremeVector<S>(static_cast<std::size_t>(c.len), c.rng);
+        const auto b = extremeVector<S>(static_cast<std::size_t>(c.len), c.rng);
+        std::vector<D> want(a.size());
+        for (std::size_t i = 0; i < a.size(); ++i) want[i] = static_cast<D>(b[i] + sign * a[i]);
+        const Buffer<S> src1(a, c.place[1]), src2(b, c.place[2]);
+        Buffer<D> dst(a.size(), c.place[0]);
+        ASSERT_EQ(vlqStsOk, call(src1.data(), src2.data(), dst.data(), c.len));
+        ASSERT_TRUE(same(dst, want));
     });
 }
 
-// Values where a sum changes its range, paired with one another.
-template <class T>
-std::vector<T> corners() {
-    std::vector<T> values;
-    constexpr int bits = std::numeric_limits<T>::digits;
-    for (int shift = 0; shift <= bits; ++shift) {
-        for (int d = -2; d <= 2; ++d) {
-            const auto value = static_cast<T>((std::uint64_t{1} << (shift < 64 ? shift : 63)) + static_cast<std::uint64_t>(d));
-            values.push_back(value);
-            values.push_back(static_cast<T>(0 - static_cast<std::uint64_t>(value)));
-        }
-    }
-    return values;
+TEST(Add, Widened) {
+    checkWidened<Vlq8u, Vlq16u>(vlqsAdd_8u16u, 1);
+    checkWidened<Vlq16s, Vlq32f>(vlqsAdd_16s32f, 1);
+    checkWidened<Vlq16s, Vlq32f>(vlqsSub_16s32f, -1);
 }
 
-// Corner pairs and `pairs` random ones at every scale factor.
+TEST(Add, WordsOntoIntegers) {
+    sweep(sizeof(Vlq32s), {5003}, [&](Case& c) {
+        const auto a = extremeVector<Vlq16s>(static_cast<std::size_t>(c.len), c.rng);
+        const auto b = extremeVector<Vlq32s>(static_cast<std::size_t>(c.len), c.rng);
+        std::vector<Vlq32s> want(b.size());
+        for (std::size_t i = 0; i < b.size(); ++i) want[i] = sumRef<Vlq32s>(a[i], b[i], 0);
+        const Buffer<Vlq16s> src(a, c.place[1]);
+        Buffer<Vlq32s> srcDst(b, c.place[0]);
+        ASSERT_EQ(vlqStsOk, vlqsAdd_16s32s_I(src.data(), srcDst.data(), c.len));
+        ASSERT_TRUE(same(srcDst, want));
+    });
+}
+
+// ---- floats --------------------------------------------------------------------------------------------
+TEST(Add, Float) {
+    checkPlaces<Vlq32f>(over<Vlq32f>(vlqsAdd_32f), over<Vlq32f>(vlqsAdd_32f_I), addFloat, {0});
+    checkPlaces<Vlq64f>(over<Vlq64f>(vlqsAdd_64f), over<Vlq64f>(vlqsAdd_64f_I), addFloat, {0});
+    checkPlaces<Vlq32f>(over<Vlq32f>(vlqsSub_32f), over<Vlq32f>(vlqsSub_32f_I), subFloat, {0});
+    checkPlaces<Vlq64f>(over<Vlq64f>(vlqsSub_64f), over<Vlq64f>(vlqsSub_64f_I), subFloat, {0});
+}
+
+TEST(Add, FloatComplex) {
+    checkPlaces<Vlq32f>(over<Vlq32f>(vlqsAdd_32fc), over<Vlq32f>(vlqsAdd_32fc_I), addFloat, {0}, 2);
+    checkPlaces<Vlq64f>(over<Vlq64f>(vlqsAdd_64fc), over<Vlq64f>(vlqsAdd_64fc_I), addFloat, {0}, 2);
+    checkPlaces<Vlq32f>(over<Vlq32f>(vlqsSub_32fc), over<Vlq32f>(vlqsSub_32fc_I), subFloat, {0}, 2);
+    checkPlaces<Vlq64f>(over<Vlq64f>(vlqsSub_64fc), over<Vlq64f>(vlqsSub_64fc_I), subFloat, {0}, 2);
+}
+
+// Around the length where a sum goes past the cache, on and off the boundary that it needs.
 template <class T>
-void checkValues(Scaled<T> call, Element<T> ref, std::size_t pairs) {
-    const std::vector<T> some = corners<T>();
+void checkStreamed(const TwoVectors<T>& call, Element<T> ref) {
+    constexpr int edge = 5462 * 32 / static_cast<int>(sizeof(T));
     Rng rng(seed());
-    for (const int scaleFactor : scaleFactors()) {
-        std::vector<T> a, b;
-        for (const T x : some) {
-            for (const T y : some) {
-                a.push_back(x);
-                b.push_back(y);
-            }
-        }
-        for (std::size_t i = 0; i < pairs; ++i) {
-            a.push_back(extremeValue<T>(rng));
-            b.push_back(extremeValue<T>(rng));
-        }
-        std::vector<T> dst(a.size());
-        ASSERT_EQ(vlqStsOk, call(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), scaleFactor));
-        const auto want = wanted<T>(a, b, ref, scaleFactor);
-        for (std::size_t i = 0; i < a.size(); ++i) {
-            ASSERT_EQ(want[i], dst[i]) << +a[i] << " and " << +b[i] << " at scale factor " << scaleFactor;
+    for (const int len : {edge - 1, edge, edge + 1, edge + 1003}) {
+        const auto a = extremeVector<T>(static_cast<std::size_t>(len), rng);
+        const auto b = extremeVector<T>(static_cast<std::size_t>(len), rng);
+        const auto want = wanted<T>(a, b, ref, 0);
+        for (const int offset : {0, 8, 16, 32, 48, 3}) {
+            const Buffer<T> src1(a, {5, false}), src2(b, {0, true});
+            Buffer<T> dst(a.size(), {offset, false});
+            ASSERT_EQ(vlqStsOk, call(src1.data(), src2.data(), dst.data(), len, 0));
+            ASSERT_TRUE(same(dst, want)) << "len " << len << ", offset " << offset;
+            Buffer<T> sumOver(a, {offset, false});
+            ASSERT_EQ(vlqStsOk, call(sumOver.data(), src2.data(), sumOver.data(), len, 0));
+            ASSERT_TRUE(same(sumOver, want)) << "over the first, len " << len << ", offset " << offset;
         }
     }
 }
 
-template <class T>
-void checkScaled(Scaled<T> call, ScaledInPlace<T> inPlace, Element<T> ref, std::size_t pairs) {
-    checkPlaces<T>(call, inPlace, ref);
-    checkValues<T>(call, ref, pairs);
+TEST(Add, FloatPastTheCache) {
+    checkStreamed<Vlq32f>(over<Vlq32f>(vlqsAdd_32f), addFloat);
+    checkStreamed<Vlq64f>(over<Vlq64f>(vlqsAdd_64f), addFloat);
+    checkStreamed<Vlq32f>(over<Vlq32f>(vlqsSub_32f), subFloat);
 }
 
-// Sub computes src2 - src1, in place srcDst - src.
-template <class T>
-T subRef(T src1, T src2, Vlq32s scaleFactor) { return differenceRef(src2, src1, scaleFactor); }
+// ---- statuses ---------------------------------------------------------------------------------------------
+enum class First { Pointers, Length };
 
-TEST(Add, Scaled16s) { checkScaled<Vlq16s>(vlqsAdd_16s_Sfs, vlqsAdd_16s_ISfs, sumRef<Vlq16s>, 40000); }
-TEST(Sub, Scaled16s) { checkScaled<Vlq16s>(vlqsSub_16s_Sfs, vlqsSub_16s_ISfs, subRef<Vlq16s>, 40000); }
+template <class S, class D, class... Scale>
+void checkStatuses(VlqStatus (*call)(const S*, const S*, D*, Vlq32s, Scale...), First first, Scale... scale) {
+    const S src[4] = {};
+    Buffer<D> dst(4);
+    const VlqStatus both = first == First::Pointers ? vlqStsNullPtr : vlqStsBadSize;
+    for (const int len : {0, -1, INT32_MIN}) {
+        EXPECT_EQ(both, call(nullptr, src, dst.data(), len, scale...));
+        EXPECT_EQ(both, call(src, nullptr, dst.data(), len, scale...));
+        EXPECT_EQ(both, call(src, src, nullptr, len, scale...));
+        EXPECT_EQ(vlqStsBadSize, call(src, src, dst.data(), len, scale...));
+    }
+    EXPECT_EQ(vlqStsNullPtr, call(nullptr, src, dst.data(), 1, scale...));
+    EXPECT_EQ(vlqStsNullPtr, call(src, nullptr, dst.data(), 1, scale...));
+    EXPECT_EQ(vlqStsNullPtr, call(src, src, nullptr, 1, scale...));
+    if (first == First::Length) {
+        for (const int len : {1 << 30, (1 << 30) + 1, INT32_MAX}) {
+            EXPECT_EQ(vlqStsNullPtr, call(nullptr, src, dst.data(), len, scale...));
+            EXPECT_EQ(vlqStsBadSize, call(src, src, dst.data(), len, scale...));
+        }
+    }
+    EXPECT_TRUE(dst.untouched());
+}
+template <class S, class D, class... Scale>
+void checkStatuses(VlqStatus (*call)(const S*, D*, Vlq32s, Scale...), First first, Scale... scale) {
+    const S src[4] = {};
+    Buffer<D> srcDst(4);
+    const VlqStatus both = first == First::Pointers ? vlqStsNullPtr : vlqStsBadSize;
+    for (const int len : {0, -1, INT32_MIN}) {
+        EXPECT_EQ(both, call(nullptr, srcDst.data(), len, scale...));
+        EXPECT_EQ(both, call(src, nullptr, len, scale...));
+        EXPECT_EQ(vlqStsBadSize, call(src, srcDst.data(), len, scale...));
+    }
+    EXPECT_EQ(vlqStsNullPtr, call(nullptr, srcDst.data(), 1, scale...));
+    EXPECT_EQ(vlqStsNullPtr, call(src, nullptr, 1, scale...));
+    if (first == First::Length) {
+        for (const int len : {1 << 30, (1 << 30) + 1, INT32_MAX}) {
+            EXPECT_EQ(vlqStsNullPtr, call(nullptr, srcDst.data(), len, scale...));
+            EXPECT_EQ(vlqStsBadSize, call(src, srcDst.data(), len, scale...));
+        }
+    }
+    EXPECT_TRUE(srcDst.untouched());
+}
+template <class Call>
+void checkScaledStatuses(Call call, First first = First::Pointers) {
+    for (const Vlq32s s : {0, 1, 2, 18, 40, 64, INT32_MAX, -1, -20, INT32_MIN}) checkStatuses(call, first, s);
+}
+
+TEST(Add, Statuses) {
+    checkScaledStatuses(vlqsAdd_8u_Sfs);
+    checkScaledStatuses(vlqsAdd_8u_ISfs);
+    checkScaledStatuses(vlqsAdd_16u_Sfs);
+    checkScaledStatuses(vlqsAdd_16u_ISfs);
+    checkScaledStatuses(vlqsAdd_16s_Sfs);
+    checkScaledStatuses(vlqsAdd_16s_ISfs);
+    checkScaledStatuses(vlqsAdd_32s_Sfs);
+    checkScaledStatuses(vlqsAdd_32s_ISfs);
+    checkScaledStatuses(vlqsAdd_64s_Sfs);
+    checkScaledStatuses(vlqsAdd_16sc_Sfs, First::Length);
+    checkScaledStatuses(vlqsAdd_16sc_ISfs, First::Length);
+    checkScaledStatuses(vlqsAdd_32sc_Sfs, First::Length);
+    checkScaledStatuses(vlqsAdd_32sc_ISfs, First::Length);
+    checkStatuses(vlqsAdd_16s, First::Pointers);
+    checkStatuses(vlqsAdd_16s_I, First::Pointers);
+    checkStatuses(vlqsAdd_16u, First::Pointers);
+    checkStatuses(vlqsAdd_32u, First::Pointers);
+    checkStatuses(vlqsAdd_8u16u, First::Pointers);
+    checkStatuses(vlqsAdd_16s32f, First::Pointers);
+    checkStatuses(vlqsAdd_16s32s_I, First::Pointers);
+    checkStatuses(vlqsAdd_32f, First::Pointers);
+    checkStatuses(vlqsAdd_32f_I, First::Pointers);
+    checkStatuses(vlqsAdd_64f, First::Pointers);
+    checkStatuses(vlqsAdd_64f_I, First::Pointers);
+    checkStatuses(vlqsAdd_32fc, First::Length);
+    checkStatuses(vlqsAdd_32fc_I, First::Length);
+    checkStatuses(vlqsAdd_64fc, First::Length);
+    checkStatuses(vlqsAdd_64fc_I, First::Length);
+    EXPECT_EQ(vlqStsBadSize, vlqsAdd_32fc(nullptr, nullptr, nullptr, 0));
+}
+
+TEST(Sub, Statuses) {
+    checkScaledStatuses(vlqsSub_8u_Sfs);
+    checkScaledStatuses(vlqsSub_8u_ISfs);
+    checkScaledStatuses(vlqsSub_16u_Sfs);
+    checkScaledStatuses(vlqsSub_16u_ISfs);
+    checkScaledStatuses(vlqsSub_16s_Sfs);
+    checkScaledStatuses(vlqsSub_16s_ISfs);
+    checkScaledStatuses(vlqsSub_32s_Sfs);
+    checkScaledStatuses(vlqsSub_32s_ISfs);
+    checkScaledStatuses(vlqsSub_16sc_Sfs, First::Length);
+    checkScaledStatuses(vlqsSub_16sc_ISfs, First::Length);
+    checkScaledStatuses(vlqsSub_32sc_Sfs, First::Length);
+    checkScaledStatuses(vlqsSub_32sc_ISfs, First::Length);
+    checkStatuses(vlqsSub_16s, First::Pointers);
+    checkStatuses(vlqsSub_16s_I, First::Pointers);
+    checkStatuses(vlqsSub_16s32f, First::Pointers);
+    checkStatuses(vlqsSub_32f, First::Pointers);
+    checkStatuses(vlqsSub_32f_I, First::Pointers);
+    checkStatuses(vlqsSub_64f, First::Pointers);
+    checkStatuses(vlqsSub_64f_I, First::Pointers);
+    checkStatuses(vlqsSub_32fc, First::Length);
+    checkStatuses(vlqsSub_32fc_I, First::Length);
+    checkStatuses(vlqsSub_64fc, First::Length);
+    checkStatuses(vlqsSub_64fc_I, First::Length);
+}
+
+// The 64-bit clear counts words in 32 bits; a wrapped count is refused before anything is written.
+TEST(Add, WrappedClearOf64s) {
+    const Vlq64s src[1] = {};
+    Buffer<Vlq64s> dst(1);
+    EXPECT_EQ(vlqStsBadSize, vlqsAdd_64s_Sfs(src, src, dst.data(), 1 << 30, 64));
+    EXPECT_EQ(vlqStsBadSize, vlqsAdd_64s_Sfs(src, src, dst.data(), INT32_MAX, 64));
+    EXPECT_TRUE(dst.untouched());
+}
+
+// ---- single values ----------------------------------------------------------------------------------------
+template <class T>
+T one(VlqStatus (*call)(const T*, const T*, T*, Vlq32s, Vlq32s), T src1, T src2, int scaleFactor) {
+    T dst{};
+    EXPECT_EQ(vlqStsOk, call(&src1, &src2, &dst, 1, scaleFactor));
+    return dst;
+}
+
+TEST(Add, KnownValues) {
+    auto add16s = [](int a, int b, int s) { return one<Vlq16s>(vlqsAdd_16s_Sfs, static_cast<Vlq16s>(a), static_cast<Vlq16s>(b), s); };
+    EXPECT_EQ(32767, add16s(32767, 32767, 0));
+    EXPECT_EQ(32767, add16s(32767, 32767, 1));
+    EXPECT_EQ(1, add16s(32767, 32767, 16));
+    EXPECT_EQ(0, add16s(32767, 32767, 17));
+    EXPECT_EQ(-1, add16s(-32768, -32768, 16));
+    EXPECT_EQ(0, add16s(-32768, -32768, 17));
+    EXPECT_EQ(32767, add16s(1, 0, -15));
+    EXPECT_EQ(-32768, add16s(-1, 0, -15));
+    for (const int s : scaleFactors()) EXPECT_EQ(0, add16s(0, 0, s));
+    const int ties[][2] = {{3, 2}, {1, 0}, {-1, 0}, {-3, -2}, {5, 2}};
+    for (const auto& [e, half] : ties) EXPECT_EQ(half, add16s(e, 0, 1));
+
+    EXPECT_EQ(2147483647, one<Vlq32s>(vlqsAdd_32s_Sfs, 2147483647, 2147483647, 1));
+    EXPECT_EQ(1, one<Vlq8u>(vlqsAdd_8u_Sfs, 255, 255, 9));
+    EXPECT_EQ(0, one<Vlq8u>(vlqsAdd_8u_Sfs, 255, 255, 10));
+    for (const int s : scaleFactors()) EXPECT_EQ(0, one<Vlq16u>(vlqsSub_16u_Sfs, 5, 3, s));
+    EXPECT_EQ(0, one<Vlq64s>(vlqsAdd_64s_Sfs, INT64_MIN, INT64_MIN, 64));
+    EXPECT_EQ(-2, one<Vlq64s>(vlqsAdd_64s_Sfs, INT64_MIN, INT64_MIN, 63));
+}
+
+TEST(Sub, ExchangedOperandsNegate) {
+    Rng rng(seed());
+    const auto a = extremeVector<Vlq32s>(4096, rng), b = extremeVector<Vlq32s>(4096, rng);
+    for (const int s : someScaleFactors<Vlq32s>()) {
+        std::vector<Vlq32s> forth(a.size()), back(a.size());
+        ASSERT_EQ(vlqStsOk, vlqsSub_32s_Sfs(a.data(), b.data(), forth.data(), 4096, s));
+        ASSERT_EQ(vlqStsOk, vlqsSub_32s_Sfs(b.data(), a.data(), back.data(), 4096, s));
+        for (std::size_t i = 0; i < a.size(); ++i) {
+            const Vlq32s negated = forth[i] == INT32_MIN ? INT32_MAX : -forth[i];
+            ASSERT_TRUE(back[i] == negated || (forth[i] == INT32_MAX && back[i] == INT32_MIN)) << i << " at " << s;
+        }
+    }
+}
+
+// ---- digests ------------------------------------------------------------------------------------------------
+template <class T>
+void checkDigest(const TwoVectors<T>& call, Element<T> ref, std::uint64_t digest) {
+    const auto a = fixedVector<T>(2000, 1), b = fixedVector<T>(2000, 2);
+    Digest got, want;
+    std::vector<T> dst(a.size());
+    for (int s = -70; s <= 70; ++s) {
+        ASSERT_EQ(vlqStsOk, call(a.data(), b.data(), dst.data(), 2000, s));
+        got.add(dst);
+        want.add(wanted<T>(a, b, ref, s));
+    }
+    EXPECT_EQ(digest, want.value()) << std::hex << "0x" << want.value();
+    EXPECT_EQ(digest, got.value());
+}
+
+TEST(Add, Digests) {
+    checkDigest<Vlq8u>(vlqsAdd_8u_Sfs, addElement, 0xd671c165464e4477);
+    checkDigest<Vlq16s>(vlqsAdd_16s_Sfs, addElement, 0xa7df858ccaf6e851);
+    checkDigest<Vlq16u>(vlqsAdd_16u_Sfs, addElement, 0x45c43eb5141d8ef8);
+    checkDigest<Vlq32s>(vlqsAdd_32s_Sfs, addElement, 0x3fab58a2d2d885f5);
+    checkDigest<Vlq64s>(vlqsAdd_64s_Sfs, add64, 0x2f83c9ed1d3384ba);
+    checkDigest<Vlq8u>(vlqsSub_8u_Sfs, subElement, 0xe065283cc5a0b72f);
+    checkDigest<Vlq16s>(vlqsSub_16s_Sfs, subElement, 0x5823c6faeff6afb1);
+    checkDigest<Vlq16u>(vlqsSub_16u_Sfs, subElement, 0xc33e67543a151ea9);
+    checkDigest<Vlq32s>(vlqsSub_32s_Sfs, subElement, 0xef02d5706134f1b0);
+}
 
 }  // namespace

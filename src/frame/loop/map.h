@@ -8,6 +8,9 @@
 
 namespace vlq {
 
+// Streaming stores go past the cache; dst then stands on a boundary of its group.
+enum class Stores { Ordinary, Streaming };
+
 namespace detail {
 
 template <class... T>
@@ -32,9 +35,12 @@ inline Block<T, N> loadBlockPartial(const T* p, int count) {
     }
     return block;
 }
-template <class T, int N>
+template <Stores stores, class T, int N>
 inline void storeBlock(T* p, const Block<T, N>& block) {
-    for (int i = 0; i < N; ++i) store(p + i * Vec<T>::lanes, block.part[i]);
+    for (int i = 0; i < N; ++i) {
+        if constexpr (stores == Stores::Streaming) stream(p + i * Vec<T>::lanes, block.part[i]);
+        else store(p + i * Vec<T>::lanes, block.part[i]);
+    }
 }
 template <class T, int N>
 inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
@@ -49,7 +55,7 @@ inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
 // op takes one Block a source and gives a Block of D; a block is one vector of the narrowest type.
 // Elements that belong together, as the two parts of a complex value, are a group: len counts
 // whole groups' elements and no group is split over two vectors.
-template <int group = 1, class D, class Op, class... S>
+template <int group = 1, Stores stores = Stores::Ordinary, class D, class Op, class... S>
 inline void mapBlocks(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
     constexpr int count = kVecBytes / detail::kNarrowest<D, S...>;
     constexpr int dstParts = count / Vec<D>::lanes;
@@ -75,22 +81,23 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
 #pragma GCC unroll 4
         for (int u = 0; u < unroll; ++u) {
             const auto result = op(detail::loadBlock<S, count / Vec<S>::lanes>(src + u * count)...);
-            detail::storeBlock<D, dstParts>(dst + u * count, result);
+            detail::storeBlock<stores, D, dstParts>(dst + u * count, result);
         }
         advance(unroll * count);
     }
+    if constexpr (stores == Stores::Streaming) streamFence();
     while (len >= count) {
-        detail::storeBlock<D, dstParts>(dst, op(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
+        detail::storeBlock<Stores::Ordinary, D, dstParts>(dst, op(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
         advance(count);
     }
     if (len > 0) partial(static_cast<int>(len));
 }
 
 // All types of one size: op takes and gives plain vectors.
-template <class D, class Op, class... S>
+template <int group = 1, Stores stores = Stores::Ordinary, class D, class Op, class... S>
 inline void map(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
     static_assert(((sizeof(S) == sizeof(D)) && ...));
-    mapBlocks(dst, len, [&](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; }, src...);
+    mapBlocks<group, stores>(dst, len, [&](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; }, src...);
 }
 
 }  // namespace vlq

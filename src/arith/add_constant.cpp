@@ -1,0 +1,326 @@
+// Sums and differences of a vector and a constant. Constants that leave nothing to compute are seen
+// before a kernel is chosen, and handed over to the body that copies, fills or clears.
+#include "arith/add_constant_kernels.h"
+#include "arith/forms.h"
+#include "frame/loop/bulk.h"
+
+namespace {
+
+using namespace vlq;
+using namespace vlq::add;
+
+// A constant is a real, or a complex pair over a vector seen as reals.
+template <class T, class C>
+inline constexpr int unit = sizeof(C) / sizeof(T);
+
+template <class Op, class T, class C>
+void runScaled(const T* src, C val, T* dst, std::ptrdiff_t len, Vlq32s scaleFactor) {
+    const Vec<T> constant = bitCast<T>(repeated(val));
+    withScale<Op, T>(scaleFactor, [&](auto op) {
+        map<unit<T, C>>(dst, len * unit<T, C>, [&](Vec<T> x) { return op(x, constant); }, src);
+    });
+}
+
+// ---- integers ------------------------------------------------------------------------------------
+template <class Op, class T>
+VlqStatus scaled(const T* src, T val, T* dst, Vlq32s len, Vlq32s scaleFactor) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    if (classify<Op, T>(scaleFactor) == Scaling::Vanish) return clear(dst, len);
+    if (Op::leavesAt0 && val == 0 && scaleFactor == 0) return src == dst ? vlqStsOk : copy(src, dst, len);
+    runScaled<Op>(src, val, dst, len, scaleFactor);
+    return vlqStsOk;
+}
+
+// Complex constants have no shortcuts.
+template <class Op, class C>
+VlqStatus scaledComplex(const C* src, C val, C* dst, Vlq32s len, Vlq32s scaleFactor) {
+    using T = decltype(C::re);
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    if (classify<Op, T>(scaleFactor) == Scaling::Vanish) return clear(dst, len);
+    runScaled<Op>(reals(src), val, reals(dst), len, scaleFactor);
+    return vlqStsOk;
+}
+
+// Bytes: below -7 any sum with a constant but 0 is the largest byte.
+VlqStatus sum8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (scaleFactor < -7 && val != 0) return vlqsSet_8u(255, dst, len);
+    return scaled<Sum>(src, val, dst, len, scaleFactor);
+}
+VlqStatus reverseDifference8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (val == 0) return vlqsZero_8u(dst, len);
+    return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
+}
+
+// Unsigned words look for a shortcut before any check, and leave the checks to it.
+VlqStatus sum16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    if (scaleFactor < -15 && val != 0) return vlqsSet_16s(-1, reinterpret_cast<Vlq16s*>(dst), len);
+    return scaled<Sum>(src, val, dst, len, scaleFactor);
+}
+VlqStatus reverseDifference16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    if (val == 0 || scaleFactor >= 17) return clear(dst, len);
+    return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
+}
+
+// ---- floats --------------------------------------------------------------------------------------
+template <class Op, Stores stores = Stores::Ordinary, class T, class C>
+void runExact(const T* src, C val, T* dst, std::ptrdiff_t len) {
+    const Vec<T> constant = bitCast<T>(repeated(val));
+    map<unit<T, C>, stores>(dst, len * unit<T, C>, [&](Vec<T> x) { return Op::exact(x, constant); }, src);
+}
+
+// A constant of 0, of either sign, leaves the samples as they are, -0.0 included.
+template <class Op, class T>
+VlqStatus exact(const T* src, T val, T* dst, Vlq32s len) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    if (Op::leavesAt0 && val == 0) return src == dst ? vlqStsOk : copy(src, dst, len);
+    runExact<Op>(src, val, dst, len);
+    return vlqStsOk;
+}
+template <class Op, class C>
+VlqStatus exactComplex(const C* src, C val, C* dst, Vlq32s len) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    runExact<Op>(reals(src), val, reals(dst), len);
+    return vlqStsOk;
+}
+
+// ---- 64-bit integers -------------------------------------------------------------------------------
+Rounding roundingOf(VlqRoundMode mode) {
+    if (mode == vlqRndZero) return Rounding::ToZero;
+    return mode == vlqRndNear ? Rounding::TiesToEven : Rounding::TiesAway;
+}
+
+template <class T>
+VlqStatus sum64(const T* src, T val, T* dst, Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len == 0) return vlqStsBadSize;
+    if (val == 0 && scaleFactor == 0) {
+        return vlqsCopy_64s(reinterpret_cast<const Vlq64s*>(src), reinterpret_cast<Vlq64s*>(dst), static_cast<Vlq32s>(len));
+    }
+    const Vec<T> constant = Vec<T>::broadcast(val);
+    withScaleAndRounding<T>(scaleFactor, roundingOf(rndMode), [&](auto op) {
+        map(dst, static_cast<std::ptrdiff_t>(len), [&](Vec<T> x) { return op(x, constant); }, src);
+    });
+    return vlqStsOk;
+}
+
+}  // namespace
+
+// ---- src + val ------------------------------------------------------------------------------------
+VlqStatus vlq::vlqsAddC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return sum8u(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return sum8u(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return sum16u(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    if (val == 0 && scaleFactor == 0) return vlqStsOk;
+    return sum16u(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_16s_I(Vlq16s val, Vlq16s* srcDst, Vlq32s len) {
+    return scaled<Sum>(srcDst, val, srcDst, len, 0);
+}
+VlqStatus vlq::vlqsAddC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Sum>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Sum>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<Sum>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<Sum>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Sum>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Sum>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<Sum>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<Sum>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsAddC_64s_Sfs(const Vlq64s* src, Vlq64s val, Vlq64s* dst,
+                                Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode) {
+    return sum64(src, val, dst, len, scaleFactor, rndMode);
+}
+VlqStatus vlq::vlqsAddC_64u_Sfs(const Vlq64u* src, Vlq64u val, Vlq64u* dst,
+                                Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode) {
+    return sum64(src, val, dst, len, scaleFactor, rndMode);
+}
+VlqStatus vlq::vlqsAddC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
+    return exact<Sum>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsAddC_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len) {
+    return exact<Sum>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsAddC_32fc(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32s len) {
+    return exactComplex<Sum>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsAddC_32fc_I(Vlq32fc val, Vlq32fc* srcDst, Vlq32s len) {
+    return exactComplex<Sum>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsAddC_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s len) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    if (val == 0) {
+        // Copied as bytes, whose count wraps from 2^28 elements on.
+        const auto bytes = static_cast<Vlq32s>(8 * static_cast<Vlq32u>(len));
+        return vlqsCopy_8u(reinterpret_cast<const Vlq8u*>(src), reinterpret_cast<Vlq8u*>(dst), bytes);
+    }
+    runExact<Sum>(src, val, dst, len);
+    return vlqStsOk;
+}
+VlqStatus vlq::vlqsAddC_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len) {
+    return exact<Sum>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsAddC_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len) {
+    if (len > 8192 && src && dst && standsOn16(dst)) {
+        runExact<Sum, Stores::Streaming>(reals(src), val, reals(dst), len);
+        return vlqStsOk;
+    }
+    return exactComplex<Sum>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsAddC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len) {
+    return exactComplex<Sum>(srcDst, val, srcDst, len);
+}
+
+// ---- src - val ------------------------------------------------------------------------------------
+VlqStatus vlq::vlqsSubC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Difference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Difference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Difference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    if (val == 0 && scaleFactor == 0) return vlqStsOk;
+    return scaled<Difference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_16s_I(Vlq16s val, Vlq16s* srcDst, Vlq32s len) {
+    return scaled<Difference>(srcDst, val, srcDst, len, 0);
+}
+VlqStatus vlq::vlqsSubC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Difference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Difference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<Difference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<Difference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Difference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<Difference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<Difference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<Difference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
+    return exact<Difference>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsSubC_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len) {
+    return exact<Difference>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsSubC_32fc(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32s len) {
+    return exactComplex<Difference>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsSubC_32fc_I(Vlq32fc val, Vlq32fc* srcDst, Vlq32s len) {
+    return exactComplex<Difference>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsSubC_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s len) {
+    return exact<Difference>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsSubC_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len) {
+    return exact<Difference>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsSubC_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len) {
+    return exactComplex<Difference>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsSubC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len) {
+    return exactComplex<Difference>(srcDst, val, srcDst, len);
+}
+
+// ---- val - src ------------------------------------------------------------------------------------
+VlqStatus vlq::vlqsSubCRev_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return reverseDifference8u(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return reverseDifference8u(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return reverseDifference16u(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return reverseDifference16u(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<ReverseDifference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<ReverseDifference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<ReverseDifference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaled<ReverseDifference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<ReverseDifference>(src, val, dst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+    return scaledComplex<ReverseDifference>(srcDst, val, srcDst, len, scaleFactor);
+}
+VlqStatus vlq::vlqsSubCRev_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
+    return exact<ReverseDifference>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsSubCRev_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len) {
+    return exact<ReverseDifference>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsSubCRev_32fc(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32s len) {
+    return exactComplex<ReverseDifference>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsSubCRev_32fc_I(Vlq32fc val, Vlq32fc* srcDst, Vlq32s len) {
+    return exactComplex<ReverseDifference>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsSubCRev_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s len) {
+    return exact<ReverseDifference>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsSubCRev_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len) {
+    return exact<ReverseDifference>(srcDst, val, srcDst, len);
+}
+VlqStatus vlq::vlqsSubCRev_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len) {
+    return exactComplex<ReverseDifference>(src, val, dst, len);
+}
+VlqStatus vlq::vlqsSubCRev_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len) {
+    return exactComplex<ReverseDifference>(srcDst, val, srcDst, len);
+}
