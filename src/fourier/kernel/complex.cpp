@@ -65,34 +65,38 @@ void inCache(int order, const FloatingRecord<T>& record, In src, Middle work, Mi
 template <class T, Direction direction>
 void complexTransform(int order, const FloatingRecord<T>& record, const T* src, T* dst, void* work, bool scaled) {
     constexpr bool exchanged = direction == Direction::inverse;
+    const Interleaved<const T, exchanged> in{src};
+    const Interleaved<T, exchanged> out{dst};
+    T* const buffer = static_cast<T*>(work);
     if (order <= ComplexLimits<T>::straightLine) {
-        const Interleaved<const T, exchanged> in{src};
-        const Interleaved<T, exchanged> out{dst};
-        return scaled ? smallTransform<T, true>(order, in, out, record.normFactor)
-                      : smallTransform<T, false>(order, in, out, T(1));
+        if (scaled) smallTransform<T, true>(order, in, out, record.normFactor);
+        else smallTransform<T, false>(order, in, out, T(1));
+    } else if (order <= ComplexLimits<T>::inCache) {
+        inCache<T>(order, record, in, Blocks<T>{buffer}, Blocks<T>{dst}, out, scaled);
+    } else {
+        largeTransform<T>(order, record, in, Blocks<T>{dst}, out, buffer, src == dst, scaled);
     }
-    if (order > ComplexLimits<T>::inCache) return largeTransform<T, direction>(order, record, src, src + 1, dst, dst + 1, 2, scaled);
-    inCache<T>(order, record, Interleaved<const T, exchanged>{src}, Blocks<T>{static_cast<T*>(work)}, Blocks<T>{dst},
-               Interleaved<T, exchanged>{dst}, scaled);
 }
 
 template <class T, Direction direction>
 void splitTransform(int order, const FloatingRecord<T>& record, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
                     void* work, bool scaled) {
-    if (order > ComplexLimits<T>::inCache) return largeTransform<T, direction>(order, record, srcRe, srcIm, dstRe, dstIm, 1, scaled);
     if constexpr (direction == Direction::inverse) {
         std::swap(srcRe, srcIm);
         std::swap(dstRe, dstIm);
     }
+    const Parts<const T> in{srcRe, srcIm};
+    const Parts<T> out{dstRe, dstIm};
+    T* const buffer = static_cast<T*>(work);
     if (order <= ComplexLimits<T>::straightLine) {
-        const Parts<const T> in{srcRe, srcIm};
-        const Parts<T> out{dstRe, dstIm};
-        return scaled ? smallTransform<T, true>(order, in, out, record.normFactor)
-                      : smallTransform<T, false>(order, in, out, T(1));
+        if (scaled) smallTransform<T, true>(order, in, out, record.normFactor);
+        else smallTransform<T, false>(order, in, out, T(1));
+    } else if (order <= ComplexLimits<T>::inCache) {
+        const Planes<T> planes{buffer, buffer + (std::ptrdiff_t{1} << order)};
+        inCache<T>(order, record, in, planes, Planes<T>{dstRe, dstIm}, out, scaled);
+    } else {
+        largeTransform<T>(order, record, in, Planes<T>{dstRe, dstIm}, out, buffer, srcRe == dstRe, scaled);
     }
-    T* plane = static_cast<T*>(work);
-    inCache<T>(order, record, Parts<const T>{srcRe, srcIm}, Planes<T>{plane, plane + (std::ptrdiff_t{1} << order)},
-               Planes<T>{dstRe, dstIm}, Parts<T>{dstRe, dstIm}, scaled);
 }
 
 #define VLQ_TRANSFORMS(T, direction)                                                                               \

@@ -38,7 +38,7 @@ constexpr Vlq64s quarterWaveBytes(int order) {
 }
 
 template <class T>
-int laneOrder(int bytes, int lane) {
+int splitLaneOf(int bytes, int lane) {
     return bytes == 16 ? splitLane<T, 16>(lane) : bytes == 32 ? splitLane<T, 32>(lane) : splitLane<T, 64>(lane);
 }
 
@@ -53,7 +53,7 @@ T* buildPassTable(int order, const SineTable<T>& sine, Cursor& cursor) {
     int spanBits = std::countr_zero(static_cast<unsigned>(plan.first));
     auto append = [&](int unitBits, Vlq64s factor, Vlq64s column) {
         for (int lane = 0; lane < lanes; ++lane) {
-            const Vlq64s k = column + laneOrder<T>(plan.bytes, lane);
+            const Vlq64s k = column + splitLaneOf<T>(plan.bytes, lane);
             const Twiddle<T> w = twiddle(sine, unitBits, factor * k);
             next[lane] = w.re;
             next[lanes + lane] = w.im;
@@ -78,7 +78,87 @@ T* buildPassTable(int order, const SineTable<T>& sine, Cursor& cursor) {
     return table;
 }
 
-// Table and work of a large order, without the record and the slack.
+// Factors exp(-2 pi i j q / rows) between the steps of a column transform, [j][q] a step.
+template <class T>
+void buildColumnTable(int bits, const SineTable<T>& sine, T* next) {
+    const ColumnPlan plan = columnPlan(bits);
+    for (int step = 0; step + 1 < plan.count; ++step) {
+        const int radix = plan.radix[step];
+        for (Vlq64s j = 0; j < powerOfTwo(bits) / radix; ++j) {
+            for (int q = 0; q < radix; ++q, next += 2) {
+                const Twiddle<T> w = twiddle(sine, bits, j * q);
+                next[0] = w.re;
+                next[1] = w.im;
+            }
+        }
+        bits -= std::countr_zero(static_cast<unsigned>(radix));
+    }
+}
+
+// Twiddles of a phase of 2^rowBits rows and 2^columnBits columns: for the columns of a tile, in
+// vectors, then one for each tile; see PhaseTwiddles.
+template <class T>
+T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor& cursor) {
+    constexpr int columns = kTileColumns<T>, lanes = Vec<T>::lanes;
+    const Vlq64s rows = powerOfTwo(rowBits), tiles = powerOfTwo(columnBits) / columns;
+    const int order = rowBits + columnBits;
+    T* const table = cursor.take<T>(2 * rows * (columns + tiles), kTableAlignment);
+    T* next = table;
+    for (Vlq64s row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; column += lanes, next += 2 * lanes) {
+            for (int lane = 0; lane < lanes; ++lane) {
+                const Twiddle<T> w = twiddle(sine, order, row * (column + splitLaneOf<T>(kVecBytes, lane)));
+                next[lane] = w.re;
+                next[lanes + lane] = w.im;
+            }
+        }
+    }
+    for (Vlq64s tile = 0; tile < tiles; ++tile) {
+        for (Vlq64s row = 0; row < rows; ++row, next += 2) {
+            const Twiddle<T> w = twiddle(sine, order, row * tile * columns);
+            next[0] = w.re;
+            next[1] = w.im;
+        }
+    }
+    return table;
+}
+
+template <class T>
+void buildLargeTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
+    const LargePlan plan = largePlan<T>(order);
+    const int later = plan.twoPhases ? order - plan.outer : plan.middle;
+    T* const factors = cursor.take<T>(2 * (columnTwiddles(plan.outer) + columnTwiddles(later)), kTableAlignment);
+    buildColumnTable(plan.outer, sine, factors);
+    buildColumnTable(later, sine, factors + 2 * columnTwiddles(plan.outer));
+    record.twiddleTable = factors;
+    const int lastRows = plan.twoPhases ? later : plan.outer;
+    record.outerTwiddle[0] = buildPhaseTable(lastRows, order - lastRows, sine, cursor);
+    if (!plan.twoPhases) record.outerTwiddle[1] = buildPhaseTable(plan.middle, plan.outer, sine, cursor);
+}
+
+// The size rule of the large orders is that of a decomposition into rows and outer radix-4 stages,
+// level by level, with the tables of a bit reversal. The phases need less.
+struct Level {
+    int outerBits;
+    int tileBits;
+};
+template <class T>
+constexpr Level levelOf(int order) {
+    if constexpr (sizeof(T) == 4) {
+        if (order == 16) return {4, 5};
+        if (order <= 18) return {4, 6};
+        if (order <= 21) return {6, 7};
+        return {8, 6};
+    } else {
+        if (order <= 15) return {4, 4};
+        if (order <= 17) return {4, 6};
+        if (order == 18) return {6, 6};
+        if (order == 19) return {6, 7};
+        return {8, 5};
+    }
+}
+
+// Tables and work of a large order, without the record and the slack.
 template <class T>
 PlanSizes largeSizes(int order) {
     constexpr Vlq64s value = 2 * sizeof(T);
@@ -86,7 +166,7 @@ PlanSizes largeSizes(int order) {
     sizes.spec = order <= ComplexLimits<T>::plainReversal ? plainReversalBytes(order) : tiledReversalBytes<T>(order);
     int level = order;
     while (level > ComplexLimits<T>::inCache) {
-        const LargeStep step = largeStep<T>(level);
+        const Level step = levelOf<T>(level);
         sizes.spec += value * powerOfTwo(level - 1);
         sizes.work = std::max(sizes.work, value * powerOfTwo(step.outerBits + step.tileBits));
         level -= step.outerBits;
@@ -117,9 +197,8 @@ void buildComplexTables(FloatingRecord<T>& record, int order, const SineTable<T>
     record.workBytes = 0;
     if (order <= Limits::straightLine) return;
     record.workBytes = static_cast<Vlq32s>(complexSizes<T>(order).work - 64);
-    if (order > Limits::inCache) return;
-
-    record.twiddleTable = buildPassTable<T>(order, sine, cursor);
+    if (order > Limits::inCache) buildLargeTables<T>(record, order, sine, cursor);
+    else record.twiddleTable = buildPassTable<T>(order, sine, cursor);
 }
 
 template PlanSizes complexSizes<Vlq32f>(int);

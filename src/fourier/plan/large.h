@@ -1,32 +1,57 @@
-// How a transform beyond the caches is cut: 2^outerBits rows, combined in tiles of 2^tileBits
-// columns. A row that is still too long is cut again.
+// How a transform beyond the first caches is cut. N = 2^outer * 2^middle * 2^outer values form a
+// cube [H][M][r], r next to each other. A first phase transforms over H and exchanges H and r, tile
+// by tile; the rest combines over M and r, at once or one after the other. Every phase takes
+// columns a few at a time through the work buffer and leaves them where they were.
 #pragma once
+
+#include <algorithm>
 
 #include "vlqs/types.h"
 
 namespace vlq::fft {
 
-struct LargeStep {
-    int outerBits;
-    int tileBits;
+struct LargePlan {
+    int outer;
+    int middle;
+    bool twoPhases;  // M and r at once
 };
 
-// For orders above ComplexLimits<T>::inCache. Tiles stay near the first cache up to the middle
-// orders, near the second above.
+// Columns that a phase takes at a time: 128 bytes of interleaved values.
 template <class T>
-constexpr LargeStep largeStep(int order) {
-    if constexpr (sizeof(T) == 4) {
-        if (order == 16) return {4, 5};
-        if (order <= 18) return {4, 6};
-        if (order <= 21) return {6, 7};
-        return {8, 6};
-    } else {
-        if (order <= 15) return {4, 4};
-        if (order <= 17) return {4, 6};
-        if (order == 18) return {6, 6};
-        if (order == 19) return {6, 7};
-        return {8, 5};
+inline constexpr int kTileColumns = 64 / static_cast<int>(sizeof(T));
+
+// For orders above ComplexLimits<T>::inCache.
+template <class T>
+constexpr LargePlan largePlan(int order) {
+    if (order <= (sizeof(T) == 4 ? 18 : 17)) return {order / 2, order % 2, true};
+    const int outer = order % 3 == 2 ? order / 3 + 1 : order / 3;
+    return {outer, order - 2 * outer, false};
+}
+
+// A column transform of 2^bits values: radix-8 and radix-16 steps, decimated in frequency.
+struct ColumnPlan {
+    int count;
+    int radix[3];
+};
+constexpr ColumnPlan columnPlan(int bits) {
+    ColumnPlan plan{0, {}};
+    for (const int count = (bits + 3) / 4; plan.count < count; ++plan.count) {
+        const int share = (bits + count - plan.count - 1) / (count - plan.count);
+        plan.radix[plan.count] = 1 << share;
+        bits -= share;
     }
+    return plan;
+}
+
+// Factors between the steps of a column transform.
+constexpr Vlq64s columnTwiddles(int bits) {
+    const ColumnPlan plan = columnPlan(bits);
+    Vlq64s count = 0;
+    for (int i = 0; i + 1 < plan.count; ++i) {
+        count += Vlq64s{1} << bits;
+        for (int r = plan.radix[i]; r > 1; r /= 2) --bits;
+    }
+    return count;
 }
 
 }  // namespace vlq::fft
