@@ -1,5 +1,5 @@
 # What to do with a fresh copy on Debian 12, as root or with sudo. The build itself is CMake's.
-.PHONY: help demo
+.PHONY: help demo test bench docs
 
 help: ## Lists these targets.
 	@sed -n 's/^\([a-z]*\): ## /  make \1	/p' Makefile
@@ -13,3 +13,19 @@ demo: ## Filters a voice recording, WAV=file for your own; results in build/demo
 	@tools/build.sh build/demo/build stream_fir -DVLQS_TESTS=OFF -DVLQS_BENCH=OFF -DVLQS_EXAMPLES=ON
 	@name=$$(basename "$$WAV" .wav) && build/demo/build/bin/stream_fir \
 	    "$$WAV" "build/demo/$$name-filtered.wav" "build/demo/$$name-spectrum.png"
+
+build_packages = build-essential cmake ninja-build pkg-config
+peers = libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev
+
+test: ## Builds and runs every test on every build; ends with "N passed, N failed".
+	@tools/install-packages.sh $(build_packages) binutils clang-14 libomp-14-dev llvm-14 libgtest-dev \
+	    libsndfile1-dev libpng-dev alsa-utils
+	@tools/run-tests.sh
+
+bench: ## Measures everything beside its peers; results in docs/benchmarks.md.
+	@tools/install-packages.sh $(build_packages) $(peers)
+	@tools/run-bench.sh
+
+docs: ## Writes the reference manual to build/manual/docs/html.
+	@tools/install-packages.sh $(build_packages) doxygen
+	@tools/build.sh build/manual docs -DVLQS_TESTS=OFF -DVLQS_EXAMPLES=OFF
