@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "fourier/kernel/real_recombine.h"
+#include "fourier/kernel/real_registers.h"
 #include "fourier/kernel/real_small.h"
 
 namespace vlq::fft {
@@ -25,7 +26,7 @@ inline T get(const T* p) {
 template <class T>
 inline void put(T* p, T value) { std::memcpy(p, &value, sizeof value); }
 
-// Layout to Perm or back for n values; src may be dst.
+// Between Perm and another layout of n values.
 template <Layout layout, class T>
 inline void permToLayout(T* data, std::ptrdiff_t n) {
     if constexpr (layout == Layout::pack) {
@@ -40,6 +41,17 @@ inline void permToLayout(T* data, std::ptrdiff_t n) {
             put(data + n + 1, T(0));
         }
         put(data + 1, T(0));
+    }
+}
+
+template <Layout layout, int n, class T>
+inline void layoutToPerm(const T* src, T* perm) {
+    if constexpr (layout == Layout::perm || n == 1) {
+        std::memcpy(perm, src, n * sizeof(T));
+    } else {
+        perm[0] = get(src);
+        perm[1] = get(src + (layout == Layout::ccs ? n : n - 1));
+        std::memcpy(perm + 2, src + (layout == Layout::ccs ? 2 : 1), (n - 2) * sizeof(T));
     }
 }
 
@@ -60,18 +72,30 @@ template <Layout layout, int order, class T>
 inline void inverseSmall(const T* src, T* dst, bool scaled, T factor) {
     constexpr int n = 1 << order;
     T spectrum[n], x[n];
-    if constexpr (layout == Layout::perm || n == 1) {
-        std::memcpy(spectrum, src, sizeof spectrum);
-    } else {
-        spectrum[0] = get(src);
-        spectrum[1] = get(src + (layout == Layout::ccs ? n : n - 1));
-        std::memcpy(spectrum + 2, src + (layout == Layout::ccs ? 2 : 1), (n - 2) * sizeof(T));
-    }
+    layoutToPerm<layout, n>(src, spectrum);
     realInverse<order, 1>(spectrum, x);
     if (scaled) {
         for (T& value : x) value *= factor;
     }
     std::memcpy(dst, x, sizeof x);
+}
+
+template <Layout layout, int order, class T>
+inline void forwardRegisters(const FloatingRecord<T>& record, const T* src, T* dst) {
+    if (record.doFwdScale) realInRegisters<T, order, Direction::forward, true>(record, src, dst);
+    else realInRegisters<T, order, Direction::forward, false>(record, src, dst);
+    permToLayout<layout>(dst, 1 << order);
+}
+
+template <Layout layout, int order, class T>
+inline void inverseRegisters(const FloatingRecord<T>& record, const T* src, T* dst) {
+    T perm[1 << order];
+    if constexpr (layout != Layout::perm) {
+        layoutToPerm<layout, 1 << order>(src, perm);
+        src = perm;
+    }
+    if (record.doInvScale) realInRegisters<T, order, Direction::inverse, true>(record, src, dst);
+    else realInRegisters<T, order, Direction::inverse, false>(record, src, dst);
 }
 
 }  // namespace detail
@@ -89,9 +113,11 @@ inline void realForwardTransform(const FloatingRecord<T>& record, const T* src, 
         case 4: return detail::forwardSmall<layout, 4>(src, dst, scaled, record.normFactor);
         default: break;
     }
-    if constexpr (RealLimits<T>::straightLine >= 5) {
-        if (order == 5) return detail::forwardSmall<layout, 5>(src, dst, scaled, record.normFactor);
+    if (order == 5) {
+        if constexpr (RealLimits<T>::straightLine >= 5) return detail::forwardSmall<layout, 5>(src, dst, scaled, record.normFactor);
+        else return detail::forwardRegisters<layout, 5>(record, src, dst);
     }
+    if (order == 6) return detail::forwardRegisters<layout, 6>(record, src, dst);
     complexTransform<T, Direction::forward>(order - 1, record, src, dst, work, scaled);
     const T re = detail::get(dst), im = detail::get(dst + 1);
     detail::put(dst, re + im);
@@ -113,9 +139,11 @@ inline void realInverseTransform(const FloatingRecord<T>& record, const T* src, 
         case 4: return detail::inverseSmall<layout, 4>(src, dst, scaled, record.normFactor);
         default: break;
     }
-    if constexpr (RealLimits<T>::straightLine >= 5) {
-        if (order == 5) return detail::inverseSmall<layout, 5>(src, dst, scaled, record.normFactor);
+    if (order == 5) {
+        if constexpr (RealLimits<T>::straightLine >= 5) return detail::inverseSmall<layout, 5>(src, dst, scaled, record.normFactor);
+        else return detail::inverseRegisters<layout, 5>(record, src, dst);
     }
+    if (order == 6) return detail::inverseRegisters<layout, 6>(record, src, dst);
     const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
     const T mean = detail::get(src);
     const T nyquist = detail::get(src + (layout == Layout::perm ? 1 : layout == Layout::pack ? n - 1 : n));

@@ -45,14 +45,14 @@ inline void recombineStep(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T, B>
 
 // src1 and dst1 point at value 1; quarter = H/2 is a multiple of the lanes. The last block of both
 // ends holds value H/2, which is its own mirror: both results of it are the same.
-template <Direction direction, class T, int B>
+template <Direction direction, class T>
 inline void recombineBlocks(const T* src1, T* dst1, const T* factors, std::ptrdiff_t quarter) {
-    constexpr int lanes = Vec<T, B>::lanes;
+    constexpr int lanes = Vec<T>::lanes;
     const T* srcBack = src1 + 2 * (2 * quarter - 1 - lanes);
     T* dstBack = dst1 + 2 * (2 * quarter - 1 - lanes);
     for (std::ptrdiff_t i = 0; i < 2 * quarter; i += 2 * lanes) {
-        auto a = loadSplit<T, B>(src1 + i), b = loadSplitBackward<T, B>(srcBack - i);
-        recombineStep<direction>(a, b, load<T, B>(factors + i), load<T, B>(factors + i + lanes));
+        auto a = loadSplit<T>(src1 + i), b = loadSplitBackward<T>(srcBack - i);
+        recombineStep<direction>(a, b, load<T>(factors + i), load<T>(factors + i + lanes));
         storeSplit(dst1 + i, a);
         storeSplitBackward(dstBack - i, b);
     }
@@ -93,15 +93,13 @@ inline void recombineTwoLevels(const T* src1, T* dst1, const T* factors, std::pt
     std::memcpy(dst1 + 2 * (quarter - 1), result, sizeof result);
 }
 
-// Values 1 to H-1 of a transform of 2^order points. src1 and dst1 point at value 1 and may be one.
+// Values 1 to H-1 of a transform of 2^order points, order above inRegisters. src1 and dst1 point at value 1 and may be one.
 template <Direction direction, class T>
 inline void recombine(int order, const FloatingRecord<T>& record, const T* src1, T* dst1) {
     const T* factors = direction == Direction::forward ? record.realTwiddleFwd : record.realTwiddleInv;
     const std::ptrdiff_t quarter = std::ptrdiff_t{1} << (order - 2);
-    constexpr int element = sizeof(T);
-    if (order >= RealLimits<T>::twoLevel) recombineTwoLevels<direction>(src1, dst1, factors, quarter);
-    else if (quarter * element >= kVecBytes) recombineBlocks<direction, T, kVecBytes>(src1, dst1, factors, quarter);
-    else recombineBlocks<direction, T, 32 < kVecBytes ? 32 : kVecBytes>(src1, dst1, factors, quarter);
+    if (order < RealLimits<T>::twoLevel) recombineBlocks<direction>(src1, dst1, factors, quarter);
+    else recombineTwoLevels<direction>(src1, dst1, factors, quarter);
 }
 
 }  // namespace vlq::fft

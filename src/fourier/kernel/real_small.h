@@ -3,18 +3,9 @@
 // real and imaginary parts of values 1 to N/2 - 1.
 #pragma once
 
-namespace vlq::fft {
+#include "fourier/kernel/small.h"
 
-// cos(2 pi k / 32), k = 0 to 8.
-inline constexpr double kCosine32[9] = {1.0,
-                                        0.98078528040323044913,
-                                        0.92387953251128675613,
-                                        0.83146961230254523708,
-                                        0.70710678118654752440,
-                                        0.55557023301960222474,
-                                        0.38268343236508977173,
-                                        0.19509032201612826785,
-                                        0.0};
+namespace vlq::fft {
 
 // spectrum = DFT of x[0], x[stride], ... , decimated in time: X[k] = E[k] + w^k O[k] and its mirror.
 template <int order, int stride, class T>

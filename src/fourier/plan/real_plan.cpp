@@ -7,27 +7,14 @@ namespace {
 
 constexpr Vlq64s powerOfTwo(int exponent) { return Vlq64s{1} << exponent; }
 
-// Where factor k (from 0) of a grouped table has its cosine; its sine follows `group` later.
-template <class T>
-int lanePlace(int group, Vlq64s k) {
-    for (int lane = 0; lane < group; ++lane) {
-        const int value = group * static_cast<int>(sizeof(T)) == 16   ? splitLane<T, 16>(lane)
-                          : group * static_cast<int>(sizeof(T)) == 32 ? splitLane<T, 32>(lane)
-                                                                      : splitLane<T, 64>(lane);
-        if (value == k % group) return lane;
-    }
-    return 0;
-}
-
-// factor(k, cosine, sine) stores the two parts of factor k = 1 to count.
-template <class T, class Factor>
-void fillGroups(T* table, Vlq64s count, Factor factor) {
-    const int group = factorGroup<T>(count);
-    int place[kVecBytes];
-    for (int k = 0; k < group; ++k) place[k] = lanePlace<T>(group, k);
-    for (Vlq64s k = 0; k < count; ++k) {
-        T* parts = table + k / group * 2 * group + place[k % group];
-        factor(k + 1, parts[0], parts[group]);
+// factor(k, cosine, sine) sets the two parts of factor k = first to first + count - 1.
+template <int B, class T, class Factor>
+void fillGroups(T* table, Vlq64s first, Vlq64s count, Factor factor) {
+    constexpr int lanes = B / static_cast<int>(sizeof(T));
+    for (Vlq64s group = 0; group < count; group += lanes, table += 2 * lanes) {
+        for (int lane = 0; lane < lanes; ++lane) {
+            factor(first + group + splitLane<T, B>(lane), table[lane], table[lanes + lane]);
+        }
     }
 }
 
@@ -64,18 +51,25 @@ void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& s
     const int stride = sine.order - order;
     auto sinOf = [&](Vlq64s k) { return sine.values[k << stride]; };
     auto cosOf = [&](Vlq64s k) { return sine.values[(quarter - k) << stride]; };
+    auto plainFactor = [&](Vlq64s k, T& cosine, T& sin) {
+        cosine = cosOf(k);
+        sin = -sinOf(k);
+    };
 
     if (order < Limits::twoLevel) {
         T* forward = cursor.take<T>(2 * quarter, kTableAlignment);
         T* inverse = cursor.take<T>(2 * quarter, kTableAlignment);
-        fillGroups(forward, quarter, [&](Vlq64s k, T& cosine, T& sin) {
+        auto forwardFactor = [&](Vlq64s k, T& cosine, T& sin) {
             cosine = T(0.5) * cosOf(k);
             sin = static_cast<T>(0.5 - 0.5 * static_cast<double>(sinOf(k)));
-        });
-        fillGroups(inverse, quarter, [&](Vlq64s k, T& cosine, T& sin) {
-            cosine = cosOf(k);
-            sin = -sinOf(k);
-        });
+        };
+        if (order <= Limits::inRegisters) {
+            fillGroups<16>(forward, 0, quarter, forwardFactor);
+            fillGroups<16>(inverse, 0, quarter, plainFactor);
+        } else {
+            fillGroups<kVecBytes>(forward, 1, quarter, forwardFactor);
+            fillGroups<kVecBytes>(inverse, 1, quarter, plainFactor);
+        }
         record.realTwiddleFwd = forward;
         record.realTwiddleInv = inverse;
         return;
@@ -86,14 +80,8 @@ void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& s
     const Vlq64s coarse = quarter / fine;
     auto build = [&] {
         T* table = cursor.take<T>(2 * (fine + coarse), kTableAlignment);
-        fillGroups(table, fine, [&](Vlq64s k, T& cosine, T& sin) {
-            cosine = cosOf(k);
-            sin = -sinOf(k);
-        });
-        for (Vlq64s b = 0; b < coarse; ++b) {
-            table[2 * (fine + b)] = cosOf(fine * b);
-            table[2 * (fine + b) + 1] = -sinOf(fine * b);
-        }
+        fillGroups<kVecBytes>(table, 1, fine, plainFactor);
+        for (Vlq64s b = 0; b < coarse; ++b) plainFactor(fine * b, table[2 * (fine + b)], table[2 * (fine + b) + 1]);
         return table;
     };
     record.realTwiddleFwd = build();

@@ -2,8 +2,6 @@
 // turn its spectrum into the real signal's.
 #pragma once
 
-#include <algorithm>
-
 #include "fourier/plan/record.h"
 #include "fourier/plan/sine.h"
 #include "frame/simd/split.h"
@@ -16,27 +14,25 @@ struct RealLimits;
 template <>
 struct RealLimits<Vlq32f> {
     static constexpr int largest = 29;
-    static constexpr int straightLine = 4;  // up to here no table at all
-    static constexpr int complexTables = 7; // from here the half-length transform needs tables
-    static constexpr int twoLevel = 19;     // from here factors are products of a coarse and a fine one
-    static constexpr int fineOrder = 10;    // log2 of the number of fine factors
+    static constexpr int straightLine = 4;   // up to here no table at all
+    static constexpr int inRegisters = 6;    // up to here all values stay in registers
+    static constexpr int complexTables = 7;  // from here the half-length transform needs tables
+    static constexpr int twoLevel = 19;      // from here factors are products of a coarse and a fine one
+    static constexpr int fineOrder = 10;     // log2 of the number of fine factors
 };
 template <>
 struct RealLimits<Vlq64f> {
     static constexpr int largest = 28;
     static constexpr int straightLine = 5;
+    static constexpr int inRegisters = 6;
     static constexpr int complexTables = 7;
     static constexpr int twoLevel = 18;
     static constexpr int fineOrder = 9;
 };
 
-// Factors stand in groups: the cosine parts of consecutive k, then the sine parts, both in the lane
-// order of one Split vector. A group is as wide as the build's vectors, or as the whole table
-// where that is shorter.
-template <class T>
-constexpr int factorGroup(Vlq64s factors) {
-    return static_cast<int>(std::min<Vlq64s>(factors, kVecBytes / static_cast<int>(sizeof(T))));
-}
+// Factors stand in groups as wide as a vector: the cosine parts of consecutive k, then the sine
+// parts, both in the lane order of a Split vector. They begin at k = 1; up to order inRegisters,
+// where vectors have 16 bytes in every build, at k = 0.
 
 // Sizes of a real record, as its size query gives them.
 template <class T>

@@ -150,6 +150,22 @@ inline void storeSplit(T* p, Split<T, B> v) {
     store(p, a);
     store(p + Vec<T, B>::lanes, b);
 }
+// Lanes of two 16-byte vectors: the first of `next`, then those of v from its last to its second.
+// Where v and next are neighbours in a sequence, these are its lanes from next[0] backwards.
+inline Vec<float, 16> backwardAcross(Vec<float, 16> v, Vec<float, 16> next) {
+    return Vec<float, 16>(_mm_move_ss(_mm_shuffle_ps(v.raw, v.raw, _MM_SHUFFLE(1, 2, 3, 0)), next.raw));
+}
+inline Vec<double, 16> backwardAcross(Vec<double, 16> v, Vec<double, 16> next) {
+    return Vec<double, 16>(_mm_move_sd(v.raw, next.raw));
+}
+// v with the first lane of `other`.
+inline Vec<float, 16> withFirst(Vec<float, 16> v, Vec<float, 16> other) {
+    return Vec<float, 16>(_mm_move_ss(v.raw, other.raw));
+}
+inline Vec<double, 16> withFirst(Vec<double, 16> v, Vec<double, 16> other) {
+    return Vec<double, 16>(_mm_move_sd(v.raw, other.raw));
+}
+
 // The run from its last value to its first: lanes meet those of a forward run mirrored.
 template <class T, int B = kVecBytes>
 inline Split<T, B> loadSplitBackward(const T* p) {
