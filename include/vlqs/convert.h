@@ -205,6 +205,84 @@ VlqStatus vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len, Vlq
 VlqStatus vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 /** @} */
 
+/**
+ * @name Half floats to floats
+ *
+ * `dst[i] = src[i]`, exact. A signalling not-a-number becomes quiet.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment, and do not overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * **Source.** IEEE 754, binary16.
+ *
+ * @param src  bits of binary16 numbers
+ * @param dst  result
+ * @param len  number of elements
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_16f32f(const Vlq16f* src, Vlq32f* dst, Vlq32s len);
+/** @} */
+
+/**
+ * @name Half floats from floats and integers
+ *
+ * `dst[i] = round(src[i])`, to the binary16 numbers. @p rndMode 0 rounds towards zero, so that a
+ * finite number never becomes infinite; 1 rounds to the nearest, ties to even, and what lies half a
+ * step or more past the largest binary16 number becomes infinite. Subnormal results are kept. A
+ * not-a-number keeps its sign and the top nine bits of its payload and becomes quiet.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment. @p dst may begin where @p src
+ * does; other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
+ * #vlqStsBadRoundMode for @p rndMode other than 0 and 1.
+ *
+ * **Memory.** None.
+ *
+ * **Source.** IEEE 754, binary16.
+ *
+ * @param src     samples
+ * @param dst     bits of binary16 numbers
+ * @param len     number of elements
+ * @param rndMode #vlqRndZero or #vlqRndNear
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_16s16f(const Vlq16s* src, Vlq16f* dst, Vlq32s len, VlqRoundMode rndMode);
+VlqStatus vlqsConvert_32f16f(const Vlq32f* src, Vlq16f* dst, Vlq32s len, VlqRoundMode rndMode);
+/** @} */
+
+/**
+ * @name Half floats to integers, scaled and rounded
+ *
+ * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`: the value that vlqsConvert_16f32f followed by
+ * vlqsConvert_32f16s_Sfs gives, a not-a-number as 32767 included.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment. @p dst may begin where @p src
+ * does; other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
+ * #vlqStsBadRoundMode for @p rndMode other than 0 and 1. No scale factor is refused.
+ *
+ * **Memory.** None.
+ *
+ * **Source.** IEEE 754, binary16.
+ *
+ * @param src         bits of binary16 numbers
+ * @param dst         result
+ * @param len         number of elements
+ * @param rndMode     #vlqRndZero or #vlqRndNear
+ * @param scaleFactor negated exponent of the factor
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+/** @} */
+
 VLQS_END_DECLS
 
 #endif
