@@ -283,6 +283,63 @@ VlqStatus vlqsConvert_32f16f(const Vlq32f* src, Vlq16f* dst, Vlq32s len, VlqRoun
 VlqStatus vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 /** @} */
 
+/**
+ * @name Packed 24-bit integers to wider samples
+ *
+ * `dst[i] = src[i]`, exact. An element of @p src is three bytes, least significant first, with no
+ * gap to the next; the `24s` forms extend its sign.
+ *
+ * **Shapes.** @p src has 3 @p len bytes, @p dst has @p len elements, at any alignment; they do not
+ * overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src  packed samples
+ * @param dst  result
+ * @param len  number of elements
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_24s32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_24s32s(const Vlq8u* src, Vlq32s* dst, Vlq32s len);
+VlqStatus vlqsConvert_24u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsConvert_24u32u(const Vlq8u* src, Vlq32u* dst, Vlq32s len);
+/** @} */
+
+/**
+ * @name Packed 24-bit integers from wider samples, scaled
+ *
+ * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`, to the nearest integer and the even one of
+ * two equally near. An element of @p dst is three bytes, least significant first, with no gap to
+ * the next. In the integer forms a scale factor above 31 counts as 31. In the float forms the
+ * product is formed in single precision, with a factor that is infinite or zero where 2^-scaleFactor
+ * leaves the type; a not-a-number gives the top value.
+ *
+ * The result does not depend on the rounding or flushing that the calling thread has set.
+ *
+ * **Shapes.** @p src has @p len elements, @p dst has 3 @p len bytes, at any alignment; they do not
+ * overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ * No scale factor is refused.
+ *
+ * **Memory.** None.
+ *
+ * @param src         samples
+ * @param dst         packed result
+ * @param len         number of elements
+ * @param scaleFactor negated exponent of the factor
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsConvert_32f24s_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f24u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32s24s_Sfs(const Vlq32s* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32u24u_Sfs(const Vlq32u* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
 VLQS_END_DECLS
 
 #endif

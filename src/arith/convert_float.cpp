@@ -18,13 +18,6 @@ VlqStatus plain(const From* src, To* dst, std::int64_t len, Op op) {
     return vlqStsOk;
 }
 
-// With these scale factors a product rounds to the same integer whether subnormals are kept or
-// flushed, and however it is rounded where it is subnormal: all such products lie below one half.
-template <class T>
-bool subnormalsVanish(Vlq32s scaleFactor) {
-    return scaleFactor >= std::numeric_limits<T>::min_exponent && scaleFactor <= -std::numeric_limits<T>::min_exponent + 1;
-}
-
 template <class Scale, class Round, class From, class To>
 void rounded(const From* src, To* dst, std::int64_t len, Scale scale, Round round, bool flushingMatters) {
     const StandardFloatMode hold(Round::usesControlWord || flushingMatters);

@@ -25,6 +25,13 @@ T stepwisePower(std::int32_t scaleFactor) {
     return T(0);
 }
 
+// With these scale factors a product rounds to the same integer whether subnormals are kept or
+// flushed, and however it is rounded where it is subnormal: all such products lie below one half.
+template <class T>
+bool subnormalsVanish(std::int32_t scaleFactor) {
+    return scaleFactor >= std::numeric_limits<T>::min_exponent && scaleFactor <= -std::numeric_limits<T>::min_exponent + 1;
+}
+
 // ---- floats to integers ----------------------------------------------------------------------------
 struct Zero {
     static constexpr bool usesControlWord = false;

@@ -42,7 +42,11 @@ struct RoundShift {
         using Unsigned = std::make_unsigned_t<T>;
         const V mask = V::broadcast(static_cast<T>((Unsigned{1} << count) - 1));
         const V quotient = shiftRight(v, count);
-        return quotient - isAbove(v & mask, Round::limit(quotient, signMask(v), mask));
+        V sign = V::zero();
+        if constexpr (std::is_signed_v<T>) sign = signMask(v);
+        const V limit = Round::limit(quotient, sign, mask);
+        using Lane = BitsOf<T>;
+        return quotient - bitCast<T>(isAbove(bitCast<Lane>(v & mask), bitCast<Lane>(limit)));
     }
 };
 

@@ -1,0 +1,47 @@
+// Element-wise loops with packed 24-bit integers on one side: whole blocks, then what remains by
+// way of a block of its own. Nothing outside the vectors is touched.
+#pragma once
+
+#include "frame/loop/map.h"
+#include "frame/simd/packed24.h"
+
+namespace vlq {
+
+// dst[i] = op(src[i]): op takes 32-bit lanes and gives a Block of D, which is as wide.
+template <bool kSigned, class D, class Op>
+inline void mapFromPacked24(D* dst, const std::uint8_t* src, std::ptrdiff_t len, Op op) {
+    static_assert(sizeof(D) == 4);
+    constexpr int count = kPacked24Count;
+    while (len >= count) {
+        detail::storeBlock<D, 2>(dst, op(unpack24<kSigned>(src)));
+        dst += count;
+        src += 3 * count;
+        len -= count;
+    }
+    if (len > 0) {
+        std::uint8_t bytes[3 * count] = {};
+        std::memcpy(bytes, src, static_cast<std::size_t>(3 * len));
+        detail::storeBlockPartial<D, 2>(dst, op(unpack24<kSigned>(bytes)), static_cast<int>(len));
+    }
+}
+
+// dst[i] = op(src[i]): op takes a Block of S and gives 32-bit lanes, whose lower three bytes are
+// stored.
+template <class S, class Op>
+inline void mapToPacked24(std::uint8_t* dst, const S* src, std::ptrdiff_t len, Op op) {
+    static_assert(sizeof(S) == 4);
+    constexpr int count = kPacked24Count;
+    while (len >= count) {
+        pack24(dst, op(detail::loadBlock<S, 2>(src)));
+        dst += 3 * count;
+        src += count;
+        len -= count;
+    }
+    if (len > 0) {
+        std::uint8_t bytes[3 * count];
+        pack24(bytes, op(detail::loadBlockPartial<S, 2>(src, static_cast<int>(len))));
+        std::memcpy(dst, bytes, static_cast<std::size_t>(3 * len));
+    }
+}
+
+}  // namespace vlq
