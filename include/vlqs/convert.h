@@ -340,6 +340,64 @@ VlqStatus vlqsConvert_32s24s_Sfs(const Vlq32s* src, Vlq8u* dst, Vlq32s len, Vlq3
 VlqStatus vlqsConvert_32u24u_Sfs(const Vlq32u* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
 /** @} */
 
+/**
+ * @name Interleaved integer audio to one row of floats a channel
+ *
+ * `dstRows[c][f] = x * step + half` with x channel c of frame f, `src[f * channels + c]`, in single
+ * precision with a rounding after each operation. The lowest sample gives -1, the highest 1, and no
+ * sample gives 0: step and half are 1/32767.5 and 1/65535 for 16 bits, 1/8388607.5 and 2^-24 for 24
+ * bits. The 24-bit samples are packed, three bytes each, least significant first.
+ *
+ * The result does not depend on the rounding or flushing that the calling thread has set.
+ *
+ * **Shapes.** @p src has @p channels times @p frames samples, each row @p frames floats, at any
+ * alignment. No row overlaps another or @p src.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null @p src or @p dstRows, #vlqStsNullPtr for a null
+ * row, #vlqStsBadSize for @p channels or @p frames below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src      interleaved samples
+ * @param dstRows  one row a channel
+ * @param channels number of channels
+ * @param frames   number of samples in each channel
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsSplitScaled_16s32f_D2L(const Vlq16s* src, Vlq32f* const* dstRows, Vlq32s channels, Vlq32s frames);
+VlqStatus vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRows, Vlq32s channels, Vlq32s frames);
+/** @} */
+
+/**
+ * @name One row of floats a channel to interleaved integer audio
+ *
+ * `dst[f * channels + c] = round(clamp(srcRows[c][f], -1, 1) * scale - 0.5)`, to the nearest integer and
+ * the even one of two equally near, with a scale of 32767.5 for 16 and 8388607.5 for 24 bits: -1 gives
+ * the lowest sample, 1 the highest. A not-a-number counts as 1. The 24-bit samples are packed, three
+ * bytes each, least significant first.
+ *
+ * The result does not depend on the rounding or flushing that the calling thread has set.
+ *
+ * **Shapes.** @p dst has @p channels times @p frames samples, each row @p frames floats, at any
+ * alignment. @p dst overlaps no row.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null @p dst or @p srcRows, #vlqStsNullPtr for a null
+ * row, #vlqStsBadSize for @p channels or @p frames below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param srcRows  one row a channel
+ * @param channels number of channels
+ * @param frames   number of samples in each channel
+ * @param dst      interleaved samples
+ * @return #vlqStsOk or an error above.
+ * @{
+ */
+VlqStatus vlqsJoinScaled_32f16s_D2L(const Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames, Vlq16s* dst);
+VlqStatus vlqsJoinScaled_32f24s_D2L(const Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames, Vlq8u* dst);
+/** @} */
+
 VLQS_END_DECLS
 
 #endif
