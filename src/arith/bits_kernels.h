@@ -28,6 +28,11 @@ struct Joined {
     V operator()(V byte, V next) const { return shiftLeft(byte, shift) | shiftRight(next, 8 - shift); }
 };
 
+inline void copyBytes(Byte* dst, const Byte* src, std::size_t n) {
+    if (n <= kShort) copyShort(dst, src, n);
+    else copyLong(dst, src, n);
+}
+
 // Copies `len` bits. Offsets are 0 to 7; bits of dst outside the range keep their values.
 inline void copyBits(const Byte* src, int srcOffset, Byte* dst, int dstOffset, std::ptrdiff_t len) {
     if (dstOffset != 0) {

@@ -3,27 +3,57 @@
 
 namespace {
 
+using vlq::Byte;
+using Pattern = vlq::Vec<Byte>;
+
+// The long runs are functions of their own, called last: so the short ones, where the call itself
+// is the cost, go without a stack frame.
+template <std::size_t Period>
+[[gnu::noinline]] VlqStatus fillLongRun(Byte* dst, std::size_t bytes, Pattern pattern) {
+    vlq::fillLong<Period>(dst, bytes, pattern);
+    return vlqStsOk;
+}
+[[gnu::noinline]] VlqStatus copyLongRun(Byte* dst, const Byte* src, std::size_t bytes) {
+    vlq::copyLong(dst, src, bytes);
+    return vlqStsOk;
+}
+[[gnu::noinline]] VlqStatus moveLongRun(Byte* dst, const Byte* src, std::size_t bytes) {
+    vlq::moveLong(dst, src, bytes);
+    return vlqStsOk;
+}
+
+template <std::size_t Period, class T>
+VlqStatus fill(T* dst, Vlq32s len, Pattern pattern) {
+    auto* to = reinterpret_cast<Byte*>(dst);
+    const std::size_t bytes = static_cast<std::size_t>(len) * sizeof(T);
+    if (bytes > vlq::kShort) return fillLongRun<Period>(to, bytes, pattern);
+    vlq::fillShort(to, bytes, pattern);
+    return vlqStsOk;
+}
+
 template <class T>
 VlqStatus zero(T* dst, Vlq32s len) {
     if (!dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::fill(dst, vlq::Vec<vlq::Byte>::zero(), static_cast<std::size_t>(len));
-    return vlqStsOk;
+    return fill<1>(dst, len, vlq::opaque(Pattern::zero()));
 }
 
 template <class T>
 VlqStatus set(T val, T* dst, Vlq32s len) {
     if (!dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::fill(dst, vlq::repeated(val), static_cast<std::size_t>(len));
-    return vlqStsOk;
+    return fill<sizeof(T)>(dst, len, vlq::repeated(val));
 }
 
 template <class T>
 VlqStatus copy(const T* src, T* dst, Vlq32s len) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::copyBytes(dst, src, static_cast<std::size_t>(len) * sizeof(T));
+    auto* to = reinterpret_cast<Byte*>(dst);
+    const auto* from = reinterpret_cast<const Byte*>(src);
+    const std::size_t bytes = static_cast<std::size_t>(len) * sizeof(T);
+    if (bytes > vlq::kShort) return copyLongRun(to, from, bytes);
+    vlq::copyShort(to, from, bytes);
     return vlqStsOk;
 }
 
@@ -31,7 +61,11 @@ template <class T>
 VlqStatus move(const T* src, T* dst, Vlq32s len) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::moveBytes(dst, src, static_cast<std::size_t>(len) * sizeof(T));
+    auto* to = reinterpret_cast<Byte*>(dst);
+    const auto* from = reinterpret_cast<const Byte*>(src);
+    const std::size_t bytes = static_cast<std::size_t>(len) * sizeof(T);
+    if (bytes > vlq::kShort) return moveLongRun(to, from, bytes);
+    vlq::copyShort(to, from, bytes);
     return vlqStsOk;
 }
 

@@ -1,26 +1,53 @@
-// Bulk movement of bytes: copy, move and fill. Short runs are a few overlapping loads and stores
-// with everything read before anything is written; longer ones step over an aligned destination;
-// runs that would sweep the cache go past it with non-temporal stores.
+// Bulk movement of bytes: copy, move and fill. By length: a few overlapping loads and stores, with
+// everything read before anything is written; a loop over an aligned destination; the string
+// instructions; and for what would sweep the cache, stores past it. The limits between them were
+// measured; they decide how data travels, never what is stored.
 #pragma once
 
 #include "frame/simd/cache.h"
+#include "frame/simd/permute.h"
+#include "frame/simd/string.h"
 #include "frame/simd/vec.h"
 
 namespace vlq {
 
 using Byte = unsigned char;
 
+// Up to here a run is a few loads and stores from both of its ends: copyShort, fillShort. A caller
+// in a hurry makes the other call its last, and needs no stack frame for the short one.
+inline constexpr std::size_t kShort = 8 * kVecBytes;
+
 namespace detail {
 
 template <int B>
 using Bytes = Vec<Byte, B>;
 
-// Runs from here on look up the cache. The look-up may trap to a hypervisor for microseconds.
-inline constexpr std::size_t kLookUpFrom = std::size_t{4} << 20;
-// A copy is warmed and stored in stretches of this size.
-inline constexpr std::size_t kStretch = 0x40000;
+// From here on the string instruction copies. Where vectors are narrow it is soon the wider path;
+// wide ones lose to it when source and destination no longer fit the first cache.
+inline constexpr std::size_t kCopyByWords = kVecBytes == 16 ? 1536 : 24 << 10;
+// The same for a fill, which has the first and second caches to itself.
+inline constexpr std::size_t kFillByWords = kVecBytes == 16 ? 6 << 10 : 1 << 20;
+// From here on the processor is asked for its cache, which may take microseconds.
+inline constexpr std::size_t kAskFrom = std::size_t{8} << 20;
 
-// A word of memory of N bytes as a plain value.
+// Source and destination of a copy, together half as large again as the cache.
+inline bool copySweepsCache(std::size_t n) {
+    if (n < kAskFrom) return false;
+    const std::size_t cache = cacheBytes();
+    return cache != 0 && n >= cache / 4 * 3;
+}
+inline bool fillSweepsCache(std::size_t n) {
+    if (n < kAskFrom) return false;
+    const std::size_t cache = cacheBytes();
+    return cache != 0 && n >= cache / 2 * 3;
+}
+
+// Bytes from p to the next boundary of `Boundary` bytes, 1 to Boundary.
+template <std::size_t Boundary>
+inline std::size_t toNextBoundary(const Byte* p) {
+    return Boundary - reinterpret_cast<std::uintptr_t>(p) % Boundary;
+}
+
 template <class Word>
 inline Word loadWord(const Byte* p) {
     Word w;
@@ -30,6 +57,8 @@ inline Word loadWord(const Byte* p) {
 template <class Word>
 inline void storeWord(Byte* p, Word w) { std::memcpy(p, &w, sizeof(Word)); }
 
+// ---- copy ----------------------------------------------------------------------------------
+
 // n from sizeof(Word) to twice that: two words that may overlap.
 template <class Word>
 inline void copyTwoWords(Byte* dst, const Byte* src, std::size_t n) {
@@ -38,23 +67,43 @@ inline void copyTwoWords(Byte* dst, const Byte* src, std::size_t n) {
     storeWord(dst + n - sizeof(Word), last);
 }
 
-// n from N * B to 2 * N * B: N vectors from either end.
+// n from N * B to 2 * N * B: N vectors from either end, N being 1, 2 or 4. Each by name: from
+// arrays GCC 12 makes copies through the stack.
 template <int B, int N>
-inline void copyEnds(Byte* dst, const Byte* src, std::size_t n) {
-    Bytes<B> first[N], last[N];
-    for (int i = 0; i < N; ++i) first[i] = load<Byte, B>(src + i * B);
-    for (int i = 0; i < N; ++i) last[i] = load<Byte, B>(src + n - (i + 1) * B);
-    for (int i = 0; i < N; ++i) store(dst + i * B, first[i]);
-    for (int i = 0; i < N; ++i) store(dst + n - (i + 1) * B, last[i]);
+[[gnu::always_inline]] inline void copyEnds(Byte* dst, const Byte* src, std::size_t n) {
+    const Byte* const srcEnd = src + n;
+    Byte* const dstEnd = dst + n;
+    const auto first = load<Byte, B>(src), last = load<Byte, B>(srcEnd - B);
+    if constexpr (N == 1) {
+        store(dst, first);
+        store(dstEnd - B, last);
+    } else {
+        const auto second = load<Byte, B>(src + B), lastButOne = load<Byte, B>(srcEnd - 2 * B);
+        if constexpr (N == 4) {
+            const auto third = load<Byte, B>(src + 2 * B), fourth = load<Byte, B>(src + 3 * B);
+            const auto lastButTwo = load<Byte, B>(srcEnd - 3 * B), lastButThree = load<Byte, B>(srcEnd - 4 * B);
+            store(dst + 2 * B, third);
+            store(dst + 3 * B, fourth);
+            store(dstEnd - 3 * B, lastButTwo);
+            store(dstEnd - 4 * B, lastButThree);
+        }
+        store(dst, first);
+        store(dst + B, second);
+        store(dstEnd - B, last);
+        store(dstEnd - 2 * B, lastButOne);
+    }
 }
 
-inline constexpr std::size_t kShort = 8 * kVecBytes;
+}  // namespace detail
 
 // Up to kShort bytes, any overlap.
-inline void copyShort(Byte* dst, const Byte* src, std::size_t n) {
-    if (n >= 4 * kVecBytes) return copyEnds<kVecBytes, 4>(dst, src, n);
-    if (n >= 2 * kVecBytes) return copyEnds<kVecBytes, 2>(dst, src, n);
-    if (n >= kVecBytes) return copyEnds<kVecBytes, 1>(dst, src, n);
+[[gnu::always_inline]] inline void copyShort(Byte* dst, const Byte* src, std::size_t n) {
+    using namespace detail;
+    if (n >= kVecBytes) {
+        if (n <= 2 * kVecBytes) return copyEnds<kVecBytes, 1>(dst, src, n);
+        if (n <= 4 * kVecBytes) return copyEnds<kVecBytes, 2>(dst, src, n);
+        return copyEnds<kVecBytes, 4>(dst, src, n);
+    }
 #if VLQ_SIMD_BYTES >= 64
     if (n >= 32) return copyEnds<32, 1>(dst, src, n);
 #endif
@@ -67,121 +116,131 @@ inline void copyShort(Byte* dst, const Byte* src, std::size_t n) {
     if (n == 1) *dst = *src;
 }
 
-// First byte to the last, from kShort bytes; dst may overlap src from below. The ends are read
+namespace detail {
+
+// Four vectors in a row.
+struct Four {
+    Bytes<kVecBytes> a, b, c, d;
+};
+[[gnu::always_inline]] inline Four loadFour(const Byte* p) {
+    constexpr int B = kVecBytes;
+    return {load<Byte>(p), load<Byte>(p + B), load<Byte>(p + 2 * B), load<Byte>(p + 3 * B)};
+}
+template <class Put>
+[[gnu::always_inline]] inline void storeFour(Byte* p, Four v, Put put) {
+    constexpr int B = kVecBytes;
+    put(p, v.a);
+    put(p + B, v.b);
+    put(p + 2 * B, v.c);
+    put(p + 3 * B, v.d);
+}
+inline constexpr auto kAnywhere = [](Byte* p, Bytes<kVecBytes> v) { store(p, v); };
+inline constexpr auto kAligned = [](Byte* p, Bytes<kVecBytes> v) { storeAligned(p, v); };
+inline constexpr auto kPastCache = [](Byte* p, Bytes<kVecBytes> v) { stream(p, v); };
+
+// First byte to the last, more than kShort; dst may overlap src from below. The ends are read
 // before the loop writes, and written after it.
 inline void copyUpwards(Byte* dst, const Byte* src, std::size_t n) {
     constexpr int B = kVecBytes;
     const auto first = load<Byte>(src);
-    Bytes<B> last[4];
-    for (int i = 0; i < 4; ++i) last[i] = load<Byte>(src + n - (i + 1) * B);
+    const Four last = loadFour(src + n - 4 * B);
     Byte* const start = dst;
     Byte* const end = dst + n;
-    const std::size_t head = B - reinterpret_cast<std::uintptr_t>(dst) % B;
+    const std::size_t head = toNextBoundary<B>(dst);
     dst += head;
     src += head;
     while (end - dst > 4 * B) {
-        Bytes<B> v[4];
-        for (int i = 0; i < 4; ++i) v[i] = load<Byte>(src + i * B);
-        for (int i = 0; i < 4; ++i) storeAligned(dst + i * B, v[i]);
+        storeFour(dst, loadFour(src), kAligned);
         dst += 4 * B;
         src += 4 * B;
     }
-    for (int i = 0; i < 4; ++i) store(end - (i + 1) * B, last[i]);
+    storeFour(end - 4 * B, last, kAnywhere);
     store(start, first);
 }
 
-// Last byte to the first, from kShort bytes; dst may overlap src from above.
+// Last byte to the first, more than kShort; dst may overlap src from above.
 inline void copyDownwards(Byte* dst, const Byte* src, std::size_t n) {
     constexpr int B = kVecBytes;
     const auto last = load<Byte>(src + n - B);
-    Bytes<B> first[4];
-    for (int i = 0; i < 4; ++i) first[i] = load<Byte>(src + i * B);
+    const Four first = loadFour(src);
     Byte* const start = dst;
     Byte* const end = dst + n;
-    const std::size_t tail = (reinterpret_cast<std::uintptr_t>(end) - 1) % B + 1;
+    const std::size_t tail = B + 1 - toNextBoundary<B>(end - 1);
     dst = end - tail;
     src += n - tail;
     while (dst - start > 4 * B) {
         dst -= 4 * B;
         src -= 4 * B;
-        Bytes<B> v[4];
-        for (int i = 0; i < 4; ++i) v[i] = load<Byte>(src + i * B);
-        for (int i = 0; i < 4; ++i) storeAligned(dst + i * B, v[i]);
+        storeFour(dst, loadFour(src), kAligned);
     }
-    for (int i = 0; i < 4; ++i) store(start + i * B, first[i]);
+    storeFour(start, first, kAnywhere);
     store(end - B, last);
 }
 
-// Past the cache: each stretch is touched, so that the reads run at full speed, then stored
-// non-temporally. The regions are apart.
-inline void copyStreaming(Byte* dst, const Byte* src, std::size_t n) {
-    constexpr int B = kVecBytes;
-    const std::size_t head = (B - reinterpret_cast<std::uintptr_t>(dst) % B) % B;
+// By string instruction, from a cache line of dst on. The regions are apart.
+inline void copyByWords(Byte* dst, const Byte* src, std::size_t n) {
+    const std::size_t head = toNextBoundary<64>(dst);
     copyShort(dst, src, head);
-    dst += head;
-    src += head;
-    n -= head;
-    while (n >= 4 * B) {
-        const std::size_t stretch = n < kStretch ? n / (4 * B) * (4 * B) : kStretch;
-        for (std::size_t i = 0; i < stretch; i += 64) touch(src + i);
-        for (std::size_t i = 0; i < stretch; i += 4 * B) {
-            Bytes<B> v[4];
-            for (int k = 0; k < 4; ++k) v[k] = load<Byte>(src + i + k * B);
-            for (int k = 0; k < 4; ++k) stream(dst + i + k * B, v[k]);
-        }
-        dst += stretch;
-        src += stretch;
-        n -= stretch;
-    }
-    streamFence();
-    copyShort(dst, src, n);
+    const std::size_t words = (n - head) / 8;
+    copyWords(dst + head, src + head, words);
+    const std::size_t done = head + 8 * words;
+    copyShort(dst + done, src + done, n - done);
 }
 
-inline bool sweepsCache(std::size_t n) {
-    if (n < kLookUpFrom) return false;
-    const std::size_t cache = cacheBytes();
-    return cache != 0 && n >= cache / 2;
+// Past the cache. The regions are apart.
+inline void copyStreaming(Byte* dst, const Byte* src, std::size_t n) {
+    constexpr int B = kVecBytes;
+    const std::size_t head = toNextBoundary<B>(dst);
+    copyShort(dst, src, head);
+    std::size_t done = head;
+    for (; n - done >= 4 * B; done += 4 * B) {
+        storeFour(dst + done, loadFour(src + done), kPastCache);
+    }
+    streamFence();
+    copyShort(dst + done, src + done, n - done);
 }
 
 }  // namespace detail
 
-// The regions do not overlap.
-inline void copyBytes(void* dst, const void* src, std::size_t n) {
-    auto* d = static_cast<Byte*>(dst);
-    const auto* s = static_cast<const Byte*>(src);
-    if (n <= detail::kShort) detail::copyShort(d, s, n);
-    else if (detail::sweepsCache(n)) detail::copyStreaming(d, s, n);
-    else detail::copyUpwards(d, s, n);
+// More than kShort bytes; the regions are apart.
+inline void copyLong(Byte* dst, const Byte* src, std::size_t n) {
+    using namespace detail;
+    if (n < kCopyByWords) copyUpwards(dst, src, n);
+    else if (copySweepsCache(n)) copyStreaming(dst, src, n);
+    else copyByWords(dst, src, n);
 }
 
-// Any overlap.
-inline void moveBytes(void* dst, const void* src, std::size_t n) {
-    auto* d = static_cast<Byte*>(dst);
-    const auto* s = static_cast<const Byte*>(src);
-    const std::uintptr_t ahead = reinterpret_cast<std::uintptr_t>(d) - reinterpret_cast<std::uintptr_t>(s);
-    if (ahead == 0) return;
-    if (n <= detail::kShort) detail::copyShort(d, s, n);
-    else if (ahead < n) detail::copyDownwards(d, s, n);
-    else if (0 - ahead < n || !detail::sweepsCache(n)) detail::copyUpwards(d, s, n);
-    else detail::copyStreaming(d, s, n);
+// More than kShort bytes, any overlap.
+inline void moveLong(Byte* dst, const Byte* src, std::size_t n) {
+    using namespace detail;
+    const std::uintptr_t above = reinterpret_cast<std::uintptr_t>(dst) - reinterpret_cast<std::uintptr_t>(src);
+    if (above == 0) return;
+    if (above < n) copyDownwards(dst, src, n);
+    else if (0 - above < n) copyUpwards(dst, src, n);
+    else copyLong(dst, src, n);
+}
+
+// ---- fill ----------------------------------------------------------------------------------
+
+// A value of 1, 2, 4 or 8 bytes, or a complex one of 16, over and over; every bit is kept.
+template <class T>
+inline Vec<Byte> repeated(const T& value) {
+    if constexpr (sizeof(T) == 16) {
+        // Each half in a register: the value came in two, and a compiler that stores them and reads
+        // one vector back makes the read wait.
+        auto re = std::bit_cast<std::int64_t>(value.re), im = std::bit_cast<std::int64_t>(value.im);
+        asm("" : "+r"(re), "+r"(im));
+        return bitCast<Byte>(alternating(re, im));
+    } else {
+        return bitCast<Byte>(Vec<BitsOf<T>>::broadcast(std::bit_cast<BitsOf<T>>(value)));
+    }
 }
 
 namespace detail {
 
-template <int B>
-inline Bytes<B> leadingBytes(Bytes<kVecBytes> v) {
-    if constexpr (B == kVecBytes) return v;
-#if VLQ_SIMD_BYTES == 32
-    else return lowHalf(v);
-#elif VLQ_SIMD_BYTES == 64
-    else if constexpr (B == 32) return lowHalf(v);
-    else return lowHalf(lowHalf(v));
-#endif
-}
-
 template <int B, int N>
-inline void fillEnds(Byte* dst, std::size_t n, Bytes<kVecBytes> pattern) {
-    const Bytes<B> v = leadingBytes<B>(pattern);
+[[gnu::always_inline]] inline void fillEnds(Byte* dst, std::size_t n, Bytes<kVecBytes> pattern) {
+    const Bytes<B> v = firstBytes<B>(pattern);
     for (int i = 0; i < N; ++i) store(dst + i * B, v);
     for (int i = 0; i < N; ++i) store(dst + n - (i + 1) * B, v);
 }
@@ -192,75 +251,63 @@ inline void fillTwoWords(Byte* dst, std::size_t n, std::uint64_t pattern) {
     storeWord(dst + n - sizeof(Word), w);
 }
 
-inline void fillShort(Byte* dst, std::size_t n, Bytes<kVecBytes> pattern) {
-    if (n >= 4 * kVecBytes) return fillEnds<kVecBytes, 4>(dst, n, pattern);
-    if (n >= 2 * kVecBytes) return fillEnds<kVecBytes, 2>(dst, n, pattern);
-    if (n >= kVecBytes) return fillEnds<kVecBytes, 1>(dst, n, pattern);
+}  // namespace detail
+
+// Up to kShort bytes; n is a multiple of the pattern's period, so that both ends are in phase.
+[[gnu::always_inline]] inline void fillShort(Byte* dst, std::size_t n, Vec<Byte> pattern) {
+    using namespace detail;
+    if (n >= kVecBytes) {
+        if (n <= 2 * kVecBytes) return fillEnds<kVecBytes, 1>(dst, n, pattern);
+        if (n <= 4 * kVecBytes) return fillEnds<kVecBytes, 2>(dst, n, pattern);
+        return fillEnds<kVecBytes, 4>(dst, n, pattern);
+    }
 #if VLQ_SIMD_BYTES >= 64
     if (n >= 32) return fillEnds<32, 1>(dst, n, pattern);
 #endif
 #if VLQ_SIMD_BYTES >= 32
     if (n >= 16) return fillEnds<16, 1>(dst, n, pattern);
 #endif
-    const auto word = static_cast<std::uint64_t>(bitCast<std::int64_t>(pattern)[0]);
+    const std::uint64_t word = firstWord(pattern);
     if (n >= 8) return fillTwoWords<std::uint64_t>(dst, n, word);
     if (n >= 4) return fillTwoWords<std::uint32_t>(dst, n, word);
     if (n >= 2) return fillTwoWords<std::uint16_t>(dst, n, word);
     if (n == 1) *dst = static_cast<Byte>(word);
 }
 
-template <class Store>
-inline void fillVectors(Byte* dst, Byte* end, Bytes<kVecBytes> pattern, Store put) {
-    for (; end - dst > 4 * kVecBytes; dst += 4 * kVecBytes) {
-        for (int i = 0; i < 4; ++i) put(dst + i * kVecBytes, pattern);
-    }
-}
+namespace detail {
 
-// n bytes, more than kShort; `pattern` repeats with a period of `period` bytes from dst on.
-inline void fillLong(Byte* dst, std::size_t n, Bytes<kVecBytes> pattern, std::size_t period) {
+template <class Put>
+inline void fillVectors(Byte* dst, Byte* end, Bytes<kVecBytes> pattern, Put put) {
     constexpr int B = kVecBytes;
-    Byte* const end = dst + n;
-    store(dst, pattern);
-    const std::size_t head = B - reinterpret_cast<std::uintptr_t>(dst) % B;
-    if (head % period != 0) {
-        // No element stands on a vector's boundary.
-        fillVectors(dst, end, pattern, [](Byte* p, Bytes<B> v) { store(p, v); });
-    } else if (sweepsCache(n)) {
-        fillVectors(dst + head, end, pattern, [](Byte* p, Bytes<B> v) { stream(p, v); });
-        streamFence();
-    } else {
-        fillVectors(dst + head, end, pattern, [](Byte* p, Bytes<B> v) { storeAligned(p, v); });
-    }
-    for (int i = 0; i < 4; ++i) store(end - (i + 1) * B, pattern);
+    const Four four = {pattern, pattern, pattern, pattern};
+    for (; end - dst > 4 * B; dst += 4 * B) storeFour(dst, four, put);
+    storeFour(end - 4 * B, four, kAnywhere);
 }
 
 }  // namespace detail
 
-// `pattern` over `count` elements of type T.
-template <class T>
-inline void fill(T* dst, Vec<unsigned char> pattern, std::size_t count) {
-    static_assert(16 % sizeof(T) == 0);
-    auto* d = reinterpret_cast<Byte*>(dst);
-    const std::size_t n = count * sizeof(T);
-    if (n <= detail::kShort) detail::fillShort(d, n, pattern);
-    else detail::fillLong(d, n, pattern, sizeof(T));
-}
-
-// A value of 1, 2, 4, 8 or 16 bytes over and over; every bit is kept.
-template <class T>
-inline Vec<unsigned char> repeated(const T& value) {
-    if constexpr (sizeof(T) == 16) {
-        Vec<Byte, 16> v;
-        std::memcpy(&v.raw, &value, 16);
-#if VLQ_SIMD_BYTES >= 64
-        return joinHalves(joinHalves(v, v), joinHalves(v, v));
-#elif VLQ_SIMD_BYTES >= 32
-        return joinHalves(v, v);
-#else
-        return v;
-#endif
+// More than kShort bytes; `pattern` repeats with a period of Period bytes from dst on.
+template <std::size_t Period>
+inline void fillLong(Byte* dst, std::size_t n, Vec<Byte> pattern) {
+    using namespace detail;
+    constexpr int B = kVecBytes;
+    store(dst, pattern);
+    const std::size_t head = toNextBoundary<B>(dst);
+    if (head % Period != 0) {
+        // No element begins on a boundary of the vector.
+        return fillVectors(dst, dst + n, pattern, kAnywhere);
+    }
+    Byte* const start = dst + head;
+    Byte* const end = dst + n;
+    if (Period <= 8 && n >= kFillByWords) {
+        const std::size_t words = static_cast<std::size_t>(end - start) / 8;
+        fillWords(start, firstWord(pattern), words);
+        store(end - B, pattern);
+    } else if (Period > 8 && fillSweepsCache(n)) {
+        fillVectors(start, end, pattern, kPastCache);
+        streamFence();
     } else {
-        return bitCast<Byte>(Vec<BitsOf<T>>::broadcast(std::bit_cast<BitsOf<T>>(value)));
+        fillVectors(start, end, pattern, kAligned);
     }
 }
 

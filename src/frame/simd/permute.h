@@ -1,4 +1,4 @@
-// Orders of bytes and lanes: byte swap inside elements, reversal of a whole vector.
+// Orders of bytes and lanes: byte swap inside elements, reversal of a whole vector, repetition.
 #pragma once
 
 #include "frame/simd/vec.h"
@@ -66,6 +66,30 @@ inline __m512i reverse64(__m512i v) {
 #endif
 
 }  // namespace detail
+
+// The first To bytes of a vector, and its first eight as a word. Opaque, as a word that is
+// known as a lane makes GCC 12 hold the whole vector in words.
+template <int To, class T, int B>
+inline Vec<T, To> firstBytes(Vec<T, B> v) {
+    if constexpr (To == B) return v;
+    else return firstBytes<To>(lowHalf(v));
+}
+template <class T, int B>
+inline std::uint64_t firstWord(Vec<T, B> v) {
+    return static_cast<std::uint64_t>(_mm_cvtsi128_si64(asInt(opaque(firstBytes<16>(v)))));
+}
+
+// The two values in turn.
+inline Vec<std::int64_t> alternating(std::int64_t even, std::int64_t odd) {
+    const __m128i pair = _mm_set_epi64x(odd, even);
+#if VLQ_SIMD_BYTES == 16
+    return fromRegister<std::int64_t>(pair);
+#elif VLQ_SIMD_BYTES == 32
+    return fromRegister<std::int64_t>(_mm256_broadcastsi128_si256(pair));
+#else
+    return fromRegister<std::int64_t>(_mm512_broadcast_i32x4(pair));
+#endif
+}
 
 // The elements of Size bytes (1, 2, 4, 8, 16) in reverse order.
 template <int Size, class T, int B>

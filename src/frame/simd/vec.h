@@ -110,6 +110,14 @@ inline Vec<To, B> bitCast(Vec<T, B> v) {
     return Vec<To, B>((typename Vec<To, B>::RawType)v.raw);
 }
 
+// The same vector, of which the optimizer knows nothing: it neither takes it apart into words nor
+// makes a call of the clear out of stores of zeros.
+template <class T, int B>
+inline Vec<T, B> opaque(Vec<T, B> v) {
+    asm("" : "+x"(v.raw));
+    return v;
+}
+
 // ---- intrinsic views -----------------------------------------------------------------------
 // Bits of any vector as the intrinsics' register types.
 template <class T, int B>
