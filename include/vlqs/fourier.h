@@ -35,8 +35,8 @@ typedef struct VlqsFFTSpec_C_32f VlqsFFTSpec_C_32f;   /**< single precision, par
  * #vlqStsNullPtr for a null size, #vlqStsBadFlag, #vlqStsBadOrder for an order above 28. Of `Init`:
  * #vlqStsNullPtr for @p outSpec, #vlqStsBadOrder, #vlqStsNullPtr for @p specMem, #vlqStsBadFlag,
  * #vlqStsNullPtr for @p initBuf from order 11. Of `InitAlloc`: #vlqStsNullPtr for @p outSpec, those
- * of `GetSize`, #vlqStsNoMemory. Of `GetBufSize` and `Free`: #vlqStsNullPtr for the record,
- * #vlqStsBadSpec for one that is dead or of another kind, #vlqStsNullPtr for the size.
+ * of `GetSize`, #vlqStsNoMemory. Of `GetBufSize` and `Free`: #vlqStsNullPtr for the record or the
+ * size, #vlqStsBadSpec for a record that is dead or of another kind.
  *
  * **Memory.** `InitAlloc` allocates the record, and for the call the scratch of `Init`. `Free`
  * marks the record dead and releases it if `InitAlloc` made it. The other calls allocate nothing.

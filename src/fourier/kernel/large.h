@@ -11,8 +11,8 @@
 
 namespace vlq::fft {
 
-// One radix-R step over `rows` rows: row j + p * rows / R meets its kind, output q goes to row
-// q * rows / R + j (rank q for a last step, where rows = R), multiplied by factor [j][q].
+// One radix-R step over `rows` rows: row j + p * rows / R meets its kind, output q is multiplied by
+// factor [j][q], but not in the last step, and goes to row q * rows / R + j.
 template <class T, int B, int R, bool last, class Get, class Put>
 [[gnu::always_inline]] inline void columnStep(std::ptrdiff_t rows, const T* factors, Get&& get, Put&& put) {
     using V = Vec<T, B>;
@@ -28,9 +28,8 @@ template <class T, int B, int R, bool last, class Get, class Put>
                 put(q * stride + j, c, v);
             };
             if constexpr (R == 16) {
-                S x[16];
-                unroll<16>([&](auto p) __attribute__((always_inline)) { x[p] = get(j + p * stride, c); });
-                dft16<T, B>(kRootHalf<T>, [&](auto p) __attribute__((always_inline)) { return x[p]; }, finish);
+                dft16<T, B>(
+                    kRootHalf<T>, [&](auto p) __attribute__((always_inline)) { return get(j + p * stride, c); }, finish);
             } else {
                 S x[8];
                 unroll<8>([&](auto p) __attribute__((always_inline)) { x[p] = get(j + p * stride, c); });
@@ -40,9 +39,8 @@ template <class T, int B, int R, bool last, class Get, class Put>
         }
     }
 }
-
 template <class T, int B, bool last, class Get, class Put>
-void columnStepOf(int radix, std::ptrdiff_t rows, const T* factors, Get get, Put put) {
+[[gnu::always_inline]] inline void columnStepOf(int radix, std::ptrdiff_t rows, const T* factors, Get get, Put put) {
     if (radix == 16) columnStep<T, B, 16, last>(rows, factors, get, put);
     else columnStep<T, B, 8, last>(rows, factors, get, put);
 }
@@ -57,43 +55,69 @@ struct Tile {
     [[gnu::always_inline]] void put(std::ptrdiff_t row, int c, Split<T, B> v) const {
         Blocks<T>{p}.template put<B>(row * kTileColumns<T> + c * Vec<T, B>::lanes, v);
     }
+    Tile from(std::ptrdiff_t row) const { return {p + 2 * row * kTileColumns<T>}; }
 };
 
-// Transforms the columns that get(row, vector) gives; put(row, vector, value) takes output `row`.
-template <class T, int B, class Get, class Put>
-void columnTransform(int bits, const T* factors, Tile<T, B> tile, Get get, Put put) {
-    const ColumnPlan plan = columnPlan(bits);
-    std::ptrdiff_t rows = std::ptrdiff_t{1} << bits;
-    auto toTile = [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) { tile.put(row, c, v); };
-    columnStepOf<T, B, false>(plan.radix[0], rows, factors, get, toTile);
-    factors += 2 * rows;
-    rows /= plan.radix[0];
-    std::ptrdiff_t ranks = plan.radix[0];
-    if (plan.count == 3) {
-        for (std::ptrdiff_t q = 0; q < ranks; ++q) {
-            const Tile<T, B> part{tile.p + 2 * q * rows * kTileColumns<T>};
-            columnStepOf<T, B, false>(
-                plan.radix[1], rows, factors,
-                [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) { return part.get(row, c); },
-                [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) { part.put(row, c, v); });
-        }
-        rows /= plan.radix[1];
-        ranks *= plan.radix[1];
+// A column transform of 2^bits rows whose first step reads where the caller says. Output q lies at
+// row place(q) of the tile: its digits by radix stand in the opposite order.
+template <class T, int B>
+struct ColumnTransform {
+    int bits;
+    const T* factors;
+    Tile<T, B> tile;
+    ColumnPlan plan = columnPlan(bits);
+    int bits0 = std::countr_zero(static_cast<unsigned>(plan.radix[0]));
+    int bits1 = plan.count == 3 ? std::countr_zero(static_cast<unsigned>(plan.radix[1])) : 0;
+
+    std::ptrdiff_t rows() const { return std::ptrdiff_t{1} << bits; }
+    std::ptrdiff_t ranks() const { return std::ptrdiff_t{1} << (bits0 + bits1); }
+
+    std::ptrdiff_t place(std::ptrdiff_t q) const {
+        const std::ptrdiff_t q0 = q & ((1 << bits0) - 1), q1 = (q >> bits0) & ((1 << bits1) - 1);
+        return (((q0 << bits1) + q1) << (bits - bits0 - bits1)) + (q >> (bits0 + bits1));
     }
-    const int lowRadix = plan.radix[0], highRanks = static_cast<int>(ranks) / lowRadix;
-    for (int q0 = 0; q0 < lowRadix; ++q0) {
-        for (int q1 = 0; q1 < highRanks; ++q1) {
-            const Tile<T, B> part{tile.p + 2 * (q0 * highRanks + q1) * rows * kTileColumns<T>};
-            const std::ptrdiff_t rank = q0 + lowRadix * q1;
+
+    // Up to the last step: the tile then holds `ranks` transforms still to be done, each of
+    // adjacent rows.
+    template <class Get>
+    [[gnu::always_inline]] void begin(Get get) const {
+        columnStepOf<T, B, false>(
+            plan.radix[0], rows(), factors, get,
+            [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) { tile.put(row, c, v); });
+        if (plan.count == 3) {
+            const std::ptrdiff_t inner = rows() >> bits0;
+            for (std::ptrdiff_t row = 0; row < rows(); row += inner) step<false>(tile.from(row), plan.radix[1], inner);
+        }
+    }
+    // The last step, outputs left in their places.
+    void endInTile() const {
+        const int radix = plan.radix[plan.count - 1];
+        for (std::ptrdiff_t row = 0; row < rows(); row += radix) step<true>(tile.from(row), radix, radix);
+    }
+    // The last step; put(q, vector, value) takes the outputs.
+    template <class Put>
+    [[gnu::always_inline]] void end(Put put) const {
+        const int radix = plan.radix[plan.count - 1];
+        for (std::ptrdiff_t rank = 0; rank < ranks(); ++rank) {
+            const Tile<T, B> part = tile.from(place(rank));
             columnStepOf<T, B, true>(
-                plan.radix[plan.count - 1], rows, factors,
+                radix, radix, factors,
                 [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) { return part.get(row, c); },
                 [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) {
-                    put(rank + row * ranks, c, v);
+                    put(rank + row * ranks(), c, v);
                 });
         }
     }
-}
+
+private:
+    template <bool last>
+    [[gnu::noinline]] void step(Tile<T, B> part, int radix, std::ptrdiff_t count) const {
+        columnStepOf<T, B, last>(
+            radix, count, factors + (last ? 0 : 2 * rows()),
+            [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) { return part.get(row, c); },
+            [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) { part.put(row, c, v); });
+    }
+};
 
 // Twiddles of a phase: W^(row * column) as the product of a vector for the column within a tile
 // and a scalar for the tile.
@@ -144,46 +168,36 @@ void transposeInPlace(Middle data, std::ptrdiff_t base, std::ptrdiff_t size, std
     }
 }
 
-// src to middle, over H; middle is the memory of dst in the form that passes use.
-template <class T, int B, bool scaled, class In, class Middle>
-void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Middle middle, T* work, bool inPlace, T scale) {
+// src to middle, over H, multiplied by scale; middle is the memory of dst in the form that phases
+// use among themselves.
+template <class T, int B, class In, class Middle>
+void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Middle middle, T* work, bool inPlace,
+                T scale) {
     using V = Vec<T, B>;
     using S = Split<T, B>;
     constexpr int lanes = V::lanes, columns = kTileColumns<T>;
     const std::ptrdiff_t size = std::ptrdiff_t{1} << plan.outer, pitch = std::ptrdiff_t{1} << (order - plan.outer);
-    const Tile<T, B> tile{work};
-    [[maybe_unused]] const V factor = V::broadcast(scale);
+    const ColumnTransform<T, B> transform{plan.outer, factors, {work}};
+    const V factor = V::broadcast(scale);
     for (std::ptrdiff_t m = 0; m < pitch; m += size) {
         for (std::ptrdiff_t r = 0; r < size; r += columns) {
-            auto get = [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) {
-                const S v = src.template get<B>(row * pitch + m + r + c * lanes);
-                return scaled ? times(v, factor) : v;
-            };
+            transform.begin([&](std::ptrdiff_t row, int c) __attribute__((always_inline)) {
+                return times(src.template get<B>(row * pitch + m + r + c * lanes), factor);
+            });
+            transform.endInTile();
             if (inPlace) {
-                columnTransform<T, B>(plan.outer, factors, tile, get,
-                                      [&](std::ptrdiff_t row, int c, S v) __attribute__((always_inline)) {
-                                          middle.template put<B>(row * pitch + m + r + c * lanes, v);
-                                      });
+                for (std::ptrdiff_t q = 0; q < size; ++q) {
+                    for (int c = 0; c < columns / lanes; ++c) {
+                        middle.template put<B>(q * pitch + m + r + c * lanes, transform.tile.get(transform.place(q), c));
+                    }
+                }
                 continue;
             }
-            // Outputs stay in the tile, then leave transposed: `place` is where output q lies.
-            const ColumnPlan steps = columnPlan(plan.outer);
-            const int bits0 = std::countr_zero(static_cast<unsigned>(steps.radix[0])),
-                      bits1 = steps.count == 3 ? std::countr_zero(static_cast<unsigned>(steps.radix[1])) : 0;
-            auto place = [&](std::ptrdiff_t q) __attribute__((always_inline)) {
-                const std::ptrdiff_t q0 = q & ((1 << bits0) - 1), q1 = (q >> bits0) & ((1 << bits1) - 1),
-                                     q2 = q >> (bits0 + bits1);
-                return (((q0 << bits1) + q1) << (plan.outer - bits0 - bits1)) + q2;
-            };
-            columnTransform<T, B>(plan.outer, factors, tile, get,
-                                  [&](std::ptrdiff_t row, int c, S v) __attribute__((always_inline)) {
-                                      tile.put(place(row), c, v);
-                                  });
             for (std::ptrdiff_t q = 0; q < size; q += lanes) {
                 for (int c = 0; c < columns / lanes; ++c) {
                     V re[lanes], im[lanes];
                     unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                        const S v = tile.get(place(q + splitLane<T, B>(i)), c);
+                        const S v = transform.tile.get(transform.place(q + splitLane<T, B>(i)), c);
                         re[i] = v.re;
                         im[i] = v.im;
                     });
@@ -199,51 +213,59 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
     }
 }
 
-// Combines 2^rowBits rows of 2^columnBits columns from `base` on; rowAt(j) is the distance of
-// input row j, output row q lies at q << columnBits.
-template <class T, int B, class In, class Out, class RowAt>
+// Distance of a row from the first: rows count along r, from `size` on along M as well.
+struct RowPlace {
+    int rBits;       // of the rows along r
+    int rDistance;   // base-2 logarithm of the distance of two of them
+    int mDistance;   // of two along M
+    std::ptrdiff_t operator()(std::ptrdiff_t row) const {
+        const std::ptrdiff_t m = row >> rBits;
+        return ((row - (m << rBits)) << rDistance) + (m << mDistance);
+    }
+};
+
+// Combines 2^rowBits rows of 2^columnBits columns from `base` on; output row q lies at
+// q << columnBits.
+template <class T, int B, class In, class Out>
 void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, In in, Out out, std::ptrdiff_t base,
-                T* work, RowAt rowAt) {
+                T* work, RowPlace rowPlace) {
     using S = Split<T, B>;
     constexpr int lanes = Vec<T, B>::lanes, columns = kTileColumns<T>;
     const PhaseTwiddles<T, B> twiddles(table, rowBits);
+    const ColumnTransform<T, B> transform{rowBits, factors, {work}};
     const T* scalars = twiddles.tiles;
     for (std::ptrdiff_t k = 0; k < std::ptrdiff_t{1} << columnBits; k += columns, scalars += 2 << rowBits) {
-        columnTransform<T, B>(
-            rowBits, factors, Tile<T, B>{work},
-            [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) {
-                return in.template get<B>(base + rowAt(row) + k + c * lanes) * twiddles.of(row, c, scalars);
-            },
-            [&](std::ptrdiff_t row, int c, S v) __attribute__((always_inline)) {
-                out.template put<B>(base + (row << columnBits) + k + c * lanes, v);
-            });
+        transform.begin([&](std::ptrdiff_t row, int c) __attribute__((always_inline)) {
+            return in.template get<B>(base + rowPlace(row) + k + c * lanes) * twiddles.of(row, c, scalars);
+        });
+        transform.end([&](std::ptrdiff_t row, int c, S v) __attribute__((always_inline)) {
+            out.template put<B>(base + (row << columnBits) + k + c * lanes, v);
+        });
     }
 }
 
+// inPlace: src is the memory of dst.
 template <class T, class In, class Middle, class Out>
-void largeTransform(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work, bool inPlace,
-                    bool scaled) {
+void runPhases(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work, bool inPlace,
+               bool scaled) {
     constexpr int B = kVecBytes;
     const LargePlan plan = largePlan<T>(order);
     const int inner = order - plan.outer;
     const T* factors = record.twiddleTable;
     const T* laterFactors = factors + 2 * columnTwiddles(plan.outer);
-    if (scaled) firstPhase<T, B, true>(plan, order, factors, src, middle, work, inPlace, record.normFactor);
-    else firstPhase<T, B, false>(plan, order, factors, src, middle, work, inPlace, T(1));
-
+    firstPhase<T, B>(plan, order, factors, src, middle, work, inPlace, scaled ? record.normFactor : T(1));
     if (plan.twoPhases) {
-        const std::ptrdiff_t outerMask = (std::ptrdiff_t{1} << plan.outer) - 1;
         laterPhase<T, B>(inner, plan.outer, laterFactors, record.outerTwiddle[0].get(), middle, dst, 0, work,
-                         [=](std::ptrdiff_t j) { return ((j & outerMask) << inner) + ((j >> plan.outer) << plan.outer); });
+                         {plan.outer, inner, plan.outer});
         return;
     }
     const T* middleTable = record.outerTwiddle[1];
     for (std::ptrdiff_t row = 0; row < std::ptrdiff_t{1} << plan.outer; ++row) {
         laterPhase<T, B>(plan.middle, plan.outer, laterFactors, middleTable, middle, middle, row << inner, work,
-                         [=](std::ptrdiff_t j) { return j << plan.outer; });
+                         {plan.middle, plan.outer, 0});
     }
     laterPhase<T, B>(plan.outer, inner, factors, record.outerTwiddle[0].get(), middle, dst, 0, work,
-                     [=](std::ptrdiff_t j) { return j << inner; });
+                     {plan.outer, inner, 0});
 }
 
 }  // namespace vlq::fft

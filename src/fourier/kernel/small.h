@@ -50,7 +50,7 @@ template <class T, int B, int span>
 inline constexpr LastTwiddles<T, B, span> kLastTwiddles = lastTwiddles<T, B, span>();
 
 template <class T, bool scaled, class In, class Out>
-void smallTransform(int order, In src, Out dst, T scale) {
+void straightLine(int order, In src, Out dst, T scale) {
     auto put = [&](int i, Value<T> v) __attribute__((always_inline)) { dst.putOne(i, scaled ? times(v, scale) : v); };
     switch (order) {
         case 0: put(0, src.one(0)); break;
