@@ -6,8 +6,14 @@ namespace vlq::fft {
 
 template <class T, class In, class Out>
 void smallTransform(int order, const FloatingRecord<T>& record, In src, Out dst, bool scaled) {
-    if (scaled) straightLine<T, true>(order, src, dst, record.normFactor);
-    else straightLine<T, false>(order, src, dst, T(1));
+    using Kernel = void (*)(In, Out, T);
+    static constexpr Kernel plain[] = {straightLine<T, 0, false, In, Out>, straightLine<T, 1, false, In, Out>,
+                                       straightLine<T, 2, false, In, Out>, straightLine<T, 3, false, In, Out>,
+                                       straightLine<T, 4, false, In, Out>, straightLine<T, 5, false, In, Out>};
+    static constexpr Kernel twins[] = {straightLine<T, 0, true, In, Out>, straightLine<T, 1, true, In, Out>,
+                                       straightLine<T, 2, true, In, Out>, straightLine<T, 3, true, In, Out>,
+                                       straightLine<T, 4, true, In, Out>, straightLine<T, 5, true, In, Out>};
+    (scaled ? twins : plain)[order](src, dst, record.normFactor);
 }
 
 template void smallTransform(int, const FloatingRecord<Vlq32f>&, ForwardIn<Vlq32f>, ForwardOut<Vlq32f>, bool);

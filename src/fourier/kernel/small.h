@@ -3,6 +3,8 @@
 #pragma once
 
 #include "fourier/kernel/passes.h"
+#include "fourier/kernel/roots.h"
+#include "fourier/kernel/small_wide.h"
 
 namespace vlq::fft {
 
@@ -12,22 +14,6 @@ struct LastTwiddles {
     static constexpr int lanes = B / static_cast<int>(sizeof(T));
     alignas(64) T values[2 * 3 * span];
 };
-
-// cos(2 pi k / 32)
-inline constexpr double kCosine32[9] = {1.0,
-                                        0.98078528040323044913,
-                                        0.92387953251128675613,
-                                        0.83146961230254523708,
-                                        0.70710678118654752440,
-                                        0.55557023301960222474,
-                                        0.38268343236508977173,
-                                        0.19509032201612826785,
-                                        0.0};
-constexpr double cosine32(int k) {
-    k &= 31;
-    if (k > 16) k = 32 - k;
-    return k > 8 ? -kCosine32[16 - k] : kCosine32[k];
-}
 
 template <class T, int B, int span>
 constexpr LastTwiddles<T, B, span> lastTwiddles() {
@@ -49,44 +35,36 @@ constexpr LastTwiddles<T, B, span> lastTwiddles() {
 template <class T, int B, int span>
 inline constexpr LastTwiddles<T, B, span> kLastTwiddles = lastTwiddles<T, B, span>();
 
-template <class T, bool scaled, class In, class Out>
-void straightLine(int order, In src, Out dst, T scale) {
-    auto put = [&](int i, Value<T> v) __attribute__((always_inline)) { dst.putOne(i, scaled ? times(v, scale) : v); };
-    switch (order) {
-        case 0: put(0, src.one(0)); break;
-        case 1: {
-            const Value<T> a = src.one(0), b = src.one(1);
-            put(0, a + b);
-            put(1, a - b);
-            break;
-        }
-        case 2: {
-            Value<T> a = src.one(0), b = src.one(1), c = src.one(2), d = src.one(3);
-            dft4(a, b, c, d);
-            put(0, a);
-            put(1, b);
-            put(2, c);
-            put(3, d);
-            break;
-        }
-        case 3: {
-            Value<T> x[8];
-            unroll<8>([&](auto i) __attribute__((always_inline)) { x[i] = src.one(i); });
+template <class View>
+inline constexpr bool kIsInterleaved = false;
+template <class P, bool exchanged>
+inline constexpr bool kIsInterleaved<Interleaved<P, exchanged>> = true;
+
+template <class T, int order, bool scaled, class In, class Out>
+void straightLine(In src, Out dst, T scale) {
+    constexpr int n = 1 << order;
+    if constexpr (order <= 3) {
+        Value<T> x[n];
+        unroll<n>([&](auto i) __attribute__((always_inline)) { x[i] = src.one(i); });
+        if constexpr (order == 1) {
+            const Value<T> sum = x[0] + x[1];
+            x[1] = x[0] - x[1];
+            x[0] = sum;
+        } else if constexpr (order == 2) {
+            dft4(x[0], x[1], x[2], x[3]);
+        } else if constexpr (order == 3) {
             dft8(x, kEightPoint<T>);
-            unroll<8>([&](auto i) __attribute__((always_inline)) { put(i, x[i]); });
-            break;
         }
-        case 4: {
-            alignas(64) T w[32];
-            firstPass<T, 16, 4>(src, Blocks<T>{w}, 16, kRootHalf<T>);
-            laterPass<T, 16, 4, scaled>(Blocks<T>{w}, dst, 16, 4, kLastTwiddles<T, 16, 4>.values, scale);
-            break;
-        }
-        default: {
-            alignas(64) T w[64];
-            firstPass<T, 16, 8>(src, Blocks<T>{w}, 32, kEightPoint<T>);
-            laterPass<T, 16, 4, scaled>(Blocks<T>{w}, dst, 32, 8, kLastTwiddles<T, 16, 8>.values, scale);
-        }
+        unroll<n>([&](auto i) __attribute__((always_inline)) { dst.putOne(i, scaled ? times(x[i], scale) : x[i]); });
+    } else if constexpr (kVecBytes >= 32 && sizeof(T) == 4 && kIsInterleaved<In>) {
+#if VLQ_SIMD_BYTES >= 32
+        transformWide<n / 4, In::kExchanged, scaled>(src.p, dst.p, scale);
+#endif
+    } else {
+        constexpr int first = order == 4 ? 4 : 8;
+        alignas(16) T w[2 * n];
+        firstPass<T, 16, first>(src, Blocks<T>{w}, n, kEightPoint<T>);
+        laterPass<T, 16, 4, scaled>(Blocks<T>{w}, dst, n, first, kLastTwiddles<T, 16, first>.values, scale);
     }
 }
 

@@ -29,6 +29,7 @@ template <class T>
 template <class P, bool exchanged>
 struct Interleaved {
     using T = std::remove_const_t<P>;
+    static constexpr bool kExchanged = exchanged;
     P* p;
     template <int B>
     [[gnu::always_inline]] Split<T, B> get(std::ptrdiff_t i) const {
