@@ -15,7 +15,7 @@ function(vlqs_add_library target)
   # multiply-add is written where it is meant.
   target_compile_options(${target} PRIVATE
     -march=${ARG_ARCH} -fvisibility=hidden -fvisibility-inlines-hidden
-    -ffp-contract=off -fno-math-errno)
+    -ffp-contract=off -fno-math-errno -fno-exceptions)
   find_package(OpenMP REQUIRED COMPONENTS CXX)
   target_link_libraries(${target} PUBLIC vlqcore PRIVATE vlqs_flags OpenMP::OpenMP_CXX)
   target_link_options(${target} PRIVATE
