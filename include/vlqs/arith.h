@@ -203,13 +203,117 @@ VlqStatus vlqsSubCRev_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s
 VlqStatus vlqsSubCRev_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
 /** @} */
 
+/** @name Scaled products of two vectors
+ *  @{ */
+/**
+ * `dst[i] = clamp(round(src1[i] * src2[i] * 2^-scaleFactor))`; in place with `srcDst[i] * src[i]`. The product
+ * is exact at any width, `round` goes to the nearest integer and from a tie to the even one, and `clamp`
+ * stops at the ends of the stored type. Every scale factor is legal: far above 0 all results are 0, far below
+ * 0 everything but 0 saturates. Forms without one saturate the product itself. Of complex values
+ * `(a + bi)(c + di) = (ac - bd) + (ad + bc)i`, both parts exact before they are scaled. A real vector times
+ * a complex one (`32s32sc`) scales both parts by the real value.
+ *
+ * Of two different types, `16u16s` and `32s32sc` take the first vector in the first type and all others in
+ * the second; `8u16u` and `16s32s` take both sources in the first.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be a source of its own type;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src1        first factor
+ * @arg @c src2        second factor
+ * @arg @c src         factor of the in-place forms
+ * @arg @c dst         result
+ * @arg @c srcDst      factor and result of the in-place forms
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor power of two by which the product is divided
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsMul_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_8u16u(const Vlq8u* src1, const Vlq8u* src2, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsMul_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len);
+VlqStatus vlqsMul_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len);
+VlqStatus vlqsMul_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_16u16s_Sfs(const Vlq16u* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_16s32s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
+/** @name Scaled products of a vector and a constant
+ *  @{ */
+/**
+ * `dst[i] = clamp(round(src[i] * val * 2^-scaleFactor))`; in place with `srcDst[i] * val`. Rounded and
+ * saturated as the products of vectors.
+ *
+ * `32f16s` forms the product of the two floats and scales it without loss, and rounds once. `Low_32f16s`
+ * has no scale and multiplies in single precision. `64f64s` scales the exact product of the integer and the
+ * double. There what is not a number becomes 32767 in 16 bits and -2^63 in 64 bits; an infinite constant
+ * saturates by sign, and times 0 it is not a number.
+ *
+ * **Shapes.** Vectors have @p len elements and any alignment. @p dst may be @p src; other overlaps
+ * are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src         factors
+ * @arg @c val         constant factor
+ * @arg @c dst         result
+ * @arg @c srcDst      factors and result of the in-place forms
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor power of two by which the product is divided
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsMulC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_16s_I(Vlq16s val, Vlq16s* srcDst, Vlq32s len);
+VlqStatus vlqsMulC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
+/** @name Scaled sums of a vector and products
+ *  @{ */
+/**
+ * `srcDst[i] = clamp(round((srcDst[i] + src1[i] * src2[i]) * 2^-scaleFactor))`: the sum is exact, and the value
+ * that was there is scaled along with the product. Rounded and saturated as the products of vectors.
+ *
+ * **Shapes.** Vectors have @p len elements and any alignment. @p srcDst may be a source of its own type;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src1        first factor
+ * @arg @c src2        second factor
+ * @arg @c srcDst      sum so far, and the result
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor power of two by which the sum is divided
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsAddProduct_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddProduct_16s32s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
 /** @name Products of floats
  *  @{ */
 /**
  * `dst[i] = src1[i] * src2[i]`; in place `srcDst[i] = srcDst[i] * src[i]`. Of complex values
  * `(a + bi)(c + di) = (ac - bd) + (ad + bc)i`. The form of `16s` multiplies exactly and converts the
- * product. Of two different types the first is that of the first vector, the second that of all others
- * but for `16s32f`, where both sources have the first.
+ * product. `32f32fc` multiplies both parts of the second vector by the real first one.
  *
  * Each product and each sum is rounded by itself in the element's precision, in all builds alike;
  * infinities and what is not a number follow IEEE 754. There is no status for them.
@@ -277,8 +381,8 @@ VlqStatus vlqsMulC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
  * `srcDst[i] = srcDst[i] + src1[i] * src2[i]`, or `srcDst[i] + src[i] * val` with a constant. The product
  * is rounded before it is added, in all builds alike.
  *
- * **Shapes.** Vectors have @p len elements and any alignment. @p srcDst may be a source; other overlaps
- * are not allowed.
+ * **Shapes.** Vectors have @p len elements and any alignment. @p srcDst may be a source of its own type;
+ * other overlaps are not allowed.
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
  *

@@ -1,6 +1,7 @@
 // Exact products: integers of twice the width.
 #pragma once
 
+#include "frame/simd/convert.h"
 #include "frame/simd/ops.h"
 
 namespace vlq {
@@ -58,6 +59,65 @@ inline Block<std::int32_t, 2> productLanes(Vec<std::uint16_t> a, Vec<std::int16_
     const auto excess = a & bitCast<std::uint16_t>(shiftRight(b, 15));
     const auto upper = fromRegister<std::uint16_t>(VLQ_INTRINSIC(mulhi_epu16)(asInt(a), asInt(b))) - excess;
     return detail::unpackWords<std::int32_t>(VLQ_INTRINSIC(mullo_epi16)(asInt(a), asInt(b)), asInt(upper));
+}
+
+// Elements of both signs, widened.
+inline Block<std::int32_t, 2> widenLanes(Vec<std::int16_t> v) {
+    return detail::unpackWords<std::int32_t>(asInt(v), asInt(shiftRight(v, 15)));
+}
+
+// ---- narrowing from lane order, saturating -------------------------------------------------------------
+template <class To>
+    requires std::is_same_v<To, std::int16_t>
+inline Vec<To> narrowLanes(Block<std::int32_t, 2> v) {
+    return fromRegister<To>(VLQ_INTRINSIC(packs_epi32)(asInt(v.part[0]), asInt(v.part[1])));
+}
+// From values below 2^31.
+template <class To>
+    requires std::is_same_v<To, std::uint16_t>
+inline Vec<To> narrowLanes(Block<std::uint32_t, 2> v) {
+#if VLQ_SIMD_BYTES == 16
+    const auto half = Vec<std::uint32_t>::broadcast(0x8000);
+    return fromRegister<To>(_mm_packs_epi32(asInt(v.part[0] - half), asInt(v.part[1] - half))) ^ Vec<To>::broadcast(0x8000);
+#else
+    return fromRegister<To>(VLQ_INTRINSIC(packus_epi32)(asInt(v.part[0]), asInt(v.part[1])));
+#endif
+}
+// From values below 2^15.
+template <class To>
+    requires std::is_same_v<To, std::uint8_t>
+inline Vec<To> narrowLanes(Block<std::uint16_t, 2> v) {
+    return fromRegister<To>(VLQ_INTRINSIC(packus_epi16)(asInt(v.part[0]), asInt(v.part[1])));
+}
+
+// ---- products that stop at the top of their range ---------------------------------------------------------
+inline Vec<std::uint16_t> productSat(Vec<std::uint16_t> a, Vec<std::uint16_t> b) {
+    const auto upper = fromRegister<std::uint16_t>(VLQ_INTRINSIC(mulhi_epu16)(asInt(a), asInt(b)));
+    return (a * b) | ~bitCast<std::uint16_t>(upper == Vec<std::uint16_t>::zero());
+}
+inline Vec<std::uint8_t> productSat(Vec<std::uint8_t> a, Vec<std::uint8_t> b) {
+    const auto e = productLanes(a, b);
+    const auto top = Vec<std::uint16_t>::broadcast(255);
+    return narrowLanes<std::uint8_t>({{e.part[0] - subSat(e.part[0], top), e.part[1] - subSat(e.part[1], top)}});
+}
+
+// ---- complex products of 16-bit parts -----------------------------------------------------------------------
+// Real and imaginary parts of each value of a lane: ac - bd and ad + bc. The one part that has no
+// room is 2^31, of four times -2^15; it is given as 2^31 - 1, which scales and saturates alike.
+inline Block<std::int32_t, 2> productParts(Vec<std::int32_t> x, Vec<std::int32_t> y) {
+    using V = Vec<std::int32_t>;
+    // -d may have no room either: ac + b(-1 - d), and b on top.
+    const V notIm = y ^ V::broadcast(static_cast<std::int32_t>(0xFFFF0000u));
+    const V swapped = shiftLeft(y, 16) | bitCast<std::int32_t>(shiftRight(bitCast<std::uint32_t>(y), 16));
+    const V re = fromRegister<std::int32_t>(VLQ_INTRINSIC(madd_epi16)(asInt(x), asInt(notIm))) + shiftRight(x, 16);
+    const V im = fromRegister<std::int32_t>(VLQ_INTRINSIC(madd_epi16)(asInt(x), asInt(swapped)));
+    return {{re, im + (im == V::broadcast(std::numeric_limits<std::int32_t>::min()))}};
+}
+// Parts to values of two 16-bit parts, saturating.
+inline Vec<std::int32_t> joinParts(Block<std::int32_t, 2> v) {
+    const auto re = asInt(v.part[0]), im = asInt(v.part[1]);
+    return fromRegister<std::int32_t>(
+        VLQ_INTRINSIC(packs_epi32)(VLQ_INTRINSIC(unpacklo_epi32)(re, im), VLQ_INTRINSIC(unpackhi_epi32)(re, im)));
 }
 
 #undef VLQ_INTRINSIC

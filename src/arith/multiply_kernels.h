@@ -1,0 +1,200 @@
+// Products of 8 and 16-bit integers under the scale rule. A family says what the exact product e
+// is, in two vectors of wider lanes, and how it is stored; the rule is the frame's.
+#pragma once
+
+#include "frame/loop/map.h"
+#include "frame/scale.h"
+#include "frame/simd/multiply.h"
+
+namespace vlq::multiply {
+
+// e / 2; a tie goes up where the quotient is odd.
+template <class T>
+inline Vec<T> roundHalf(Vec<T> e) {
+    const auto quotient = shiftRight(e, 1);
+    return quotient + (e & quotient & Vec<T>::broadcast(1));
+}
+
+// e * 2^-scaleFactor for any e of its lane, 2 <= scaleFactor <= width of T.
+template <class T>
+class RoundAny {
+public:
+    explicit RoundAny(std::int32_t scaleFactor) : scale_(scaleFactor) {}
+    Vec<T> operator()(Vec<T> e) const { return scale_({shiftRight(e, 1), e}); }
+
+private:
+    ScaleRight<T> scale_;
+};
+
+template <class Op, class T>
+inline Block<T, 2> both(const Op& op, Block<T, 2> v) {
+    return {{op(v.part[0]), op(v.part[1])}};
+}
+
+// ---- families ----------------------------------------------------------------------------------------
+struct Product8u {
+    using Stored = std::uint8_t;
+    using Round = RoundAny<std::uint16_t>;
+    template <class>
+    static constexpr int vanishesFrom = 17;
+    using V = Vec<std::uint8_t>;
+    static auto exact(V a, V b) { return productLanes(a, b); }
+    static V saturated(V a, V b) { return productSat(a, b); }
+    static V narrowed(Block<std::uint16_t, 2> e) { return narrowLanes<Stored>(e); }
+};
+
+struct Product16s {
+    using Stored = std::int16_t;
+    using Round = RoundRight<std::int32_t>;
+    template <class>
+    static constexpr int vanishesFrom = 31;
+    using V = Vec<std::int16_t>;
+    static auto exact(V a, V b) { return productLanes(a, b); }
+    static V saturated(V a, V b) { return narrowed(exact(a, b)); }
+    static V narrowed(Block<std::int32_t, 2> e) { return narrowLanes<Stored>(e); }
+};
+
+struct Product16u {
+    using Stored = std::uint16_t;
+    using Round = RoundAny<std::uint32_t>;
+    template <class>
+    static constexpr int vanishesFrom = 33;
+    using V = Vec<std::uint16_t>;
+    static auto exact(V a, V b) { return productLanes(a, b); }
+    static V saturated(V a, V b) { return productSat(a, b); }
+    static V narrowed(Block<std::uint32_t, 2> e) { return narrowLanes<Stored>(e); }
+};
+
+struct Product16u16s {
+    using Stored = std::int16_t;
+    using Round = RoundAny<std::int32_t>;
+    template <class>
+    static constexpr int vanishesFrom = 32;
+    using V = Vec<std::int16_t>;
+    static auto exact(Vec<std::uint16_t> a, V b) { return productLanes(a, b); }
+    static V saturated(Vec<std::uint16_t> a, V b) { return narrowed(exact(a, b)); }
+    static V narrowed(Block<std::int32_t, 2> e) { return narrowLanes<Stored>(e); }
+};
+
+// Complex values in 32-bit lanes.
+struct Product16sc {
+    using Stored = std::int16_t;
+    using Round = RoundAny<std::int32_t>;
+    template <class>
+    static constexpr int vanishesFrom = 32;
+    using V = Vec<std::int32_t>;
+    static auto exact(V a, V b) { return productParts(a, b); }
+    static V saturated(V a, V b) { return narrowed(exact(a, b)); }
+    static V narrowed(Block<std::int32_t, 2> e) { return joinParts(e); }
+};
+
+// srcDst + src1 * src2
+struct SumOfProduct16s {
+    using Stored = std::int16_t;
+    using Round = RoundAny<std::int32_t>;
+    template <class>
+    static constexpr int vanishesFrom = 32;
+    using V = Vec<std::int16_t>;
+    static Block<std::int32_t, 2> exact(V acc, V a, V b) {
+        const auto sum = widenLanes(acc), product = productLanes(a, b);
+        return {{sum.part[0] + product.part[0], sum.part[1] + product.part[1]}};
+    }
+    static V saturated(V acc, V a, V b) { return narrowed(exact(acc, a, b)); }
+    static V narrowed(Block<std::int32_t, 2> e) { return narrowLanes<Stored>(e); }
+};
+
+// ---- the rule ----------------------------------------------------------------------------------------
+// Hands `run` the operation on the family's vectors that serves this scale factor; not for a range
+// that vanishes.
+template <class Family, class Run>
+inline void withScale(std::int32_t scaleFactor, Run run) {
+    using T = typename Family::Stored;
+    switch (classify<Family, T>(scaleFactor)) {
+    case Scaling::None:
+        return run([](auto... operands) { return Family::saturated(operands...); });
+    case Scaling::Left:
+        return run([scale = ScaleLeft<T>(scaleFactor)](auto... operands) {
+            const auto clamped = Family::saturated(operands...);
+            using Lane = typename decltype(clamped)::Scalar;
+            return bitCast<Lane>(scale(bitCast<T>(clamped)));
+        });
+    case Scaling::Half:
+        return run([](auto... operands) {
+            return Family::narrowed(both([](auto e) { return roundHalf(e); }, Family::exact(operands...)));
+        });
+    case Scaling::Right:
+        return run([scale = typename Family::Round(scaleFactor)](auto... operands) {
+            return Family::narrowed(both(scale, Family::exact(operands...)));
+        });
+    case Scaling::Vanish:
+        return;
+    }
+}
+
+// ---- 16-bit factors, 32-bit results --------------------------------------------------------------------
+// Hands `run` the operation on an exact vector of e: the product fills 31 bits.
+struct Product16s32s {
+    template <class>
+    static constexpr int vanishesFrom = 31;
+};
+template <class Run>
+inline void withScale16s32s(std::int32_t scaleFactor, Run run) {
+    using V = Vec<std::int32_t>;
+    switch (classify<Product16s32s, std::int32_t>(scaleFactor)) {
+    case Scaling::None: return run([](V e) { return e; });
+    case Scaling::Left: return run(ScaleLeft<std::int32_t>(scaleFactor));
+    case Scaling::Half:
+    case Scaling::Right: return run(RoundRight<std::int32_t>(scaleFactor));
+    case Scaling::Vanish: return;
+    }
+}
+template <class Scale>
+struct StoreProduct16s32s {
+    Scale scale;
+    Block<std::int32_t, 2> operator()(const Block<std::int16_t, 1>& a, const Block<std::int16_t, 1>& b) const {
+        return both(scale, inMemoryOrder(productLanes(a.part[0], b.part[0])));
+    }
+};
+
+// The sum of a 32-bit integer and such a product has 33 bits.
+struct SumOfProduct16s32s {
+    template <class>
+    static constexpr int vanishesFrom = 33;
+
+    using V = Vec<std::int32_t>;
+    static V saturated(V acc, V product) { return addSat(acc, product); }
+    static Halved<std::int32_t> halved(V acc, V product) {
+        const auto odd = acc ^ product;
+        return {(acc & product) + shiftRight(odd, 1), odd};
+    }
+};
+template <class Run>
+inline void withScaleOfSum16s32s(std::int32_t scaleFactor, Run run) {
+    using V = Vec<std::int32_t>;
+    using Sum = SumOfProduct16s32s;
+    switch (classify<Sum, std::int32_t>(scaleFactor)) {
+    case Scaling::None:
+        return run([](V acc, V product) { return Sum::saturated(acc, product); });
+    case Scaling::Left:
+        return run([scale = ScaleLeft<std::int32_t>(scaleFactor)](V acc, V product) { return scale(Sum::saturated(acc, product)); });
+    case Scaling::Half:
+        return run([](V acc, V product) {
+            const auto e = Sum::halved(acc, product);
+            return e.half + (e.half & e.odd & V::broadcast(1));
+        });
+    case Scaling::Right:
+        return run([scale = ScaleRight<std::int32_t>(scaleFactor)](V acc, V product) { return scale(Sum::halved(acc, product)); });
+    case Scaling::Vanish:
+        return;
+    }
+}
+template <class Add>
+struct AddProduct16s32s {
+    Add add;
+    Block<std::int32_t, 2> operator()(const Block<std::int32_t, 2>& acc, const Block<std::int16_t, 1>& a, const Block<std::int16_t, 1>& b) const {
+        const auto product = inMemoryOrder(productLanes(a.part[0], b.part[0]));
+        return {{add(acc.part[0], product.part[0]), add(acc.part[1], product.part[1])}};
+    }
+};
+
+}  // namespace vlq::multiply
