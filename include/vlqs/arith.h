@@ -245,6 +245,13 @@ VlqStatus vlqsMul_16u16s_Sfs(const Vlq16u* src1, const Vlq16s* src2, Vlq16s* dst
 VlqStatus vlqsMul_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsMul_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsMul_16s32s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_32s_ISfs(const Vlq32s* src, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_Low_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_32s32sc_Sfs(const Vlq32s* src1, const Vlq32sc* src2, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_32s32sc_ISfs(const Vlq32s* src, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_32sc_Sfs(const Vlq32sc* src1, const Vlq32sc* src2, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMul_32sc_ISfs(const Vlq32sc* src, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
 /** @} */
 
 /** @name Scaled products of a vector and a constant
@@ -282,6 +289,14 @@ VlqStatus vlqsMulC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s le
 VlqStatus vlqsMulC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsMulC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsMulC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_64s_ISfs(Vlq64s val, Vlq64s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_64f64s_ISfs(Vlq64f val, Vlq64s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_32f16s_Sfs(const Vlq32f* src, Vlq32f val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulC_Low_32f16s(const Vlq32f* src, Vlq32f val, Vlq16s* dst, Vlq32s len);
 /** @} */
 
 /** @name Scaled sums of a vector and products
@@ -306,6 +321,7 @@ VlqStatus vlqsMulC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s sc
  */
 VlqStatus vlqsAddProduct_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsAddProduct_16s32s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsAddProduct_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
 /** @} */
 
 /** @name Products of floats

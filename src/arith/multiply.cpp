@@ -13,9 +13,7 @@ using vlq::Scaling;
 using vlq::Vec;
 
 template <class Family>
-bool vanishes(Vlq32s scaleFactor) {
-    return scaleFactor > 0 && vlq::classify<Family, Vlq32s>(scaleFactor) == Scaling::Vanish;
-}
+bool vanishes(Vlq32s scaleFactor) { return vlq::classify<Family, Vlq32s>(scaleFactor) == Scaling::Vanish; }
 
 // All results are 0: the clear of that width tests and writes the destination.
 VlqStatus clear(Vlq8u* dst, Vlq32s len) { return vlq::vlqsZero_8u(dst, len); }

@@ -118,4 +118,48 @@ private:
     Vec<T> bias_;
 };
 
+// ---- one integer at a time ----------------------------------------------------------------------
+// For exact results that no lane holds, in an integer type Wide that does.
+template <class T, class Wide>
+constexpr T clampTo(Wide e) {
+    constexpr Wide low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+    return static_cast<T>(e < low ? low : e > high ? high : e);
+}
+
+// clamp(e * 2^count), any count from 0 on.
+template <class T, class Wide>
+class ScalarLeft {
+public:
+    explicit ScalarLeft(std::int64_t count) : count_(count < kBits ? static_cast<int>(count) : kBits) {}
+    T operator()(Wide e) const {
+        const T value = clampTo<T>(e);
+        // Bits above the limit would be lost.
+        constexpr T low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+        if (value > (high >> count_)) return high;
+        if (value < (low >> count_)) return low;
+        return static_cast<T>(static_cast<std::make_unsigned_t<T>>(value) << count_);
+    }
+
+private:
+    static constexpr int kBits = std::numeric_limits<T>::digits;
+    int count_;
+};
+
+// clamp(round(e * 2^-shift)) for 1 <= shift < width of Wide.
+template <class T, class Wide>
+class ScalarRight {
+public:
+    explicit ScalarRight(int shift) : shift_(shift), middle_(Wide{1} << (shift - 1)), remainder_((middle_ - 1) | middle_) {}
+    T operator()(Wide e) const {
+        const Wide quotient = e >> shift_;
+        // A tie goes up from an odd quotient.
+        const bool up = (e & remainder_) > middle_ - (quotient & 1);
+        return clampTo<T>(static_cast<Wide>(quotient + up));
+    }
+
+private:
+    int shift_;
+    Wide middle_, remainder_;
+};
+
 }  // namespace vlq

@@ -100,4 +100,18 @@ inline void map(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
     mapBlocks<group, stores>(dst, len, [&](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; }, src...);
 }
 
+// One element at a time, for operations that no vector instruction serves: dst[i] = op(src[i]...).
+template <class D, class Op, class... S>
+inline void mapScalars(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
+    const auto element = []<class T>(const T* p) {
+        T value;
+        std::memcpy(&value, p, sizeof value);
+        return value;
+    };
+    for (std::ptrdiff_t i = 0; i < len; ++i) {
+        const D result = op(element(src + i)...);
+        std::memcpy(dst + i, &result, sizeof result);
+    }
+}
+
 }  // namespace vlq

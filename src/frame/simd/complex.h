@@ -73,5 +73,9 @@ inline Block<float, 2> twice(Vec<float> v) {
     return {{Vec<float>(_mm512_permutexvar_ps(low, v.raw)), Vec<float>(_mm512_permutexvar_ps(high, v.raw))}};
 }
 #endif
+inline Block<std::int32_t, 2> twice(Vec<std::int32_t> v) {
+    const auto pairs = twice(bitCast<float>(v));
+    return {{bitCast<std::int32_t>(pairs.part[0]), bitCast<std::int32_t>(pairs.part[1])}};
+}
 
 }  // namespace vlq

@@ -120,6 +120,21 @@ inline Vec<std::int32_t> joinParts(Block<std::int32_t, 2> v) {
         VLQ_INTRINSIC(packs_epi32)(VLQ_INTRINSIC(unpacklo_epi32)(re, im), VLQ_INTRINSIC(unpackhi_epi32)(re, im)));
 }
 
+// ---- products of 32 bits --------------------------------------------------------------------------------------
+// Of the even lanes and of the odd lanes: lane pairs become one lane.
+inline Vec<std::uint64_t> productEven(Vec<std::uint32_t> a, Vec<std::uint32_t> b) {
+    return fromRegister<std::uint64_t>(VLQ_INTRINSIC(mul_epu32)(asInt(a), asInt(b)));
+}
+inline Vec<std::uint64_t> productOdd(Vec<std::uint32_t> a, Vec<std::uint32_t> b) {
+    const auto x = shiftRight(bitCast<std::uint64_t>(a), 32), y = shiftRight(bitCast<std::uint64_t>(b), 32);
+    return fromRegister<std::uint64_t>(VLQ_INTRINSIC(mul_epu32)(asInt(x), asInt(y)));
+}
+// The low words of both, back in place.
+inline Vec<std::uint32_t> joinEvenOdd(Vec<std::uint64_t> even, Vec<std::uint64_t> odd) {
+    const auto low = even & Vec<std::uint64_t>::broadcast(0xFFFFFFFF);
+    return bitCast<std::uint32_t>(low | shiftLeft(odd, 32));
+}
+
 #undef VLQ_INTRINSIC
 
 }  // namespace vlq

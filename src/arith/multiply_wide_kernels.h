@@ -1,0 +1,178 @@
+// Products of 32 and 64-bit integers, and of floats stored as integers, under the scale rule.
+#pragma once
+
+#include <bit>
+#include <cmath>
+
+#include "frame/loop/map.h"
+#include "frame/scale.h"
+#include "frame/simd/complex.h"
+#include "frame/simd/convert.h"
+#include "frame/simd/multiply.h"
+#include "vlqs/types.h"
+
+namespace vlq::multiply {
+
+// ---- 32 bits ---------------------------------------------------------------------------------------------
+struct Exact32s {
+    template <class>
+    static constexpr int vanishesFrom = 63;  // 2^62 is half of 2^63, a tie at 0
+};
+
+struct Unrounded {
+    Vec<std::uint64_t> operator()(Vec<std::uint64_t> size) const { return size; }
+};
+
+// Rounding to even does not look at the sign, so magnitudes are multiplied, rounded and compared
+// with the limit, all in 64 unsigned bits.
+template <class Round>
+struct Product32s {
+    Round round;
+
+    using V = Vec<std::int32_t>;
+    V operator()(V a, V b) const {
+        const V sign = shiftRight(a ^ b, 31);
+        const auto x = magnitude(a), y = magnitude(b);
+        const auto even = round(productEven(x, y)), odd = round(productOdd(x, y));
+        const V fits = joinEvenOdd(shiftRight(even, 31), shiftRight(odd, 31)) == Vec<std::uint32_t>::zero();
+        const V low = bitCast<std::int32_t>(joinEvenOdd(even, odd));
+        const V size = select(fits, low, V::broadcast(std::numeric_limits<std::int32_t>::max()));
+        // The complement of the limit is the lower limit itself.
+        return (size ^ sign) - (sign & fits);
+    }
+
+private:
+    static Vec<std::uint32_t> magnitude(V v) {
+        const V sign = shiftRight(v, 31);
+        return bitCast<std::uint32_t>((v ^ sign) - sign);
+    }
+};
+
+// Hands `run` the operation on vectors that serves this scale factor; not for a range that vanishes.
+template <class Run>
+inline void withScale32s(std::int32_t scaleFactor, Run run) {
+    using V = Vec<std::int32_t>;
+    switch (classify<Exact32s, std::int32_t>(scaleFactor)) {
+    case Scaling::None:
+        return run(Product32s<Unrounded>{});
+    case Scaling::Left:
+        return run([scale = ScaleLeft<std::int32_t>(scaleFactor)](V a, V b) { return scale(Product32s<Unrounded>{}(a, b)); });
+    case Scaling::Half:
+    case Scaling::Right:
+        return run(Product32s<RoundRight<std::uint64_t>>{RoundRight<std::uint64_t>(scaleFactor)});
+    case Scaling::Vanish:
+        return;
+    }
+}
+
+// dst[i] = real[i] * complex[i], both parts.
+template <class Op>
+inline void mapRealByComplex32s(Vlq32sc* dst, std::ptrdiff_t len, Op op, const Vlq32s* real, const Vlq32sc* complex) {
+    using Element = std::int64_t;
+    mapBlocks(
+        reinterpret_cast<Element*>(dst), len,
+        [op](const Block<std::int32_t, 1>& a, const Block<Element, 2>& b) {
+            const auto factor = twice(a.part[0]);
+            return Block<Element, 2>{{bitCast<Element>(op(factor.part[0], bitCast<std::int32_t>(b.part[0]))),
+                                      bitCast<Element>(op(factor.part[1], bitCast<std::int32_t>(b.part[1])))}};
+        },
+        real, reinterpret_cast<const Element*>(complex));
+}
+
+// ---- one element at a time ---------------------------------------------------------------------------------
+__extension__ typedef __int128 Int128;
+
+// Hands `run` the scale as an operation on one exact integer; the caller has dealt with a range
+// that vanishes before the width of Wide.
+template <class T, class Wide, class Run>
+inline void withScalarScale(std::int64_t scaleFactor, Run run) {
+    if (scaleFactor == 0) run([](Wide e) { return clampTo<T>(e); });
+    else if (scaleFactor < 0) run(ScalarLeft<T, Wide>(-scaleFactor));
+    else run(ScalarRight<T, Wide>(static_cast<int>(scaleFactor)));
+}
+
+struct ComplexExact32s {
+    template <class>
+    static constexpr int vanishesFrom = 64;
+};
+// Parts in 64 bits. The one that has no room is 2^63, of four times -2^31; 2^63 - 1 scales and
+// saturates alike.
+template <class Scale>
+struct ComplexProduct32sc {
+    Scale scale;
+    Vlq32sc operator()(Vlq32sc x, Vlq32sc y) const {
+        const std::int64_t re = std::int64_t{x.re} * y.re - std::int64_t{x.im} * y.im;
+        const auto wrapped = static_cast<std::int64_t>(static_cast<std::uint64_t>(std::int64_t{x.re} * y.im) +
+                                                       static_cast<std::uint64_t>(std::int64_t{x.im} * y.re));
+        const std::int64_t im = wrapped == std::numeric_limits<std::int64_t>::min() ? std::numeric_limits<std::int64_t>::max() : wrapped;
+        return {scale(re), scale(im)};
+    }
+};
+
+struct SumOfProduct32s {
+    template <class>
+    static constexpr int vanishesFrom = 64;
+};
+
+struct Exact64s {
+    template <class>
+    static constexpr int vanishesFrom = 127;  // 2^126 is half of 2^127, a tie at 0
+};
+
+// ---- a float constant ------------------------------------------------------------------------------------
+// A finite double is an integer of 53 bits times a power of two.
+struct IntegerAndPower {
+    std::int64_t integer;
+    int power;
+};
+inline IntegerAndPower takeApart(double value) {
+    const auto bits = std::bit_cast<std::uint64_t>(value);
+    const int exponent = static_cast<int>(bits >> 52 & 0x7FF);
+    const auto fraction = static_cast<std::int64_t>(bits & ((std::uint64_t{1} << 52) - 1));
+    const std::int64_t size = exponent == 0 ? fraction : fraction + (std::int64_t{1} << 52);
+    return {bits >> 63 ? -size : size, (exponent == 0 ? 1 : exponent) - 1075};
+}
+
+// 2^-scaleFactor, not above 2^400 nor below 2^-400: past these a product of two floats saturates
+// or is 0 all the same.
+inline double powerWithin400(std::int32_t scaleFactor) {
+    const std::int64_t exponent = scaleFactor > 400 ? -400 : scaleFactor < -400 ? 400 : -std::int64_t{scaleFactor};
+    return std::bit_cast<double>(static_cast<std::uint64_t>(exponent + 1023) << 52);
+}
+
+// An infinite constant, or none that is a number: only signs matter.
+struct NonFiniteProduct64s {
+    double constant;
+    Vlq64s operator()(Vlq64s element) const {
+        if (std::isnan(constant) || element == 0 || (constant < 0) != (element < 0)) return std::numeric_limits<Vlq64s>::min();
+        return std::numeric_limits<Vlq64s>::max();
+    }
+};
+
+// The bound is the second operand of the minimum, so what is not a number becomes the top value.
+// Below the range the conversion gives the most negative integer, and the pack saturates it.
+inline constexpr int kTop16s = std::numeric_limits<std::int16_t>::max();
+
+struct ProductInDouble16s {
+    Vec<double> constant;  // with the scale
+    Block<std::int16_t, 1> operator()(const Block<float, 2>& v) const {
+        return {{narrowSat<std::int16_t>({{convert(v.part[0]), convert(v.part[1])}})}};
+    }
+
+private:
+    Vec<std::int32_t> convert(Vec<float> v) const {
+        const auto wide = toDouble(v);
+        const auto top = Vec<double>::broadcast(kTop16s);
+        return toNearest(Block<double, 2>{{minimum(wide.part[0] * constant, top), minimum(wide.part[1] * constant, top)}});
+    }
+};
+
+struct ProductInFloat16s {
+    Vec<float> constant;
+    Block<std::int16_t, 1> operator()(const Block<float, 2>& v) const {
+        const auto top = Vec<float>::broadcast(kTop16s);
+        return {{narrowSat<std::int16_t>({{toNearest(minimum(v.part[0] * constant, top)), toNearest(minimum(v.part[1] * constant, top))}})}};
+    }
+};
+
+}  // namespace vlq::multiply
