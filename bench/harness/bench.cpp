@@ -44,7 +44,7 @@ void registerSide(const std::string& name, const std::function<void()>& call) {
             call();
             benchmark::ClobberMemory();
         }
-    })->Unit(benchmark::kNanosecond)->Repetitions(7)->MinTime(0.01);
+    })->Unit(benchmark::kNanosecond)->Repetitions(25)->MinTime(0.001);
 }
 
 }  // namespace
