@@ -17,7 +17,7 @@ template <class Op, class T, class C>
 void runScaled(const T* src, C val, T* dst, std::ptrdiff_t len, Vlq32s scaleFactor) {
     const Vec<T> constant = bitCast<T>(repeated(val));
     withScale<Op, T>(scaleFactor, [&](auto op) {
-        map<unit<T, C>>(dst, len * unit<T, C>, [&](Vec<T> x) { return op(x, constant); }, src);
+        map<unit<T, C>>(dst, len * unit<T, C>, [op, constant](Vec<T> x) { return op(x, constant); }, src);
     });
 }
 
@@ -69,7 +69,7 @@ VlqStatus reverseDifference16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32
 template <class Op, Stores stores = Stores::Ordinary, class T, class C>
 void runExact(const T* src, C val, T* dst, std::ptrdiff_t len) {
     const Vec<T> constant = bitCast<T>(repeated(val));
-    map<unit<T, C>, stores>(dst, len * unit<T, C>, [&](Vec<T> x) { return Op::exact(x, constant); }, src);
+    map<unit<T, C>, stores>(dst, len * unit<T, C>, [constant](Vec<T> x) { return Op::exact(x, constant); }, src);
 }
 
 // A constant of 0, of either sign, leaves the samples as they are, -0.0 included.
@@ -104,7 +104,7 @@ VlqStatus sum64(const T* src, T val, T* dst, Vlq32u len, Vlq32s scaleFactor, Vlq
     }
     const Vec<T> constant = Vec<T>::broadcast(val);
     withScaleAndRounding<T>(scaleFactor, roundingOf(rndMode), [&](auto op) {
-        map(dst, static_cast<std::ptrdiff_t>(len), [&](Vec<T> x) { return op(x, constant); }, src);
+        map(dst, static_cast<std::ptrdiff_t>(len), [op, constant](Vec<T> x) { return op(x, constant); }, src);
     });
     return vlqStsOk;
 }

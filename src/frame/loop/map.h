@@ -56,7 +56,7 @@ inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
 // Elements that belong together, as the two parts of a complex value, are a group: len counts
 // whole groups' elements and no group is split over two vectors.
 template <int group = 1, Stores stores = Stores::Ordinary, class D, class Op, class... S>
-inline void mapBlocks(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
+inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     constexpr int count = kVecBytes / detail::kNarrowest<D, S...>;
     constexpr int dstParts = count / Vec<D>::lanes;
 
@@ -76,18 +76,21 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
         partial(head);
         advance(head);
     }
+    // The compiler may outline what ends the vector and hand it op by address. The loops have their
+    // own, whose constants then stay in registers; captures by value keep them reachable.
+    const Op hot = op;
     constexpr int unroll = 4;
     while (len >= unroll * count) {
 #pragma GCC unroll 4
         for (int u = 0; u < unroll; ++u) {
-            const auto result = op(detail::loadBlock<S, count / Vec<S>::lanes>(src + u * count)...);
+            const auto result = hot(detail::loadBlock<S, count / Vec<S>::lanes>(src + u * count)...);
             detail::storeBlock<stores, D, dstParts>(dst + u * count, result);
         }
         advance(unroll * count);
     }
     if constexpr (stores == Stores::Streaming) streamFence();
     while (len >= count) {
-        detail::storeBlock<Stores::Ordinary, D, dstParts>(dst, op(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
+        detail::storeBlock<Stores::Ordinary, D, dstParts>(dst, hot(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
         advance(count);
     }
     if (len > 0) partial(static_cast<int>(len));
@@ -95,9 +98,9 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
 
 // All types of one size: op takes and gives plain vectors.
 template <int group = 1, Stores stores = Stores::Ordinary, class D, class Op, class... S>
-inline void map(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
+inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     static_assert(((sizeof(S) == sizeof(D)) && ...));
-    mapBlocks<group, stores>(dst, len, [&](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; }, src...);
+    mapBlocks<group, stores>(dst, len, [op](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; }, src...);
 }
 
 // One element at a time, for operations that no vector instruction serves: dst[i] = op(src[i]...).
