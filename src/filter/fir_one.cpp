@@ -9,7 +9,7 @@ namespace {
 // The delay store is a ring of tapsLen samples, kept twice over so that every window lies in one
 // piece. The oldest sample of the window gives way to the new one.
 template <class State, class Scale>
-VlqStatus one(fir::SampleOf<State> src, fir::SampleOf<State>* dst, State* state, [[maybe_unused]] Scale scale) {
+VlqStatus one(fir::SampleOf<State> src, fir::SampleOf<State>* dst, State* state, Scale scale) {
     if (!dst || !state) return vlqStsNullPtr;
     if (!fir::isSingleRate(*state)) return vlqStsBadSpec;
     using E = typename State::Element;
@@ -21,8 +21,7 @@ VlqStatus one(fir::SampleOf<State> src, fir::SampleOf<State>* dst, State* state,
     const Vlq32s next = state->dlyIndex + 1;
     state->dlyIndex = next == tapsLen ? 0 : next;
     const E sum = fir::windowSum<E>(state->dlyLine + state->dlyIndex, sample, state->taps, tapsLen);
-    if constexpr (std::is_same_v<E, fir::SampleOf<State>>) fir::write(dst, sum);
-    else fir::narrow(&sum, dst, 1, scale);
+    fir::narrowOne(sum, dst, scale);
     return vlqStsOk;
 }
 

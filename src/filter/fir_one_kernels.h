@@ -10,38 +10,54 @@ inline T laneSum(Vec<T, Bytes> v) {
     if constexpr (Bytes > 16) {
         return laneSum(lowHalf(v) + highHalf(v));
     } else {
-        T sum = v[0];
-        for (int lane = 1; lane < Vec<T, Bytes>::lanes; ++lane) sum += v[lane];
+        // Halves again, which the compiler turns into shuffles.
+        constexpr int half = Vec<T, Bytes>::lanes / 2;
+        T sum = v[0] + v[half];
+        for (int lane = 1; lane < half; ++lane) sum += v[lane] + v[lane + half];
         return sum;
     }
 }
 
 // sum of x[j] * g[j], j from 0 to n - 2, plus newest * g[n - 1]. The newest sample comes in a
-// register: it has just been stored, and a vector load across a fresh store waits for the cache.
+// register and the few before it are taken singly: the calls before have only just stored them,
+// and a vector load across a fresh store waits for the cache.
 template <class T>
 inline T windowSum(const T* x, T newest, const T* g, int n) {
-    constexpr int lanes = Vec<T>::lanes;
+    using Wide = Vec<T>;
+    using Small = Vec<T, 16>;
     constexpr int kShort = 12;  // a shorter window is one chain in its own order
-    const int stored = n - 1;
-    T sum = 0;
-    int j = 0;
-    if (n >= kShort) {
-        Vec<T> sums[4] = {Vec<T>::zero(), Vec<T>::zero(), Vec<T>::zero(), Vec<T>::zero()};
-        for (; j + 4 * lanes <= stored; j += 4 * lanes) {
-#pragma GCC unroll 4
-            for (int i = 0; i < 4; ++i) {
-                sums[i] = mulAdd(load<T>(x + j + i * lanes), load<T>(g + j + i * lanes), sums[i]);
-            }
-        }
-        for (; j + lanes <= stored; j += lanes) sums[0] = mulAdd(load<T>(x + j), load<T>(g + j), sums[0]);
-        if constexpr (kVecBytes == 64) {  // masked loads are cheap there
-            sums[1] = mulAdd(loadPartial<T>(x + j, stored - j), loadPartial<T>(g + j, stored - j), sums[1]);
-            j = stored;
-        }
-        sum = laneSum((sums[0] + sums[1]) + (sums[2] + sums[3]));
+    constexpr int kFresh = 4;
+    if (n < kShort) {
+        T sum = 0;
+        for (int j = 0; j < n - 1; ++j) sum = mulAdd(x[j], g[j], sum);
+        return mulAdd(newest, g[n - 1], sum);
     }
-    for (; j < stored; ++j) sum = mulAdd(x[j], g[j], sum);
-    return mulAdd(newest, g[stored], sum);
+    const int settled = n - kFresh;
+    int j = 0;
+    Wide sums[4] = {Wide::zero(), Wide::zero(), Wide::zero(), Wide::zero()};
+    for (; j + 4 * Wide::lanes <= settled; j += 4 * Wide::lanes) {
+#pragma GCC unroll 4
+        for (int i = 0; i < 4; ++i) {
+            const int at = j + i * Wide::lanes;
+            sums[i] = mulAdd(load<T>(x + at), load<T>(g + at), sums[i]);
+        }
+    }
+    for (int i = 0; j + Wide::lanes <= settled; j += Wide::lanes, ++i) {
+        sums[i] = mulAdd(load<T>(x + j), load<T>(g + j), sums[i]);
+    }
+    T tail = 0;
+    if constexpr (kVecBytes == 64) {  // masked loads are cheap there
+        sums[3] = mulAdd(loadPartial<T>(x + j, settled - j), loadPartial<T>(g + j, settled - j), sums[3]);
+    } else {
+        if (kVecBytes > 16 && j + Small::lanes <= settled) {
+            tail = laneSum(load<T, 16>(x + j) * load<T, 16>(g + j));
+            j += Small::lanes;
+        }
+        for (; j < settled; ++j) tail = mulAdd(x[j], g[j], tail);
+    }
+    T fresh = newest * g[n - 1];
+    for (int i = settled; i < n - 1; ++i) fresh = mulAdd(x[i], g[i], fresh);
+    return laneSum((sums[0] + sums[1]) + (sums[2] + sums[3])) + (tail + fresh);
 }
 
 }  // namespace vlq::fir

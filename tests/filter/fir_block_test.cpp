@@ -427,9 +427,9 @@ void sameForAnyTeam(Make make, int tapsLen, const std::vector<Sample>& src) {
 }
 
 TEST_F(FirBlock, ResultsDoNotDependOnTheTeam) {
-    for (const int len : {5, 63, 64, 400}) {
+    for (const int len : {5, 64, 400}) {
         const auto taps = uniformVector<float>(count(len), -1, 1, rng);
-        for (const int samples : {1600, 1601, 1602, 1605, 2048, 4097, 10000, 100000}) {
+        for (const int samples : {1600, 1601, 1605, 4097, 20000}) {
             const auto src = uniformVector<float>(count(samples), -1, 1, rng);
             sameForAnyTeam([&] { return std::make_unique<Plain>(taps); }, len, src);
             sameForAnyTeam([&] { return std::make_unique<Mixed>(taps, 2); }, len, extremeVector<Vlq16s>(count(samples), rng));
