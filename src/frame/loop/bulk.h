@@ -4,6 +4,8 @@
 // measured; they decide how data travels, never what is stored.
 #pragma once
 
+#include <cwchar>
+
 #include "frame/simd/cache.h"
 #include "frame/simd/permute.h"
 #include "frame/simd/string.h"
@@ -21,6 +23,10 @@ namespace detail {
 
 template <int B>
 using Bytes = Vec<Byte, B>;
+
+// The C library moves and fills with the widest vectors that the processor has. The baseline build
+// has narrow ones alone and calls it for runs of middle length; the others gain nothing by it.
+inline constexpr bool kCLibraryIsWider = kVecBytes == 16;
 
 // From here on the string instruction copies. Where vectors are narrow it is soon the wider path;
 // wide ones lose to it when source and destination no longer fit the first cache.
@@ -205,9 +211,14 @@ inline void copyStreaming(Byte* dst, const Byte* src, std::size_t n) {
 // More than kShort bytes; the regions are apart.
 inline void copyLong(Byte* dst, const Byte* src, std::size_t n) {
     using namespace detail;
-    if (n < kCopyByWords) copyUpwards(dst, src, n);
-    else if (copySweepsCache(n)) copyStreaming(dst, src, n);
-    else copyByWords(dst, src, n);
+    if (n < kCopyByWords) {
+        if (kCLibraryIsWider) std::memcpy(dst, src, n);
+        else copyUpwards(dst, src, n);
+    } else if (copySweepsCache(n)) {
+        copyStreaming(dst, src, n);
+    } else {
+        copyByWords(dst, src, n);
+    }
 }
 
 // More than kShort bytes, any overlap.
@@ -215,9 +226,10 @@ inline void moveLong(Byte* dst, const Byte* src, std::size_t n) {
     using namespace detail;
     const std::uintptr_t above = reinterpret_cast<std::uintptr_t>(dst) - reinterpret_cast<std::uintptr_t>(src);
     if (above == 0) return;
-    if (above < n) copyDownwards(dst, src, n);
-    else if (0 - above < n) copyUpwards(dst, src, n);
-    else copyLong(dst, src, n);
+    if (above >= n && 0 - above >= n) copyLong(dst, src, n);
+    else if (kCLibraryIsWider) std::memmove(dst, src, n);
+    else if (above < n) copyDownwards(dst, src, n);
+    else copyUpwards(dst, src, n);
 }
 
 // ---- fill ----------------------------------------------------------------------------------
@@ -291,6 +303,15 @@ template <std::size_t Period>
 inline void fillLong(Byte* dst, std::size_t n, Vec<Byte> pattern) {
     using namespace detail;
     constexpr int B = kVecBytes;
+    if (kCLibraryIsWider && Period == 1 && n < kFillByWords) {
+        std::memset(dst, pattern[0], n);
+        return;
+    }
+    if (kCLibraryIsWider && Period <= 4 && n < kFillByWords && reinterpret_cast<std::uintptr_t>(dst) % sizeof(wchar_t) == 0) {
+        std::wmemset(reinterpret_cast<wchar_t*>(dst), bitCast<wchar_t>(pattern)[0], n / sizeof(wchar_t));
+        store(dst + n - B, pattern);  // two bytes may be left over
+        return;
+    }
     store(dst, pattern);
     const std::size_t head = toNextBoundary<B>(dst);
     if (head % Period != 0) {
