@@ -25,13 +25,13 @@ VlqStatus vlq::vlqsSplitScaled_16s32f_D2L(const Vlq16s* src, Vlq32f* const* dstR
     if (const VlqStatus status = check(src, dstRows, channels, frames); status != vlqStsOk) return status;
     const StandardFloatMode hold;
     if (channels == 2) splitStereo(src, dstRows[0], dstRows[1], frames);
-    else split<2>(src, dstRows, channels, frames);
+    else split(src, dstRows, channels, frames);
     return vlqStsOk;
 }
 VlqStatus vlq::vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRows, Vlq32s channels, Vlq32s frames) {
     if (const VlqStatus status = check(src, dstRows, channels, frames); status != vlqStsOk) return status;
     const StandardFloatMode hold;
-    split<3>(src, dstRows, channels, frames);
+    split(src, dstRows, channels, frames);
     return vlqStsOk;
 }
 

@@ -16,6 +16,7 @@ struct ToUnit {
     Vec<float> operator()(Vec<std::int32_t> v) const {
         return toFloat(v) * Vec<float>::broadcast(step) + Vec<float>::broadcast(half);
     }
+    float operator()(std::int32_t x) const { return static_cast<float>(x) * step + half; }
 };
 inline constexpr ToUnit kToUnit16 = {0x1.0001p-15f, 0x1.0001p-16f};  // 1/32767.5 and 1/65535, nearest floats
 // 1/8388607.5, nearest float. 1/16777215 lies in the middle of two floats; with the lower one both ends
@@ -59,48 +60,55 @@ inline void fromUnit(std::uint8_t* packed, const float* src, std::ptrdiff_t len)
 }
 
 // ---- any number of channels ----------------------------------------------------------------------------
-// Samples pass through a tile of floats, converted there as one run: whole frames where some fit,
-// else parts of one frame. body(first frame, frames, first channel, channels) sees each tile.
-inline constexpr int kTile = 1024;
+inline float unitAt(const std::int16_t* src, std::ptrdiff_t index) {
+    std::int16_t sample;
+    std::memcpy(&sample, src + index, sizeof sample);
+    return kToUnit16(sample);
+}
+inline float unitAt(const std::uint8_t* packed, std::ptrdiff_t index) {
+    const std::uint8_t* p = packed + 3 * index;
+    return kToUnit24(static_cast<std::int8_t>(p[2]) * 65536 + (p[1] << 8 | p[0]));
+}
 
-template <class Body>
-inline void forTiles(std::int32_t channels, std::int32_t frames, Body body) {
-    const std::int32_t frameStep = channels < kTile ? kTile / channels : 1;
-    const std::int32_t channelStep = channels < kTile ? channels : kTile;
-    for (std::int64_t f = 0; f < frames; f += frameStep) {
-        for (std::int64_t c = 0; c < channels; c += channelStep) {
-            body(f, frames - f < frameStep ? frames - f : frameStep, c, channels - c < channelStep ? channels - c : channelStep);
+// One channel after the other, over as many frames as stay in the first-level cache meanwhile.
+template <class T>
+inline void split(const T* src, float* const* dstRows, std::int32_t channels, std::int32_t frames) {
+    if (channels == 1) return toUnit(dstRows[0], src, frames);
+    const std::ptrdiff_t step = channels < 1024 ? 8192 / channels : 8;
+    for (std::ptrdiff_t first = 0; first < frames; first += step) {
+        const std::ptrdiff_t last = frames - first < step ? frames : first + step;
+        for (std::ptrdiff_t c = 0; c < channels; ++c) {
+            float* row = dstRows[c];
+            for (std::ptrdiff_t f = first; f < last; ++f) {
+                const float value = unitAt(src, f * channels + c);
+                std::memcpy(row + f, &value, sizeof value);
+            }
         }
     }
 }
 
-// kBytes: of a sample in the interleaved vector, which is counted in elements of T.
-template <int kBytes, class T>
-inline void split(const T* src, float* const* dstRows, std::int32_t channels, std::int32_t frames) {
-    constexpr int each = kBytes / static_cast<int>(sizeof(T));
-    if (channels == 1) return toUnit(dstRows[0], src, frames);
-    alignas(64) float tile[kTile];
-    forTiles(channels, frames, [&](std::ptrdiff_t f, std::ptrdiff_t frameCount, std::ptrdiff_t c, std::ptrdiff_t channelCount) {
-        toUnit(tile, src + (f * channels + c) * each, frameCount * channelCount);
-        for (std::ptrdiff_t k = 0; k < channelCount; ++k) {
-            float* row = dstRows[c + k] + f;
-            for (std::ptrdiff_t i = 0; i < frameCount; ++i) std::memcpy(row + i, tile + i * channelCount + k, sizeof(float));
-        }
-    });
-}
+// Samples pass through a tile of floats, converted there as one run: whole frames where some fit,
+// else parts of one frame.
+inline constexpr int kTile = 1024;
 
 template <int kBytes, class T>
 inline void join(const float* const* srcRows, std::int32_t channels, std::int32_t frames, T* dst) {
     constexpr int each = kBytes / static_cast<int>(sizeof(T));
     if (channels == 1) return fromUnit(dst, srcRows[0], frames);
     alignas(64) float tile[kTile];
-    forTiles(channels, frames, [&](std::ptrdiff_t f, std::ptrdiff_t frameCount, std::ptrdiff_t c, std::ptrdiff_t channelCount) {
-        for (std::ptrdiff_t k = 0; k < channelCount; ++k) {
-            const float* row = srcRows[c + k] + f;
-            for (std::ptrdiff_t i = 0; i < frameCount; ++i) std::memcpy(tile + i * channelCount + k, row + i, sizeof(float));
+    const std::ptrdiff_t frameStep = channels < kTile ? kTile / channels : 1;
+    const std::ptrdiff_t channelStep = channels < kTile ? channels : kTile;
+    for (std::ptrdiff_t f = 0; f < frames; f += frameStep) {
+        const std::ptrdiff_t frameCount = frames - f < frameStep ? frames - f : frameStep;
+        for (std::ptrdiff_t c = 0; c < channels; c += channelStep) {
+            const std::ptrdiff_t channelCount = channels - c < channelStep ? channels - c : channelStep;
+            for (std::ptrdiff_t k = 0; k < channelCount; ++k) {
+                const float* row = srcRows[c + k] + f;
+                for (std::ptrdiff_t i = 0; i < frameCount; ++i) std::memcpy(tile + i * channelCount + k, row + i, sizeof(float));
+            }
+            fromUnit(dst + (f * channels + c) * each, tile, frameCount * channelCount);
         }
-        fromUnit(dst + (f * channels + c) * each, tile, frameCount * channelCount);
-    });
+    }
 }
 
 // ---- stereo: both channels of a frame in one 32-bit lane ------------------------------------------------
