@@ -23,7 +23,8 @@ inline T laneSum(Vec<T, Bytes> v) {
 // and a vector load across a fresh store waits for the cache.
 template <class T>
 inline T windowSum(const T* x, T newest, const T* g, int n) {
-    using Wide = Vec<T>;
+    // Wider vectors gain nothing here: they take longer to sum up and to wait for.
+    using Wide = Vec<T, kVecBytes == 16 ? 16 : 32>;
     using Small = Vec<T, 16>;
     constexpr int kShort = 12;  // a shorter window is one chain in its own order
     constexpr int kFresh = 4;
@@ -39,22 +40,21 @@ inline T windowSum(const T* x, T newest, const T* g, int n) {
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) {
             const int at = j + i * Wide::lanes;
-            sums[i] = mulAdd(load<T>(x + at), load<T>(g + at), sums[i]);
+            sums[i] = mulAdd(load<T, Wide::bytes>(x + at), load<T, Wide::bytes>(g + at), sums[i]);
         }
     }
-    for (int i = 0; j + Wide::lanes <= settled; j += Wide::lanes, ++i) {
-        sums[i] = mulAdd(load<T>(x + j), load<T>(g + j), sums[i]);
+#pragma GCC unroll 3
+    for (int i = 0; i < 3; ++i) {  // at most three more; a constant count keeps the sums in registers
+        if (j + Wide::lanes > settled) break;
+        sums[i] = mulAdd(load<T, Wide::bytes>(x + j), load<T, Wide::bytes>(g + j), sums[i]);
+        j += Wide::lanes;
     }
     T tail = 0;
-    if constexpr (kVecBytes == 64) {  // masked loads are cheap there
-        sums[3] = mulAdd(loadPartial<T>(x + j, settled - j), loadPartial<T>(g + j, settled - j), sums[3]);
-    } else {
-        if (kVecBytes > 16 && j + Small::lanes <= settled) {
-            tail = laneSum(load<T, 16>(x + j) * load<T, 16>(g + j));
-            j += Small::lanes;
-        }
-        for (; j < settled; ++j) tail = mulAdd(x[j], g[j], tail);
+    if (Wide::bytes > 16 && j + Small::lanes <= settled) {
+        tail = laneSum(load<T, 16>(x + j) * load<T, 16>(g + j));
+        j += Small::lanes;
     }
+    for (; j < settled; ++j) tail = mulAdd(x[j], g[j], tail);
     T fresh = newest * g[n - 1];
     for (int i = settled; i < n - 1; ++i) fresh = mulAdd(x[i], g[i], fresh);
     return laneSum((sums[0] + sums[1]) + (sums[2] + sums[3])) + (tail + fresh);
