@@ -28,6 +28,12 @@ VlqStatus scaled(const T* src, T val, T* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     if (classify<Op, T>(scaleFactor) == Scaling::Vanish) return clear(dst, len);
     if (Op::leavesAt0 && val == 0 && scaleFactor == 0) return src == dst ? vlqStsOk : copy(src, dst, len);
+    if constexpr (std::is_same_v<T, Vlq32s>) {
+        if (scaleFactor <= 0) {
+            withConstant<Op>(val, scaleFactor, [&](auto op) { map(dst, len, op, src); });
+            return vlqStsOk;
+        }
+    }
     runScaled<Op>(src, val, dst, len, scaleFactor);
     return vlqStsOk;
 }

@@ -1,9 +1,76 @@
+// What a constant operand changes: 32-bit results whose ends of range are known before the loop, and
 // 64-bit sums that keep their sixty-fifth bit under every scale factor and round as they are told.
 #pragma once
+
+#include <algorithm>
 
 #include "arith/add_kernels.h"
 
 namespace vlq::add {
+
+// 32 bits have no saturating instruction, but with a constant the samples whose result leaves the
+// range are those beyond limits that are known before the loop.
+
+// The sample that gives e with val, or the nearest one there is.
+template <class Op>
+inline Vec<std::int32_t> sampleFor(std::int64_t e, std::int32_t val) {
+    const std::int64_t x = Op::inverse(e, val);
+    return Vec<std::int32_t>::broadcast(static_cast<std::int32_t>(std::clamp<std::int64_t>(x, INT32_MIN, INT32_MAX)));
+}
+
+// Whether the result falls where the sample rises.
+template <class Op>
+inline constexpr bool falls = Op::inverse(0, 0) > Op::inverse(1, 0);
+
+// Scale factor 0. Results leave the range at one end, and the samples for it lie at one end of theirs.
+template <class Op, bool upperSamples>
+class ConstantSaturated {
+public:
+    using V = Vec<std::int32_t>;
+
+    explicit ConstantSaturated(std::int32_t val)
+        : val_(V::broadcast(val)), end_(V::broadcast(kEnd)), limit_(sampleFor<Op>(kEnd, val)) {}
+
+    V operator()(V x) const {
+        return select(upperSamples ? x > limit_ : limit_ > x, end_, Op::exact(x, val_));
+    }
+
+private:
+    static constexpr std::int32_t kEnd = upperSamples != falls<Op> ? INT32_MAX : INT32_MIN;
+    V val_, end_, limit_;
+};
+
+// Negative scale factors. A result of -1 is always within the range, so neither limit lies beyond
+// the samples on its far side.
+template <class Op>
+class ConstantLeft {
+public:
+    using V = Vec<std::int32_t>;
+
+    ConstantLeft(std::int32_t val, std::int32_t scaleFactor)
+        : count_(scaleFactor < -31 ? 31 : -scaleFactor), val_(V::broadcast(val)),
+          lowest_(sampleFor<Op>(INT32_MIN >> count_, val)), highest_(sampleFor<Op>(INT32_MAX >> count_, val)) {}
+
+    V operator()(V x) const {
+        const auto below = falls<Op> ? x > lowest_ : lowest_ > x;
+        const auto above = falls<Op> ? highest_ > x : x > highest_;
+        return select(below | above, below ^ V::broadcast(INT32_MAX), shiftLeft(Op::exact(x, val_), count_));
+    }
+
+private:
+    int count_;
+    V val_, lowest_, highest_;  // samples of the lowest and the highest result
+};
+
+// Hands `run` the operation on one vector that serves a scale factor of 0 or less.
+template <class Op, class Run>
+inline void withConstant(std::int32_t val, std::int32_t scaleFactor, Run run) {
+    if (scaleFactor < 0) return run(ConstantLeft<Op>(val, scaleFactor));
+    // The largest sample is the first to leave the range when its own result is beyond an end.
+    const bool upper = Op::inverse(falls<Op> ? INT32_MIN : INT32_MAX, val) < INT32_MAX;
+    if (upper) run(ConstantSaturated<Op, true>(val));
+    else run(ConstantSaturated<Op, false>(val));
+}
 
 // e / 2
 template <class T, Rounding rounding>

@@ -12,6 +12,8 @@ namespace vlq::add {
 // a + b
 struct Sum {
     static constexpr bool leavesAt0 = true;  // b of 0 leaves a as it is
+    // The a that gives the result e with b.
+    static constexpr std::int64_t inverse(std::int64_t e, std::int64_t b) { return e - b; }
     // Unsigned sums reach one bit further than signed ones; a tie of the largest goes to 0.
     template <class T>
     static constexpr int vanishesFrom = std::numeric_limits<T>::digits + 2;
@@ -20,6 +22,9 @@ struct Sum {
     static Vec<T> exact(Vec<T> a, Vec<T> b) { return a + b; }
     template <class T>
     static Vec<T> saturated(Vec<T> a, Vec<T> b) { return addSat(a, b); }
+    // In the sign bit, that of the exact sum: the operands' own where they agree.
+    template <class T>
+    static Vec<T> sign(Vec<T> a, Vec<T> b) { return a ^ ((a ^ b) & (a ^ (a + b))); }
     // The sum's lowest bit marks a tie, and the even neighbour is the upper one less its own.
     template <class T>
     static Vec<T> half(Vec<T> a, Vec<T> b) {
@@ -38,6 +43,7 @@ inline constexpr int Sum::vanishesFrom<std::int64_t> = 64;
 // a - b. An unsigned difference below 0 is 0 at every scale.
 struct Difference {
     static constexpr bool leavesAt0 = true;
+    static constexpr std::int64_t inverse(std::int64_t e, std::int64_t b) { return e + b; }
     template <class T>
     static constexpr int vanishesFrom = std::numeric_limits<T>::digits + (std::is_signed_v<T> ? 2 : 1);
 
@@ -45,6 +51,8 @@ struct Difference {
     static Vec<T> exact(Vec<T> a, Vec<T> b) { return a - b; }
     template <class T>
     static Vec<T> saturated(Vec<T> a, Vec<T> b) { return subSat(a, b); }
+    template <class T>
+    static Vec<T> sign(Vec<T> a, Vec<T> b) { return a ^ (~(a ^ b) & (a ^ (a - b))); }
     template <class T>
     static Vec<T> half(Vec<T> a, Vec<T> b) {
         if constexpr (std::is_unsigned_v<T>) {
@@ -69,9 +77,10 @@ struct Difference {
     }
 };
 
-// Operands the other way round: b - a.
+// Operands the other way round: b - a. It falls where a rises.
 struct ReverseDifference {
     static constexpr bool leavesAt0 = false;
+    static constexpr std::int64_t inverse(std::int64_t e, std::int64_t b) { return b - e; }
     template <class T>
     static constexpr int vanishesFrom = Difference::vanishesFrom<T>;
 
@@ -79,6 +88,8 @@ struct ReverseDifference {
     static Vec<T> exact(Vec<T> a, Vec<T> b) { return Difference::exact(b, a); }
     template <class T>
     static Vec<T> saturated(Vec<T> a, Vec<T> b) { return Difference::saturated(b, a); }
+    template <class T>
+    static Vec<T> sign(Vec<T> a, Vec<T> b) { return Difference::sign(b, a); }
     template <class T>
     static Vec<T> half(Vec<T> a, Vec<T> b) { return Difference::half(b, a); }
     template <class T>
@@ -140,7 +151,10 @@ inline void withScale(std::int32_t scaleFactor, Run run) {
     case Scaling::None:
         return run([](V a, V b) { return Op::saturated(a, b); });
     case Scaling::Left:
-        return run([scale = ScaleLeft<T>(scaleFactor)](V a, V b) { return scale(Op::saturated(a, b)); });
+        return run([scale = ScaleLeft<T>(scaleFactor)](V a, V b) {
+            if constexpr (SignedInteger<T> && WideInteger<T>) return scale(Op::exact(a, b), Op::sign(a, b));
+            else return scale(Op::saturated(a, b));
+        });
     case Scaling::Half:
         return run([](V a, V b) { return Op::half(a, b); });
     case Scaling::Right:

@@ -38,6 +38,8 @@ class ScaleLeft {
 public:
     explicit ScaleLeft(std::int32_t scaleFactor) : count_(scaleFactor < -kBits ? kBits : -scaleFactor) {}
     Vec<T> operator()(Vec<T> clamped) const { return shiftLeftSat(clamped, count_); }
+    // A result of one bit more than T, by its lower bits and its sign: where clamping costs more.
+    Vec<T> operator()(Vec<T> lower, Vec<T> signBit) const { return shiftLeftSat(lower, signBit, count_); }
 
 private:
     static constexpr int kBits = std::numeric_limits<T>::digits;

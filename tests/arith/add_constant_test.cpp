@@ -83,7 +83,8 @@ TEST(AddC, Values32s) {
     for (int s = -34; s <= 36; ++s) factors.push_back(s);
     auto src = extremeVector<Vlq32s>(1000, rng);
     src.insert(src.end(), some.begin(), some.end());
-    const auto constants = extremeVector<Vlq32s>(40, rng);
+    auto constants = extremeVector<Vlq32s>(34, rng);
+    constants.insert(constants.end(), {INT32_MIN, INT32_MIN + 1, -1, 1, INT32_MAX - 1, INT32_MAX});
     checkConstants<Vlq32s>(constant<Vlq32s>(vlqsAddC_32s_Sfs), addElement, src, constants, factors);
     checkConstants<Vlq32s>(constant<Vlq32s>(vlqsSubC_32s_Sfs), subElement, src, constants, factors);
     checkConstants<Vlq32s>(constant<Vlq32s>(vlqsSubCRev_32s_Sfs), reverseElement, src, constants, factors);

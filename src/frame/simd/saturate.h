@@ -118,7 +118,7 @@ inline Vec<std::uint16_t, 64> meanUp(Vec<std::uint16_t, 64> a, Vec<std::uint16_t
 #endif
 
 // ---- left shifts -----------------------------------------------------------------------------
-// v * 2^count, stopped at the ends of the range; 0 <= count <= value bits of T.
+// v * 2^count, stopped at the ends of the range; 1 <= count <= value bits of T.
 template <SignedInteger T, int B>
 inline Vec<T, B> shiftLeftSat(Vec<T, B> v, int count) {
     constexpr T highest = std::numeric_limits<T>::max();
@@ -131,10 +131,24 @@ template <UnsignedInteger T, int B>
 inline Vec<T, B> shiftLeftSat(Vec<T, B> v, int count) {
     using S = BitsOf<T>;
     constexpr int bits = std::numeric_limits<T>::digits;
-    const T limit = count < bits ? static_cast<T>(std::numeric_limits<T>::max() >> count) : T{0};
-    const auto top = Vec<T, B>::broadcast(static_cast<T>(T{1} << (bits - 1)));
-    const auto over = bitCast<S>(v ^ top) > bitCast<S>(Vec<T, B>::broadcast(limit) ^ top);
-    return shiftLeft(v, count < bits ? count : bits - 1) | bitCast<T>(over);
+    const auto shifted = shiftLeft(v, count < bits ? count : bits - 1);
+    if constexpr (sizeof(T) == 8) {
+        const auto lost = count < bits ? shiftRight(v, bits - count) : shiftRight(v, 1) | (v & Vec<T, B>::broadcast(1));
+        return shifted | bitCast<T>(isAbove(bitCast<S>(lost), Vec<S, B>::zero()));
+    } else {
+        const T limit = count < bits ? static_cast<T>(std::numeric_limits<T>::max() >> count) : T{0};
+        const auto top = Vec<T, B>::broadcast(static_cast<T>(T{1} << (bits - 1)));
+        return shifted | bitCast<T>(bitCast<S>(v ^ top) > bitCast<S>(Vec<T, B>::broadcast(limit) ^ top));
+    }
+}
+
+// The same for a value of one bit more than T: its lower bits, and its sign in the sign bit.
+template <SignedInteger T, int B>
+inline Vec<T, B> shiftLeftSat(Vec<T, B> lower, Vec<T, B> signBit, int count) {
+    const auto sign = signMask(signBit);
+    // What is shifted out, and the bit that becomes the sign, must all be equal to it.
+    const auto fits = shiftRight(lower, std::numeric_limits<T>::digits - count) == sign;
+    return select(fits, shiftLeft(lower, count), sign ^ Vec<T, B>::broadcast(std::numeric_limits<T>::max()));
 }
 
 }  // namespace vlq
