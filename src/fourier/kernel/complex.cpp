@@ -31,7 +31,7 @@ void splitTransform(int order, const FloatingRecord<T>& record, const T* srcRe, 
     const Planes<T> planes{buffer, buffer + (std::ptrdiff_t{1} << order)}, middle{dstRe, dstIm};
     if (order <= ComplexLimits<T>::straightLine) smallTransform<T>(order, record, in, out, scaled);
     else if (order <= ComplexLimits<T>::inCache) inCacheTransform<T>(order, record, in, planes, middle, out, scaled);
-    else largeTransform<T>(order, record, in, middle, out, buffer, srcRe == dstRe, scaled);
+    else largeTransform<T>(order, record, in, middle, out, buffer, srcRe == dstRe || srcIm == dstIm, scaled);
 }
 
 template void complexTransform<Vlq32f, Direction::forward>(int, const FloatingRecord<Vlq32f>&, const Vlq32f*, Vlq32f*,

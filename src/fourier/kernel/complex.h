@@ -13,8 +13,7 @@ enum class Direction { forward, inverse };
 template <class T, Direction direction>
 void complexTransform(int order, const FloatingRecord<T>& record, const T* src, T* dst, void* work, bool scaled);
 
-// The same with real and imaginary parts in arrays of their own. A source may be either
-// destination.
+// The same with real and imaginary parts in arrays of their own.
 template <class T, Direction direction>
 void splitTransform(int order, const FloatingRecord<T>& record, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
                     void* work, bool scaled);
