@@ -11,9 +11,9 @@
 
 VLQS_BEGIN_DECLS
 
+/** @name Integers to wider integers
+ *  @{ */
 /**
- * @name Integers to wider integers
- *
  * `dst[i] = src[i]`.
  *
  * **Shapes.** Both vectors have @p len elements and any alignment, and do not overlap.
@@ -26,15 +26,14 @@ VLQS_BEGIN_DECLS
  * @param dst  result
  * @param len  number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_8s16s(const Vlq8s* src, Vlq16s* dst, Vlq32s len);
 VlqStatus vlqsConvert_16s32s(const Vlq16s* src, Vlq32s* dst, Vlq32s len);
 /** @} */
 
+/** @name 32-bit integers to 16-bit ones
+ *  @{ */
 /**
- * @name 32-bit integers to 16-bit ones
- *
  * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`, to the nearest integer and the even one of
  * two equally near; vlqsConvert_32s16s is the case of a scale factor of 0. A scale factor above 31
  * counts as 31, one below -15 as -15.
@@ -46,20 +45,19 @@ VlqStatus vlqsConvert_16s32s(const Vlq16s* src, Vlq32s* dst, Vlq32s len);
  *
  * **Memory.** None.
  *
- * @param src         samples
- * @param dst         result
- * @param len         number of elements
- * @param scaleFactor negated exponent of the factor
+ * @arg @c src         samples
+ * @arg @c dst         result
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_32s16s(const Vlq32s* src, Vlq16s* dst, Vlq32s len);
 VlqStatus vlqsConvert_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
 /** @} */
 
+/** @name Integers to integers of half the width, rounded by mode
+ *  @{ */
 /**
- * @name Integers to integers of half the width, rounded by mode
- *
  * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`. @p rndMode 0 drops the fraction, 1 takes the
  * nearest integer and the even one of two equally near, any other value the nearest and the one
  * farther from zero of two equally near. In vlqsConvert_64s32s_Sfs a scale factor above 63 counts
@@ -79,15 +77,14 @@ VlqStatus vlqsConvert_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst, Vlq32s len, Vlq
  * @param rndMode     rounding, see VlqRoundMode
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_16s8s_Sfs(const Vlq16s* src, Vlq8s* dst, Vlq32u len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 VlqStatus vlqsConvert_64s32s_Sfs(const Vlq64s* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 /** @} */
 
+/** @name Integers to floats
+ *  @{ */
 /**
- * @name Integers to floats
- *
  * `dst[i] = src[i]`. Exact, but for the conversion of 32-bit integers to 32-bit floats and of
  * 64-bit ones to 64-bit floats: these round in the direction that the calling thread's
  * floating-point control word asks for.
@@ -103,7 +100,6 @@ VlqStatus vlqsConvert_64s32s_Sfs(const Vlq64s* src, Vlq32s* dst, Vlq32s len, Vlq
  * @param dst  result
  * @param len  number of elements, unsigned in vlqsConvert_64s64f
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_8s32f(const Vlq8s* src, Vlq32f* dst, Vlq32s len);
 VlqStatus vlqsConvert_8u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
@@ -114,9 +110,9 @@ VlqStatus vlqsConvert_32s64f(const Vlq32s* src, Vlq64f* dst, Vlq32s len);
 VlqStatus vlqsConvert_64s64f(const Vlq64s* src, Vlq64f* dst, Vlq32u len);
 /** @} */
 
+/** @name Integers to floats, scaled
+ *  @{ */
 /**
- * @name Integers to floats, scaled
- *
  * `dst[i] = src[i] * 2^-scaleFactor`, a conversion and a multiplication in the float type; a 32-bit
  * integer in a 32-bit float is rounded by the conversion, in the direction that the calling
  * thread's floating-point control word asks for. A scale factor outside the range of the form is
@@ -135,7 +131,6 @@ VlqStatus vlqsConvert_64s64f(const Vlq64s* src, Vlq64f* dst, Vlq32u len);
  * @param len         number of elements
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_16s32f_Sfs(const Vlq16s* src, Vlq32f* dst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsConvert_16s64f_Sfs(const Vlq16s* src, Vlq64f* dst, Vlq32s len, Vlq32s scaleFactor);
@@ -143,9 +138,9 @@ VlqStatus vlqsConvert_32s32f_Sfs(const Vlq32s* src, Vlq32f* dst, Vlq32s len, Vlq
 VlqStatus vlqsConvert_32s64f_Sfs(const Vlq32s* src, Vlq64f* dst, Vlq32s len, Vlq32s scaleFactor);
 /** @} */
 
+/** @name Floats to floats
+ *  @{ */
 /**
- * @name Floats to floats
- *
  * `dst[i] = src[i]`. Widening is exact, subnormals included; narrowing rounds, and flushes
  * subnormals or keeps them, as the calling thread's floating-point control word asks for. A
  * signalling not-a-number becomes quiet.
@@ -161,15 +156,14 @@ VlqStatus vlqsConvert_32s64f_Sfs(const Vlq32s* src, Vlq64f* dst, Vlq32s len, Vlq
  * @param dst  result
  * @param len  number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_32f64f(const Vlq32f* src, Vlq64f* dst, Vlq32s len);
 VlqStatus vlqsConvert_64f32f(const Vlq64f* src, Vlq32f* dst, Vlq32s len);
 /** @} */
 
+/** @name Floats to integers, scaled and rounded
+ *  @{ */
 /**
- * @name Floats to integers, scaled and rounded
- *
  * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`. @p rndMode 0 drops the fraction, 1 takes the
  * nearest integer and the even one of two equally near, any other value the nearest and the one
  * farther from zero of two equally near. The product is formed in the source's precision with a
@@ -193,7 +187,6 @@ VlqStatus vlqsConvert_64f32f(const Vlq64f* src, Vlq32f* dst, Vlq32s len);
  * @param rndMode     rounding, see VlqRoundMode
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 VlqStatus vlqsConvert_32f8u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
@@ -205,9 +198,9 @@ VlqStatus vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len, Vlq
 VlqStatus vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 /** @} */
 
+/** @name Half floats to floats
+ *  @{ */
 /**
- * @name Half floats to floats
- *
  * `dst[i] = src[i]`, exact. A signalling not-a-number becomes quiet.
  *
  * **Shapes.** Both vectors have @p len elements and any alignment, and do not overlap.
@@ -222,14 +215,13 @@ VlqStatus vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len, Vlq
  * @param dst  result
  * @param len  number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_16f32f(const Vlq16f* src, Vlq32f* dst, Vlq32s len);
 /** @} */
 
+/** @name Half floats from floats and integers
+ *  @{ */
 /**
- * @name Half floats from floats and integers
- *
  * `dst[i] = round(src[i])`, to the binary16 numbers. @p rndMode 0 rounds towards zero, so that a
  * finite number never becomes infinite; 1 rounds to the nearest, ties to even, and what lies half a
  * step or more past the largest binary16 number becomes infinite. Subnormal results are kept. A
@@ -250,15 +242,14 @@ VlqStatus vlqsConvert_16f32f(const Vlq16f* src, Vlq32f* dst, Vlq32s len);
  * @param len     number of elements
  * @param rndMode #vlqRndZero or #vlqRndNear
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_16s16f(const Vlq16s* src, Vlq16f* dst, Vlq32s len, VlqRoundMode rndMode);
 VlqStatus vlqsConvert_32f16f(const Vlq32f* src, Vlq16f* dst, Vlq32s len, VlqRoundMode rndMode);
 /** @} */
 
+/** @name Half floats to integers, scaled and rounded
+ *  @{ */
 /**
- * @name Half floats to integers, scaled and rounded
- *
  * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`: the value that vlqsConvert_16f32f followed by
  * vlqsConvert_32f16s_Sfs gives, a not-a-number as 32767 included.
  *
@@ -278,14 +269,13 @@ VlqStatus vlqsConvert_32f16f(const Vlq32f* src, Vlq16f* dst, Vlq32s len, VlqRoun
  * @param rndMode     #vlqRndZero or #vlqRndNear
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
 /** @} */
 
+/** @name Packed 24-bit integers to wider samples
+ *  @{ */
 /**
- * @name Packed 24-bit integers to wider samples
- *
  * `dst[i] = src[i]`, exact. An element of @p src is three bytes, least significant first, with no
  * gap to the next; the `24s` forms extend its sign.
  *
@@ -300,7 +290,6 @@ VlqStatus vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len, Vlq
  * @param dst  result
  * @param len  number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_24s32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
 VlqStatus vlqsConvert_24s32s(const Vlq8u* src, Vlq32s* dst, Vlq32s len);
@@ -308,9 +297,9 @@ VlqStatus vlqsConvert_24u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
 VlqStatus vlqsConvert_24u32u(const Vlq8u* src, Vlq32u* dst, Vlq32s len);
 /** @} */
 
+/** @name Packed 24-bit integers from wider samples, scaled
+ *  @{ */
 /**
- * @name Packed 24-bit integers from wider samples, scaled
- *
  * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`, to the nearest integer and the even one of
  * two equally near. An element of @p dst is three bytes, least significant first, with no gap to
  * the next. In the integer forms a scale factor above 31 counts as 31. In the float forms the
@@ -332,7 +321,6 @@ VlqStatus vlqsConvert_24u32u(const Vlq8u* src, Vlq32u* dst, Vlq32s len);
  * @param len         number of elements
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsConvert_32f24s_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
 VlqStatus vlqsConvert_32f24u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
@@ -340,9 +328,9 @@ VlqStatus vlqsConvert_32s24s_Sfs(const Vlq32s* src, Vlq8u* dst, Vlq32s len, Vlq3
 VlqStatus vlqsConvert_32u24u_Sfs(const Vlq32u* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
 /** @} */
 
+/** @name Interleaved integer audio to one row of floats a channel
+ *  @{ */
 /**
- * @name Interleaved integer audio to one row of floats a channel
- *
  * `dstRows[c][f] = x * step + half` with x channel c of frame f, `src[f * channels + c]`, in single
  * precision with a rounding after each operation. The lowest sample gives -1, the highest 1, and no
  * sample gives 0: step and half are 1/32767.5 and 1/65535 for 16 bits, 1/8388607.5 and 2^-24 for 24
@@ -363,15 +351,14 @@ VlqStatus vlqsConvert_32u24u_Sfs(const Vlq32u* src, Vlq8u* dst, Vlq32s len, Vlq3
  * @param channels number of channels
  * @param frames   number of samples in each channel
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsSplitScaled_16s32f_D2L(const Vlq16s* src, Vlq32f* const* dstRows, Vlq32s channels, Vlq32s frames);
 VlqStatus vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRows, Vlq32s channels, Vlq32s frames);
 /** @} */
 
+/** @name One row of floats a channel to interleaved integer audio
+ *  @{ */
 /**
- * @name One row of floats a channel to interleaved integer audio
- *
  * `dst[f * channels + c] = round(clamp(srcRows[c][f], -1, 1) * scale - 0.5)`, to the nearest integer and
  * the even one of two equally near, with a scale of 32767.5 for 16 and 8388607.5 for 24 bits: -1 gives
  * the lowest sample, 1 the highest. A not-a-number counts as 1. The 24-bit samples are packed, three
@@ -392,7 +379,6 @@ VlqStatus vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRows, V
  * @param frames   number of samples in each channel
  * @param dst      interleaved samples
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsJoinScaled_32f16s_D2L(const Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames, Vlq16s* dst);
 VlqStatus vlqsJoinScaled_32f24s_D2L(const Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames, Vlq8u* dst);

@@ -12,13 +12,13 @@ VLQS_BEGIN_DECLS
 /** @name Records of FIR filters, opaque
  *  The first type is that of the taps, the second that of the samples; one type stands for both.
  *  @{ */
-typedef struct VlqsFIRState_32f VlqsFIRState_32f;
-typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s;
+typedef struct VlqsFIRState_32f VlqsFIRState_32f;       /**< float taps, float samples */
+typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s; /**< float taps, 16-bit samples */
 /** @} */
 
+/** @name FIR: records
+ *  @{ */
 /**
- * @name FIR: records
- *
  * A record holds a filter of @p tapsLen taps h and its delay line, the last @p tapsLen samples of
  * the stream. `GetStateSize` tells the size of a record, `Init` builds one in memory of the
  * caller's, `InitAlloc` in blocks of its own, `Free` ends it.
@@ -41,15 +41,14 @@ typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s;
  * for the call the scratch of building it; `Free` releases both. A record of `Init` may be
  * abandoned, `Free` leaves it as it is.
  *
- * @param tapsLen    number of taps, at least 1
- * @param stateBytes receives the size of a record
- * @param outState   receives the record's address
- * @param taps       impulse response
- * @param dlyLine    past samples, or null
- * @param buffer     memory for the record
- * @param state      record
+ * @arg @c tapsLen    number of taps, at least 1
+ * @arg @c stateBytes receives the size of a record
+ * @arg @c outState   receives the record's address
+ * @arg @c taps       impulse response
+ * @arg @c dlyLine    past samples, or null
+ * @arg @c buffer     memory for the record
+ * @arg @c state      record
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsFIRGetStateSize_32f(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRGetStateSize32f_16s(Vlq32s tapsLen, Vlq32s* stateBytes);
@@ -61,9 +60,9 @@ VlqStatus vlqsFIRFree_32f(VlqsFIRState_32f* state);
 VlqStatus vlqsFIRFree32f_16s(VlqsFIRState32f_16s* state);
 /** @} */
 
+/** @name FIR: taps and delay line
+ *  @{ */
 /**
- * @name FIR: taps and delay line
- *
  * `SetTaps` replaces the taps of a record and leaves its delay line, `GetTaps` reads them back, bit
  * for bit. `SetDlyLine` replaces the delay line, with silence where @p dlyLine is null; `GetDlyLine`
  * reads it.
@@ -77,11 +76,10 @@ VlqStatus vlqsFIRFree32f_16s(VlqsFIRState32f_16s* state);
  *
  * **Memory.** None.
  *
- * @param taps    impulse response
- * @param dlyLine past samples
- * @param state   record
+ * @arg @c taps    impulse response
+ * @arg @c dlyLine past samples
+ * @arg @c state   record
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsFIRSetTaps_32f(const Vlq32f* taps, VlqsFIRState_32f* state);
 VlqStatus vlqsFIRSetTaps32f_16s(const Vlq32f* taps, VlqsFIRState32f_16s* state);
@@ -93,9 +91,9 @@ VlqStatus vlqsFIRGetDlyLine_32f(const VlqsFIRState_32f* state, Vlq32f* dlyLine);
 VlqStatus vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dlyLine);
 /** @} */
 
+/** @name FIR: filtering
+ *  @{ */
 /**
- * @name FIR: filtering
- *
  * `y[n] = sum over k of h[k] * x[n - k]`, x[n] for n below 0 from the delay line, which moves on: a
  * stream may be cut into calls, of blocks and of single samples (`One`), in any way. The `_Sfs` forms
  * store `saturate(round(y[n] * 2^-scaleFactor))`, round to nearest and to the even one of two equally
@@ -127,7 +125,6 @@ VlqStatus vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dly
  * @arg @c state       record
  * @arg @c scaleFactor negated exponent of the factor of the result
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsFIR_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, VlqsFIRState_32f* state);
 VlqStatus vlqsFIR_32f_I(Vlq32f* srcDst, Vlq32s len, VlqsFIRState_32f* state);

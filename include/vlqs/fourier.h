@@ -15,9 +15,12 @@ typedef struct VlqsFFTSpec_C_32fc VlqsFFTSpec_C_32fc; /**< interleaved single pr
 typedef struct VlqsFFTSpec_C_32f VlqsFFTSpec_C_32f;   /**< single precision, parts in two arrays */
 /** @} */
 
+/** Record of the real power-of-two transform in single precision, opaque. */
+typedef struct VlqsFFTSpec_R_32f VlqsFFTSpec_R_32f;
+
+/** @name Complex FFT: planning
+ *  @{ */
 /**
- * @name Complex FFT: planning
- *
  * Builds the record of a transform of N = 2^order complex values. `GetSize` tells how much memory
  * a record takes, `Init` builds it in memory of the caller's, `InitAlloc` in a block of its own,
  * `GetBufSize` tells the work buffer of a transform, `Free` ends the record.
@@ -41,19 +44,18 @@ typedef struct VlqsFFTSpec_C_32f VlqsFFTSpec_C_32f;   /**< single precision, par
  * **Memory.** `InitAlloc` allocates the record, and for the call the scratch of `Init`. `Free`
  * marks the record dead and releases it if `InitAlloc` made it. The other calls allocate nothing.
  *
- * @param outSpec   receives the record's address
- * @param order     base-2 logarithm of the length
- * @param flag      normalisation, see above
- * @param hint      kept in the record
- * @param specMem   memory for the record, `specBytes` long
- * @param initBuf   scratch of `Init`, `initBytes` long
- * @param specBytes receives the size of a record
- * @param initBytes receives the size of the scratch of `Init`
- * @param workBytes receives the size of a transform's work buffer
- * @param bufBytes  receives the size of a transform's work buffer
- * @param spec      record
+ * @arg @c outSpec   receives the record's address
+ * @arg @c order     base-2 logarithm of the length
+ * @arg @c flag      normalisation, see above
+ * @arg @c hint      kept in the record
+ * @arg @c specMem   memory for the record, `specBytes` long
+ * @arg @c initBuf   scratch of `Init`, `initBytes` long
+ * @arg @c specBytes receives the size of a record
+ * @arg @c initBytes receives the size of the scratch of `Init`
+ * @arg @c workBytes receives the size of a transform's work buffer
+ * @arg @c bufBytes  receives the size of a transform's work buffer
+ * @arg @c spec      record
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsFFTGetSize_C_32fc(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
 VlqStatus vlqsFFTGetSize_C_32f(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
@@ -67,9 +69,9 @@ VlqStatus vlqsFFTFree_C_32fc(VlqsFFTSpec_C_32fc* spec);
 VlqStatus vlqsFFTFree_C_32f(VlqsFFTSpec_C_32f* spec);
 /** @} */
 
+/** @name Complex FFT
+ *  @{ */
 /**
- * @name Complex FFT
- *
  * Forward: `X[k] = s * sum over n of x[n] * exp(-2 pi i n k / N)`; inverse: the same with a plus
  * sign. The factor s is the record's, 1 where its flag leaves the direction alone. The split forms
  * hold real and imaginary parts in arrays of their own.
@@ -88,19 +90,18 @@ VlqStatus vlqsFFTFree_C_32f(VlqsFFTSpec_C_32f* spec);
  * **Source.** Cooley and Tukey 1965, decimation in time in the self-sorting form of Stockham (Van
  * Loan, Computational Frameworks for the Fast Fourier Transform, 1992).
  *
- * @param src      input
- * @param dst      output
- * @param srcDst   input and output
- * @param srcRe    real parts of the input
- * @param srcIm    imaginary parts of the input
- * @param dstRe    real parts of the output
- * @param dstIm    imaginary parts of the output
- * @param srcDstRe real parts of input and output
- * @param srcDstIm imaginary parts of input and output
- * @param spec     record
- * @param buf      work buffer, or null
+ * @arg @c src      input
+ * @arg @c dst      output
+ * @arg @c srcDst   input and output
+ * @arg @c srcRe    real parts of the input
+ * @arg @c srcIm    imaginary parts of the input
+ * @arg @c dstRe    real parts of the output
+ * @arg @c dstIm    imaginary parts of the output
+ * @arg @c srcDstRe real parts of input and output
+ * @arg @c srcDstIm imaginary parts of input and output
+ * @arg @c spec     record
+ * @arg @c buf      work buffer, or null
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsFFTFwd_CToC_32fc(const Vlq32fc* src, Vlq32fc* dst, const VlqsFFTSpec_C_32fc* spec, Vlq8u* buf);
 VlqStatus vlqsFFTFwd_CToC_32fc_I(Vlq32fc* srcDst, const VlqsFFTSpec_C_32fc* spec, Vlq8u* buf);
@@ -110,10 +111,11 @@ VlqStatus vlqsFFTFwd_CToC_32f(const Vlq32f* srcRe, const Vlq32f* srcIm, Vlq32f* 
 VlqStatus vlqsFFTFwd_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTInv_CToC_32f(const Vlq32f* srcRe, const Vlq32f* srcIm, Vlq32f* dstRe, Vlq32f* dstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTInv_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
+/** @} */
 
+/** @name Real transforms of 2^order points: records
+ *  @{ */
 /**
- * @name Real transforms of 2^order points: records
- *
  * A record holds the order, the normalisation and all tables of a transform of `N = 2^order` real
  * points. `GetSize` tells how many bytes each part needs; `Init` builds the record in the caller's
  * memory and `InitAlloc` in memory of its own; `GetBufSize` tells the work buffer of one transform;
@@ -133,21 +135,19 @@ VlqStatus vlqsFFTInv_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const VlqsFF
  *
  * **Memory.** `InitAlloc` allocates the record and, while it works, the scratch of `Init`.
  *
- * @param order     log2 of the number of points
- * @param flag      normalisation: #vlqNormFwdByN, #vlqNormInvByN, #vlqNormBySqrtN or #vlqNormNone
- * @param hint      kept in the record, without effect
- * @param specBytes size of the record and its tables
- * @param initBytes size of the scratch of `Init`, 0 when it needs none
- * @param workBytes size of the work buffer of a transform, 0 when it needs none
- * @param outSpec   receives the address of the record
- * @param specMem   memory of @p specBytes bytes
- * @param initBuf   scratch of @p initBytes bytes
- * @param spec      the record
- * @param bufBytes  size of the work buffer of this record, 0 when it needs none
+ * @arg @c order     log2 of the number of points
+ * @arg @c flag      normalisation: #vlqNormFwdByN, #vlqNormInvByN, #vlqNormBySqrtN or #vlqNormNone
+ * @arg @c hint      kept in the record, without effect
+ * @arg @c specBytes size of the record and its tables
+ * @arg @c initBytes size of the scratch of `Init`, 0 when it needs none
+ * @arg @c workBytes size of the work buffer of a transform, 0 when it needs none
+ * @arg @c outSpec   receives the address of the record
+ * @arg @c specMem   memory of @p specBytes bytes
+ * @arg @c initBuf   scratch of @p initBytes bytes
+ * @arg @c spec      the record
+ * @arg @c bufBytes  size of the work buffer of this record, 0 when it needs none
  * @return #vlqStsOk or an error above.
- * @{
  */
-typedef struct VlqsFFTSpec_R_32f VlqsFFTSpec_R_32f;
 VlqStatus vlqsFFTGetSize_R_32f(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
 VlqStatus vlqsFFTInit_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
 VlqStatus vlqsFFTInitAlloc_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
@@ -155,9 +155,9 @@ VlqStatus vlqsFFTGetBufSize_R_32f(const VlqsFFTSpec_R_32f* spec, Vlq32s* bufByte
 VlqStatus vlqsFFTFree_R_32f(VlqsFFTSpec_R_32f* spec);
 /** @} */
 
+/** @name Real transforms of 2^order points
+ *  @{ */
 /**
- * @name Real transforms of 2^order points
- *
  * `X[k] = f sum x[n] exp(-2 pi i n k / N)` for real x of `N = 2^order` points, and the inverse
  * `x[n] = g sum X[k] exp(2 pi i n k / N)`; f and g are 1, `1/N` or `1/sqrt(N)` as the record's
  * normalisation says. `X[N-k]` is the conjugate of `X[k]`, so half of the spectrum tells all; three
@@ -182,13 +182,12 @@ VlqStatus vlqsFFTFree_R_32f(VlqsFFTSpec_R_32f* spec);
  * **Source.** A complex transform of N/2 points and the separation of its two interleaved signals:
  * Brigham, The Fast Fourier Transform and its Applications, 1988, section 9.3.
  *
- * @param src    signal, or spectrum for the inverse
- * @param dst    spectrum, or signal for the inverse
- * @param srcDst both, of the in-place forms
- * @param spec   record
- * @param buf    work buffer or null
+ * @arg @c src    signal, or spectrum for the inverse
+ * @arg @c dst    spectrum, or signal for the inverse
+ * @arg @c srcDst both, of the in-place forms
+ * @arg @c spec   record
+ * @arg @c buf    work buffer or null
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsFFTFwd_RToCCS_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTFwd_RToCCS_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
@@ -204,9 +203,9 @@ VlqStatus vlqsFFTInv_PermToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSp
 VlqStatus vlqsFFTInv_PermToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
 /** @} */
 
+/** @name Products of packed spectra
+ *  @{ */
 /**
- * @name Products of packed spectra
- *
  * The spectrum of a cyclic convolution: real terms multiply, complex values multiply as such,
  * `(ar br - ai bi, ar bi + ai br)`, each product rounded. In Pack the first value is real, and the
  * last one of an even @p len; in Perm the first, and the second of an even @p len. The others are
@@ -219,14 +218,13 @@ VlqStatus vlqsFFTInv_PermToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec
  *
  * **Memory.** None.
  *
- * @param srcA   first spectrum
- * @param srcB   second spectrum
- * @param src    first spectrum of the in-place forms
- * @param dst    product
- * @param srcDst second spectrum and product of the in-place forms
- * @param len    number of elements
+ * @arg @c srcA   first spectrum
+ * @arg @c srcB   second spectrum
+ * @arg @c src    first spectrum of the in-place forms
+ * @arg @c dst    product
+ * @arg @c srcDst second spectrum and product of the in-place forms
+ * @arg @c len    number of elements
  * @return #vlqStsOk or an error above.
- * @{
  */
 VlqStatus vlqsMulPack_32f(const Vlq32f* srcA, const Vlq32f* srcB, Vlq32f* dst, Vlq32s len);
 VlqStatus vlqsMulPack_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
