@@ -419,6 +419,209 @@ VlqStatus vlqsAddProduct_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc*
 VlqStatus vlqsAddProductC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* srcDst, Vlq32s len);
 /** @} */
 
+/** @name Scaled quotients of two vectors
+ *  @{ */
+/**
+ * `dst[i] = clamp(round(src2[i] / src1[i] * 2^-scaleFactor))`: the second vector is divided by the first. In
+ * place `srcDst[i] / src[i]`. `round` goes to the nearest integer and from a tie to the even one. The quotient
+ * of 8 and 16-bit integers is formed in single precision, that of 32-bit and of complex ones in double, and
+ * is scaled without a further rounding. Over a divisor of 0 a positive numerator gives the largest value of the type,
+ * a negative one the smallest, 0 gives 0; part by part of complex values. `32s16s` divides 32-bit
+ * numerators (@p src2) by 16-bit divisors (@p src1).
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be a source of its own type;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1. The
+ * warning #vlqStsWarnDivByZero tells that a divisor was zero; all results are written.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src1        divisors
+ * @arg @c src2        numerators
+ * @arg @c src         divisors of the in-place forms
+ * @arg @c dst         result
+ * @arg @c srcDst      numerators and result of the in-place forms
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor power of two by which the quotient is divided
+ * @return #vlqStsOk, the warning or an error above.
+ */
+VlqStatus vlqsDiv_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_32s_ISfs(const Vlq32s* src, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_32s16s_Sfs(const Vlq16s* src1, const Vlq32s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
+/** @name Scaled quotients of two vectors, rounded by mode
+ *  @{ */
+/**
+ * `dst[i] = clamp(round(src2[i] / src1[i] * 2^-scaleFactor))` as the scaled quotients, with `round` towards zero
+ * (#vlqRndZero), to the nearest with ties to even (#vlqRndNear) or with ties away from zero
+ * (#vlqRndFinancial). Over a divisor of 0 the same values are stored, except that all results are 0
+ * from a scale factor of 17 on.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be a source of its own type;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
+ * #vlqStsBadRoundMode for another mode. The warning #vlqStsWarnDivByZero tells that a divisor was zero; all results are written.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src1        divisors
+ * @arg @c src2        numerators
+ * @arg @c src         divisors of the in-place forms
+ * @arg @c dst         result
+ * @arg @c srcDst      numerators and result of the in-place forms
+ * @arg @c len         number of elements
+ * @arg @c rndMode     rounding of the quotient
+ * @arg @c scaleFactor power of two by which the quotient is divided
+ * @return #vlqStsOk, the warning or an error above.
+ */
+VlqStatus vlqsDiv_Round_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_Round_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_Round_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_Round_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_Round_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsDiv_Round_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+/** @} */
+
+/** @name Scaled quotients of a vector and a constant
+ *  @{ */
+/**
+ * `dst[i] = clamp(round(src[i] * (2^-scaleFactor / val)))`; in place with `srcDst[i]`. The reciprocal is formed
+ * once, in single precision of integers of 8 and 16 bits, in double of complex ones, so a
+ * result may lie one step from the rounded quotient. `64s` divides exactly.
+ *
+ * **Shapes.** Vectors have @p len elements and any alignment. @p dst may be @p src; other overlaps
+ * are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
+ * #vlqStsZeroDivisor for a constant of 0.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src         numerators
+ * @arg @c val         divisor
+ * @arg @c dst         result
+ * @arg @c srcDst      numerators and result of the in-place forms
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor power of two by which the quotient is divided
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsDivC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDivC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDivC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDivC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDivC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDivC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDivC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDivC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsDivC_64s_ISfs(Vlq64s val, Vlq64s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
+/** @name Quotients of a constant and a vector
+ *  @{ */
+/**
+ * `dst[i] = val / src[i]`; in place `val / srcDst[i]`. Integers are rounded to the nearest, ties to even.
+ * Over a divisor of 0 an integer result is 65535, or 0 for a constant of 0; a float result is infinite or not a number.
+ *
+ * **Shapes.** Vectors have @p len elements and any alignment. @p dst may be @p src; other overlaps
+ * are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1. The
+ * warning #vlqStsWarnDivByZero tells that a divisor was zero; all results are written.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src    divisors
+ * @arg @c val    numerator
+ * @arg @c dst    result
+ * @arg @c srcDst divisors and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk, the warning or an error above.
+ */
+VlqStatus vlqsDivCRev_16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len);
+VlqStatus vlqsDivCRev_16u_I(Vlq16u val, Vlq16u* srcDst, Vlq32s len);
+VlqStatus vlqsDivCRev_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsDivCRev_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Quotients of two vectors of floats
+ *  @{ */
+/**
+ * `dst[i] = src2[i] / src1[i]`: the second vector is divided by the first. In place `srcDst[i] / src[i]`.
+ *
+ * `32f` is within one unit in the last place and `64f` correctly rounded. Complex quotients
+ * neither overflow nor underflow where the result does not: parts of `32fc` are rounded once from double, those of
+ * `64fc` are within a few units of the larger part's last place. Over a divisor of 0 each part of
+ * the numerator is divided by the divisor's real part: infinite, or not a number.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be a source of its own type;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1. The
+ * warning #vlqStsWarnDivByZero tells that a divisor was zero; all results are written.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src1   divisors
+ * @arg @c src2   numerators
+ * @arg @c src    divisors of the in-place forms
+ * @arg @c dst    result
+ * @arg @c srcDst numerators and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk, the warning or an error above.
+ */
+VlqStatus vlqsDiv_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsDiv_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsDiv_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsDiv_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsDiv_32fc(const Vlq32fc* src1, const Vlq32fc* src2, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsDiv_32fc_I(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsDiv_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsDiv_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Quotients of a vector of floats and a constant
+ *  @{ */
+/**
+ * `dst[i] = src[i] / val`; in place `srcDst[i] / val`. The reciprocal is formed once and multiplied by, so a result
+ * may differ in the last place from the rounded quotient; where the reciprocal would
+ * overflow or lose bits each element is divided instead.
+ *
+ * **Shapes.** Vectors have @p len elements and any alignment. @p dst may be @p src; other overlaps
+ * are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
+ * #vlqStsZeroDivisor for a constant of 0.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src    numerators
+ * @arg @c val    divisor
+ * @arg @c dst    result
+ * @arg @c srcDst numerators and result of the in-place forms
+ * @arg @c len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsDivC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len);
+VlqStatus vlqsDivC_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsDivC_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsDivC_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsDivC_32fc(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsDivC_32fc_I(Vlq32fc val, Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsDivC_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsDivC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
+/** @} */
+
 /** @name Clear
  *  @{ */
 /**

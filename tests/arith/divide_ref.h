@@ -1,0 +1,84 @@
+// The definition of scaled quotients, one element at a time.
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "vlqs/types.h"
+
+namespace vlqtest {
+
+__extension__ typedef __int128 Exact;
+__extension__ typedef unsigned __int128 ExactMagnitude;
+
+template <class T>
+T clampFloatRef(long double v) {
+    constexpr long double low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+    return static_cast<T>(v < low ? low : v > high ? high : v);
+}
+
+inline long double roundRef(long double v, int mode) {
+    if (mode == vlqRndZero) return std::trunc(v);
+    if (mode == vlqRndNear) return std::nearbyint(v);
+    return std::round(v);
+}
+
+// What stands for a numerator over 0.
+template <class T, class N>
+T overZeroRef(N numerator) {
+    if (numerator == 0) return 0;
+    return numerator > 0 ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
+}
+
+// numerator / divisor * 2^-scaleFactor with the quotient rounded to F.
+template <class T, class F, class N, class D>
+T quotientRef(N numerator, D divisor, int mode, std::int32_t scaleFactor) {
+    if (divisor == 0) return overZeroRef<T>(numerator);
+    const F quotient = static_cast<F>(numerator) / static_cast<F>(divisor);
+    const int scale = scaleFactor > 500 ? 500 : scaleFactor < -500 ? -500 : scaleFactor;
+    return clampFloatRef<T>(roundRef(std::ldexp(static_cast<long double>(quotient), -scale), mode));
+}
+
+// The same quotient rounded exactly: numerator * 2^-scaleFactor / divisor to the nearest, ties to even,
+// stopped at the ends of T. Long division, a bit at a time.
+template <class T>
+T exactQuotientRef(Exact numerator, Exact divisor, std::int32_t scaleFactor) {
+    const bool negative = (numerator < 0) != (divisor < 0);
+    const ExactMagnitude n = static_cast<ExactMagnitude>(numerator < 0 ? -numerator : numerator);
+    ExactMagnitude d = static_cast<ExactMagnitude>(divisor < 0 ? -divisor : divisor);
+    const ExactMagnitude limit = static_cast<ExactMagnitude>(std::numeric_limits<T>::max()) + (negative && std::numeric_limits<T>::min() != 0);
+    if (n == 0 || (negative && std::numeric_limits<T>::min() == 0)) return 0;
+    if (scaleFactor > 0) {
+        if (scaleFactor > 64) return 0;  // numerators have up to 64 bits
+        d <<= scaleFactor;
+    }
+    ExactMagnitude quotient = n / d, rest = n % d;
+    for (std::int64_t left = -std::int64_t{scaleFactor}; left > 0 && quotient <= limit && (quotient != 0 || rest != 0); --left) {
+        quotient = 2 * quotient + (2 * rest >= d);
+        rest = 2 * rest >= d ? 2 * rest - d : 2 * rest;
+    }
+    if (2 * rest > d || (2 * rest == d && quotient % 2 == 1)) ++quotient;
+    if (quotient > limit) quotient = limit;
+    return static_cast<T>(negative ? -static_cast<Exact>(quotient) : static_cast<Exact>(quotient));
+}
+
+// numerator * (2^-scaleFactor / divisor) in single precision.
+template <class T>
+T timesReciprocalRef(T numerator, T divisor, std::int32_t scaleFactor) {
+    if (scaleFactor > 40) return 0;
+    if (scaleFactor < -40) return overZeroRef<T>(divisor < 0 ? -static_cast<int>(numerator) : static_cast<int>(numerator));
+    const float reciprocal = std::ldexp(1.0f, -scaleFactor) / static_cast<float>(divisor);
+    const float product = static_cast<float>(numerator) * reciprocal;
+    return clampFloatRef<T>(std::nearbyint(product));
+}
+
+// (c + di) / (a + bi), each part rounded exactly.
+inline Vlq16sc complexQuotientRef(Vlq16sc divisor, Vlq16sc numerator, std::int32_t scaleFactor) {
+    const Exact a = divisor.re, b = divisor.im, c = numerator.re, d = numerator.im;
+    if (a == 0 && b == 0) return {overZeroRef<Vlq16s>(numerator.re), overZeroRef<Vlq16s>(numerator.im)};
+    const int scale = scaleFactor > 60 ? 60 : scaleFactor;
+    return {exactQuotientRef<Vlq16s>(c * a + d * b, a * a + b * b, scale), exactQuotientRef<Vlq16s>(d * a - c * b, a * a + b * b, scale)};
+}
+
+}  // namespace vlqtest
