@@ -30,6 +30,7 @@ struct Sum {
     static Vec<T> half(Vec<T> a, Vec<T> b) {
         return meanUp(a, b) & ~((a ^ b) & Vec<T>::broadcast(1));
     }
+    // Bits that both have count whole, bits that one has count half.
     template <class T>
     static Halved<T> halved(Vec<T> a, Vec<T> b) {
         const auto odd = a ^ b;
@@ -65,6 +66,7 @@ struct Difference {
             else return floor + (up & ~(floor == Vec<T>::broadcast(std::numeric_limits<T>::max())));
         }
     }
+    // Half of all bits that differ, less those that only b has: they counted up and go down.
     template <class T>
     static Halved<T> halved(Vec<T> a, Vec<T> b) {
         if constexpr (std::is_unsigned_v<T>) {

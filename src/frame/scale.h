@@ -7,7 +7,8 @@
 // wider than a lane:
 //
 //     Scaling::None     dst = clamp(e)                  the family's saturating operation
-//     Scaling::Left     dst = clamp(clamp(e) * 2^n)     ScaleLeft, on the saturated result
+//     Scaling::Left     dst = clamp(clamp(e) * 2^n)     ScaleLeft, on the saturated result or, where
+//                                                       that is dear, on lower bits and sign
 //     Scaling::Half     one bit rounded off             the family's own trick, or RoundRight
 //     Scaling::Right    more bits rounded off           ScaleRight, on e split in half and odd
 //                                                       bit, or RoundRight, in wider lanes
