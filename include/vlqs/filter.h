@@ -12,8 +12,10 @@ VLQS_BEGIN_DECLS
 /** @name Records of FIR filters, opaque
  *  The first type is that of the taps, the second that of the samples; one type stands for both.
  *  @{ */
-typedef struct VlqsFIRState_32f VlqsFIRState_32f;       /**< float taps, float samples */
-typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s; /**< float taps, 16-bit samples */
+typedef struct VlqsFIRState_32f VlqsFIRState_32f;           /**< float taps, float samples */
+typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s;     /**< float taps, 16-bit samples */
+typedef struct VlqsFIRState_32fc VlqsFIRState_32fc;         /**< complex float taps and samples */
+typedef struct VlqsFIRState32fc_16sc VlqsFIRState32fc_16sc; /**< complex float taps, complex 16-bit samples */
 /** @} */
 
 /** @name FIR: records
@@ -37,8 +39,10 @@ typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s; /**< float taps, 16-bit 
  * #vlqStsBadSpec for a record of another kind. A transform that cannot be prepared, for want of
  * memory too, is no error: such a filter computes all blocks directly.
  *
- * **Memory.** `InitAlloc` allocates the record and, from 64 taps on, the record of a transform and
- * for the call the scratch of building it; `Free` releases both. A record of `Init` may be
+ * **Memory.** `InitAlloc` allocates the record and, where a transform is prepared, the record of the
+ * transform and for the call the scratch of building it; `Free` releases both. A transform is
+ * prepared from 64 taps on in single precision, from 32 on in double, from 16 on where they are
+ * complex. A record of `Init` may be
  * abandoned, `Free` leaves it as it is.
  *
  * @arg @c tapsLen    number of taps, at least 1
@@ -52,12 +56,20 @@ typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s; /**< float taps, 16-bit 
  */
 VlqStatus vlqsFIRGetStateSize_32f(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRGetStateSize32f_16s(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize_32fc(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize32fc_16sc(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRInit_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInit32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit32fc_16sc(VlqsFIRState32fc_16sc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInitAlloc_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine);
 VlqStatus vlqsFIRInitAlloc32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRInitAlloc_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine);
+VlqStatus vlqsFIRInitAlloc32fc_16sc(VlqsFIRState32fc_16sc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine);
 VlqStatus vlqsFIRFree_32f(VlqsFIRState_32f* state);
 VlqStatus vlqsFIRFree32f_16s(VlqsFIRState32f_16s* state);
+VlqStatus vlqsFIRFree_32fc(VlqsFIRState_32fc* state);
+VlqStatus vlqsFIRFree32fc_16sc(VlqsFIRState32fc_16sc* state);
 /** @} */
 
 /** @name FIR: taps and delay line
@@ -83,12 +95,20 @@ VlqStatus vlqsFIRFree32f_16s(VlqsFIRState32f_16s* state);
  */
 VlqStatus vlqsFIRSetTaps_32f(const Vlq32f* taps, VlqsFIRState_32f* state);
 VlqStatus vlqsFIRSetTaps32f_16s(const Vlq32f* taps, VlqsFIRState32f_16s* state);
+VlqStatus vlqsFIRSetTaps_32fc(const Vlq32fc* taps, VlqsFIRState_32fc* state);
+VlqStatus vlqsFIRSetTaps32fc_16sc(const Vlq32fc* taps, VlqsFIRState32fc_16sc* state);
 VlqStatus vlqsFIRGetTaps_32f(const VlqsFIRState_32f* state, Vlq32f* taps);
 VlqStatus vlqsFIRGetTaps32f_16s(const VlqsFIRState32f_16s* state, Vlq32f* taps);
+VlqStatus vlqsFIRGetTaps_32fc(const VlqsFIRState_32fc* state, Vlq32fc* taps);
+VlqStatus vlqsFIRGetTaps32fc_16sc(const VlqsFIRState32fc_16sc* state, Vlq32fc* taps);
 VlqStatus vlqsFIRSetDlyLine_32f(VlqsFIRState_32f* state, const Vlq32f* dlyLine);
 VlqStatus vlqsFIRSetDlyLine32f_16s(VlqsFIRState32f_16s* state, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRSetDlyLine_32fc(VlqsFIRState_32fc* state, const Vlq32fc* dlyLine);
+VlqStatus vlqsFIRSetDlyLine32fc_16sc(VlqsFIRState32fc_16sc* state, const Vlq16sc* dlyLine);
 VlqStatus vlqsFIRGetDlyLine_32f(const VlqsFIRState_32f* state, Vlq32f* dlyLine);
 VlqStatus vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dlyLine);
+VlqStatus vlqsFIRGetDlyLine_32fc(const VlqsFIRState_32fc* state, Vlq32fc* dlyLine);
+VlqStatus vlqsFIRGetDlyLine32fc_16sc(const VlqsFIRState32fc_16sc* state, Vlq16sc* dlyLine);
 /** @} */
 
 /** @name FIR: filtering
@@ -96,18 +116,19 @@ VlqStatus vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dly
 /**
  * `y[n] = sum over k of h[k] * x[n - k]`, x[n] for n below 0 from the delay line, which moves on: a
  * stream may be cut into calls, of blocks and of single samples (`One`), in any way. The `_Sfs` forms
- * store `saturate(round(y[n] * 2^-scaleFactor))`, round to nearest and to the even one of two equally
- * near; a sum that is not a number gives the top value.
+ * store `saturate(round(y[n] * 2^-scaleFactor))`, each part of a complex value for itself, round to
+ * nearest and to the even one of two equally near; a sum that is not a number gives the top value.
  *
- * **Accuracy.** Sums are formed in the type of the taps. A block of at least 512 samples through at
- * least 64 taps is computed by overlap-save with transforms of 2 to 4 times the number of taps, any
- * other directly; in place, where blocks of 4096 are taken, the samples left after a block must be
- * 512 for that block to be transformed, while the in-place `_Sfs` form goes by the whole length.
- * The paths differ in rounding. Results of the direct path do not depend on the cut into calls.
+ * **Accuracy.** Sums are formed in the type of the taps. A block of at least 512 samples, 256 where
+ * they are complex, through a record with a transform is computed by overlap-save with transforms of
+ * 2 to 4 times the number of taps, any other directly. In place and without a change of type, blocks
+ * of 4096 are taken, and the samples left after a block must be that many for the block to be
+ * transformed; the other in-place forms go by the whole length. The paths differ in rounding.
+ * Results of the direct path do not depend on the cut into calls.
  *
  * **Shapes.** @p src and @p dst have @p len elements and any alignment, and do not overlap.
  *
- * **Threads.** Blocks above 1600 samples are shared among the threads that the core library allows.
+ * **Threads.** Blocks above 1600 samples, 800 where they are complex, are shared among the threads that the core library allows.
  * Results do not depend on their number. One record serves one call at a time.
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null pointer, #vlqStsBadSize for @p len below 1,
@@ -130,8 +151,14 @@ VlqStatus vlqsFIR_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, VlqsFIRState_3
 VlqStatus vlqsFIR_32f_I(Vlq32f* srcDst, Vlq32s len, VlqsFIRState_32f* state);
 VlqStatus vlqsFIR32f_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState32f_16s* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIR32f_16s_ISfs(Vlq16s* srcDst, Vlq32s len, VlqsFIRState32f_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, VlqsFIRState_32fc* state);
+VlqStatus vlqsFIR_32fc_I(Vlq32fc* srcDst, Vlq32s len, VlqsFIRState_32fc* state);
+VlqStatus vlqsFIR32fc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32fc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne_32f(Vlq32f src, Vlq32f* dst, VlqsFIRState_32f* state);
 VlqStatus vlqsFIROne32f_16s_Sfs(Vlq16s src, Vlq16s* dst, VlqsFIRState32f_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne_32fc(Vlq32fc src, Vlq32fc* dst, VlqsFIRState_32fc* state);
+VlqStatus vlqsFIROne32fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor);
 /** @} */
 
 VLQS_END_DECLS

@@ -12,5 +12,18 @@ VlqStatus vlq::vlqsFIR32f_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vl
     return fir::filter(src, dst, len, state, scaleFactor);
 }
 VlqStatus vlq::vlqsFIR32f_16s_ISfs(Vlq16s* srcDst, Vlq32s len, VlqsFIRState32f_16s* state, Vlq32s scaleFactor) {
-    return fir::filterInPlace16(srcDst, len, state, scaleFactor);
+    return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
+}
+
+VlqStatus vlq::vlqsFIR_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, VlqsFIRState_32fc* state) {
+    return fir::filter(src, dst, len, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIR_32fc_I(Vlq32fc* srcDst, Vlq32s len, VlqsFIRState_32fc* state) {
+    return fir::filterInPlace(srcDst, len, state);
+}
+VlqStatus vlq::vlqsFIR32fc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor) {
+    return fir::filter(src, dst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR32fc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor) {
+    return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
 }

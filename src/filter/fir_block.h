@@ -154,23 +154,23 @@ VlqStatus filterInPlace(SampleOf<State>* srcDst, Vlq32s len, State* state) {
     return vlqStsOk;
 }
 
-// In place, 16-bit samples. The pieces of the direct path are widened before they are written over;
-// the transform path reads behind what it has written, so its results wait in the staging area,
-// which as 16-bit samples holds twice its count.
-template <class State>
-VlqStatus filterInPlace16(SampleOf<State>* srcDst, Vlq32s len, State* state, Vlq32s scaleFactor) {
+// In place, samples of a narrower type. The pieces of the direct path are widened before they are
+// written over; the transform path reads behind what it has written, so its results wait in the
+// staging area, which holds at least twice its count of such samples.
+template <class State, class Scale>
+VlqStatus filterNarrowInPlace(SampleOf<State>* srcDst, Vlq32s len, State* state, Scale scale) {
     if (!srcDst || !state) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (!isSingleRate(*state)) return vlqStsBadSpec;
     using E = typename State::Element;
     if (len < Shape<E>::kTransformLen || state->fftLen < 0) {
-        directPieces(*state, srcDst, srcDst, len, scaleFactor);
+        directPieces(*state, srcDst, srcDst, len, scale);
         return vlqStsOk;
     }
     auto* staging = reinterpret_cast<SampleOf<State>*>(state->blockBuf.get());
     while (len > 0) {
         const Vlq32s block = std::min(len, 2 * Shape<E>::kBlockBuf);
-        const VlqStatus status = overlapSave(*state, srcDst, staging, block, scaleFactor);
+        const VlqStatus status = overlapSave(*state, srcDst, staging, block, scale);
         if (status != vlqStsOk) return status;
         copySamples(staging, srcDst, block);
         srcDst += block;

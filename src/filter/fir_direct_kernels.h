@@ -31,6 +31,14 @@ inline constexpr int kTileVectors = kVecBytes == 64 ? 12 : kVecBytes == 32 ? 5 :
 template <class T>
 inline constexpr int kReplicas = 16 / static_cast<int>(sizeof(T));
 
+// A tap into the table at `wide`; answers the place of the next.
+template <class T>
+    requires std::is_floating_point_v<T>
+inline T* writeWide(T* wide, T tap) {
+    for (int copy = 0; copy < kReplicas<T>; ++copy) *wide++ = tap;
+    return wide;
+}
+
 template <class T>
 inline T read(const T* p) {
     T value;

@@ -22,6 +22,7 @@ inline T laneSum(Vec<T, Bytes> v) {
 // register and the few before it are taken singly: the calls before have only just stored them,
 // and a vector load across a fresh store waits for the cache.
 template <class T>
+    requires std::is_floating_point_v<T>
 inline T windowSum(const T* x, T newest, const T* g, int n) {
     // Wider vectors gain nothing here: they take longer to sum up and to wait for.
     using Wide = Vec<T, kVecBytes == 16 ? 16 : 32>;

@@ -34,3 +34,30 @@ VlqStatus vlq::vlqsFIRSetDlyLine32f_16s(VlqsFIRState32f_16s* state, const Vlq16s
 
 VlqStatus vlq::vlqsFIRGetDlyLine_32f(const VlqsFIRState_32f* state, Vlq32f* dlyLine) { return fir::getDelayLine(state, dlyLine); }
 VlqStatus vlq::vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRGetStateSize_32fc(Vlq32s tapsLen, Vlq32s* stateBytes) {
+    return fir::stateSize<Vlq32fc>(tapsLen, stateBytes);
+}
+VlqStatus vlq::vlqsFIRInit_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree_32fc(VlqsFIRState_32fc* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps_32fc(const Vlq32fc* taps, VlqsFIRState_32fc* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps_32fc(const VlqsFIRState_32fc* state, Vlq32fc* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine_32fc(VlqsFIRState_32fc* state, const Vlq32fc* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine_32fc(const VlqsFIRState_32fc* state, Vlq32fc* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRInit32fc_16sc(VlqsFIRState32fc_16sc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc32fc_16sc(VlqsFIRState32fc_16sc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree32fc_16sc(VlqsFIRState32fc_16sc* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps32fc_16sc(const Vlq32fc* taps, VlqsFIRState32fc_16sc* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps32fc_16sc(const VlqsFIRState32fc_16sc* state, Vlq32fc* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine32fc_16sc(VlqsFIRState32fc_16sc* state, const Vlq16sc* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine32fc_16sc(const VlqsFIRState32fc_16sc* state, Vlq16sc* dlyLine) { return fir::getDelayLine(state, dlyLine); }

@@ -5,7 +5,9 @@
 #include <cstddef>
 #include <new>
 
+#include "filter/fir_direct_complex_kernels.h"
 #include "filter/fir_direct_kernels.h"
+#include "filter/fir_element.h"
 #include "filter/fir_shape.h"
 #include "frame/record.h"
 #include "vlqs/core.h"
@@ -46,6 +48,7 @@ struct Record {
     Vlq32s spare[Shape<E>::kSpareWords];
 };
 static_assert(sizeof(Record<Vlq32f>) == Shape<Vlq32f>::kHeaderBytes);
+static_assert(sizeof(Record<Vlq32fc>) == Shape<Vlq32fc>::kHeaderBytes);
 static_assert(offsetof(Record<Vlq32f>, fftSpec) == 32 && offsetof(Record<Vlq32f>, ownsMemory) == 92);
 
 // Sizes of one record: functions of the tap count and of the thread count.
@@ -69,16 +72,21 @@ struct Plan {
     Vlq64s fftLen() const { return order < 0 ? 0 : Vlq64s{1} << order; }
     Vlq64s blockBytes() const { return roundUp(fftLen() * element, 16); }
     Vlq64s tapBytes() const { return roundUp(tapsLen * element, 16); }
+    // Room for two delay lines and the first chunk of a block, from a boundary to a boundary.
+    Vlq64s delayStoreBytes() const { return roundDown(delayStoreShare(), alignment); }
 
-    // Alignment of the record itself comes out of the rounding of the delay store's share.
+    // Alignment of the record itself comes out of the rounding of the delay store's share, and of
+    // the slack.
     Vlq64s bytes() const {
-        return tapBytes() + roundUp(12 * Vlq64s{tapsLen} + 31, 16) + kReplicas<E> * tapBytes() +
+        return tapBytes() + roundUp(delayStoreShare(), 16) + Shape<E>::tapsWideBytes(tapBytes()) +
                roundUp(4 * Vlq64s{threads}, 16) + specBytes + initBytes + blockBytes() + Shape<E>::kHeaderBytes +
-               Shape<E>::kBlockBuf * element + threads * (workBytes + blockBytes() + 16);
+               Shape<E>::kBlockBuf * element + Shape<E>::kAlignmentSlack + threads * (workBytes + blockBytes() + 16);
     }
 
 private:
     static constexpr Vlq64s element = sizeof(E);
+    static constexpr Vlq64s alignment = Shape<E>::kAlignment;
+    Vlq64s delayStoreShare() const { return (3 * Vlq64s{tapsLen} + 4) * element + alignment - 1; }
 };
 
 // The words a state answers to, and the samples it takes.
@@ -104,9 +112,9 @@ void writeTaps(Record<E>& record, const Tap* taps) {
     E* reversed = record.taps;
     E* wide = record.tapsWide;
     for (Vlq32s k = 0; k < len; ++k) {
-        const E tap = static_cast<E>(read(taps + k));
+        const E tap = convertTo<E>(read(taps + k));
         reversed[len - 1 - k] = tap;
-        for (int copy = 0; copy < kReplicas<E>; ++copy) *wide++ = tap;
+        wide = writeWide(wide, tap);
     }
 }
 
@@ -127,7 +135,7 @@ void writeDelayLine(Record<E>& record, const Sample* dlyLine) {
     const Vlq32s len = record.dlyLen;
     E* oldest = record.dlyLine;
     record.dlyIndex = 0;
-    for (Vlq32s i = 0; i < len; ++i) oldest[i] = dlyLine ? static_cast<E>(read(dlyLine + (len - 1 - i))) : E{};
+    for (Vlq32s i = 0; i < len; ++i) oldest[i] = dlyLine ? convertTo<E>(read(dlyLine + (len - 1 - i))) : E{};
 }
 
 // Where a record and the parts of its transform begin in a block.
@@ -155,15 +163,15 @@ Block<State> layOut(void* memory, const Plan<typename State::Element>& plan) {
     state.idCtx = Kind<State>::kWord;
 
     state.taps = cursor.take<E>(len);
-    state.dlyLine = reinterpret_cast<E*>(cursor.take<char>(Shape<E>::delayStoreBytes(len), alignment));
-    state.tapsWide = cursor.take<E>(kReplicas<E> * len, alignment);
+    state.dlyLine = reinterpret_cast<E*>(cursor.take<char>(plan.delayStoreBytes(), alignment));
+    state.tapsWide = reinterpret_cast<E*>(cursor.take<char>(Shape<E>::tapsWideBytes(len * sizeof(E)), 16));
     state.threadStatus = cursor.take<VlqStatus>(plan.threads, alignment);
     if (plan.order >= 0) {
         constexpr Vlq64s slack = 64;
         block.specMemory = cursor.take<Vlq8u>(plan.specBytes - slack, 64);
         block.specScratch = cursor.take<Vlq8u>(plan.initBytes, 64);
         state.tapsSpectrum = cursor.take<E>(plan.fftLen(), 64);
-        state.fftBuf = cursor.take<Vlq8u>(Vlq64s{plan.threads} * plan.workBytes - slack, 64);
+        if (plan.workBytes > 0) state.fftBuf = cursor.take<Vlq8u>(Vlq64s{plan.threads} * plan.workBytes - slack, 64);
         state.fftWork = cursor.take<E>(Vlq64s{plan.threads} * plan.fftLen(), 64);
         state.fftBufSize = plan.workBytes;
         state.fftLen = static_cast<Vlq32s>(plan.fftLen());
@@ -265,7 +273,7 @@ VlqStatus getTaps(const State* state, Tap* taps) {
     if (!state || !taps) return vlqStsNullPtr;
     if (!isFilter(*state)) return vlqStsBadSpec;
     const auto* reversed = state->taps.get();
-    for (Vlq32s k = 0; k < state->tapsLen; ++k) write(taps + k, static_cast<Tap>(reversed[state->tapsLen - 1 - k]));
+    for (Vlq32s k = 0; k < state->tapsLen; ++k) write(taps + k, convertTo<Tap>(reversed[state->tapsLen - 1 - k]));
     return vlqStsOk;
 }
 
@@ -284,7 +292,7 @@ VlqStatus getDelayLine(const State* state, SampleOf<State>* dlyLine) {
     const auto* oldest = state->dlyLine + state->dlyIndex;
     const Vlq32s len = state->dlyLen;
     // The store holds nothing but widened samples: the cast is exact.
-    for (Vlq32s i = 0; i < len; ++i) write(dlyLine + i, static_cast<SampleOf<State>>(oldest[len - 1 - i]));
+    for (Vlq32s i = 0; i < len; ++i) write(dlyLine + i, convertTo<SampleOf<State>>(oldest[len - 1 - i]));
     return vlqStsOk;
 }
 
@@ -302,6 +310,8 @@ struct Words {
 
 struct vlq::VlqsFIRState_32f : vlq::fir::Record<Vlq32f> {};
 struct vlq::VlqsFIRState32f_16s : vlq::fir::Record<Vlq32f> {};
+struct vlq::VlqsFIRState_32fc : vlq::fir::Record<Vlq32fc> {};
+struct vlq::VlqsFIRState32fc_16sc : vlq::fir::Record<Vlq32fc> {};
 
 namespace vlq::fir {
 
@@ -312,6 +322,14 @@ struct Kind<VlqsFIRState_32f> : Words<0x46493031, 0x46493033, 0x46493333, 0x4649
 template <>
 struct Kind<VlqsFIRState32f_16s> : Words<0x46493035, 0x46493037> {
     using Sample = Vlq16s;
+};
+template <>
+struct Kind<VlqsFIRState_32fc> : Words<0x46493032, 0x46493034> {
+    using Sample = Vlq32fc;
+};
+template <>
+struct Kind<VlqsFIRState32fc_16sc> : Words<0x46493036, 0x46493038> {
+    using Sample = Vlq16sc;
 };
 
 }  // namespace vlq::fir

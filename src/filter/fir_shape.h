@@ -3,32 +3,51 @@
 // that taps and delay line are held in.
 #pragma once
 
+#include "vlqs/arith.h"
 #include "vlqs/fourier.h"
 
 namespace vlq::fir {
+
+struct RealShape {
+    static constexpr Vlq32s kTransformLen = 512;    // samples a call from which a transform is used
+    static constexpr Vlq32s kThreadedAbove = 1600;  // samples that one thread takes alone
+    static constexpr Vlq32s kBlockBuf = 4096;       // elements of the staging area
+
+    // Outputs made from the delay store before a long block is read in place, and the samples
+    // that go into the store for them.
+    static constexpr Vlq32s seamOutputs(Vlq32s tapsLen) { return (tapsLen + 3) & ~3; }
+    static constexpr Vlq32s firstChunk(Vlq32s tapsLen) { return seamOutputs(tapsLen) + 1; }
+};
+
+struct ComplexShape {
+    static constexpr Vlq32s kTransformLen = 256;
+    static constexpr Vlq32s kThreadedAbove = 800;
+    static constexpr Vlq32s kBlockBuf = 4096;
+
+    static constexpr Vlq32s seamOutputs(Vlq32s tapsLen) { return (tapsLen + 3) & ~3; }
+    static constexpr Vlq32s firstChunk(Vlq32s tapsLen) { return seamOutputs(tapsLen); }
+};
+
+struct SinglePrecision {
+    static constexpr int kAlignment = 16;
+    static constexpr Vlq64s kHeaderBytes = 112;
+    static constexpr Vlq32s kSpareWords = 2;
+    // A record whose new taps could not be transformed: whether it goes on by the direct path. One
+    // that does not must not be filtered any more.
+    static constexpr bool kLeavesTransformPath = false;
+};
 
 template <class E>
 struct Shape;
 
 // Real float.
 template <>
-struct Shape<Vlq32f> {
+struct Shape<Vlq32f> : RealShape, SinglePrecision {
     using Spec = VlqsFFTSpec_R_32f;
 
-    static constexpr Vlq32s kTransformTaps = 64;   // a transform is prepared from this many taps,
-    static constexpr Vlq32s kTransformLen = 512;   // and used from this many samples a call
-    static constexpr Vlq32s kThreadedAbove = 1600;  // samples that one thread takes alone
-    static constexpr Vlq32s kBlockBuf = 4096;       // elements of the staging area
-    static constexpr int kAlignment = 16;
-    static constexpr Vlq64s kHeaderBytes = 112;
-    static constexpr Vlq32s kSpareWords = 2;
-
-    // Outputs made from the delay store before a long block is read in place, and the samples
-    // that go into the store for them.
-    static constexpr Vlq32s seamOutputs(Vlq32s tapsLen) { return (tapsLen + 3) & ~3; }
-    static constexpr Vlq32s firstChunk(Vlq32s tapsLen) { return seamOutputs(tapsLen) + 1; }
-
-    static constexpr Vlq64s delayStoreBytes(Vlq64s tapsLen) { return (12 * tapsLen + 31) & ~Vlq64s{15}; }
+    static constexpr Vlq32s kTransformTaps = 64;  // a transform is prepared from this many taps
+    static constexpr Vlq64s tapsWideBytes(Vlq64s tapBytes) { return 4 * tapBytes; }
+    static constexpr Vlq64s kAlignmentSlack = 0;
 
     static VlqStatus transformSize(Vlq32s order, Vlq32s* spec, Vlq32s* init, Vlq32s* work) {
         return vlqsFFTGetSize_R_32f(order, vlqNormInvByN, vlqHintNone, spec, init, work);
@@ -50,9 +69,38 @@ struct Shape<Vlq32f> {
     static VlqStatus multiplySpectra(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len) {
         return vlqsMulPerm_32f_I(src, srcDst, len);
     }
-    // A record whose new taps could not be transformed: whether it goes on by the direct path. One
-    // that does not must not be filtered any more.
-    static constexpr bool kLeavesTransformPath = false;
+};
+
+// Complex float.
+template <>
+struct Shape<Vlq32fc> : ComplexShape, SinglePrecision {
+    using Spec = VlqsFFTSpec_C_32fc;
+
+    static constexpr Vlq32s kTransformTaps = 16;  // a transform is prepared from this many taps
+    // The table of the direct kernels, and room for two rows of taps and twelve elements.
+    static constexpr Vlq64s tapsWideBytes(Vlq64s tapBytes) { return 6 * tapBytes + 48; }
+    static constexpr Vlq64s kAlignmentSlack = 0;
+
+    static VlqStatus transformSize(Vlq32s order, Vlq32s* spec, Vlq32s* init, Vlq32s* work) {
+        return vlqsFFTGetSize_C_32fc(order, vlqNormInvByN, vlqHintNone, spec, init, work);
+    }
+    static VlqStatus makeTransform(Spec** spec, Vlq32s order, Vlq8u* memory, Vlq8u* scratch) {
+        return vlqsFFTInit_C_32fc(spec, order, vlqNormInvByN, vlqHintNone, memory, scratch);
+    }
+    static VlqStatus allocateTransform(Spec** spec, Vlq32s order) {
+        return vlqsFFTInitAlloc_C_32fc(spec, order, vlqNormInvByN, vlqHintNone);
+    }
+    static VlqStatus freeTransform(Spec* spec) { return vlqsFFTFree_C_32fc(spec); }
+
+    static VlqStatus forward(const Vlq32fc* src, Vlq32fc* dst, const Spec* spec, Vlq8u* work) {
+        return vlqsFFTFwd_CToC_32fc(src, dst, spec, work);
+    }
+    static VlqStatus inverse(const Vlq32fc* src, Vlq32fc* dst, const Spec* spec, Vlq8u* work) {
+        return vlqsFFTInv_CToC_32fc(src, dst, spec, work);
+    }
+    static VlqStatus multiplySpectra(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len) {
+        return vlqsMul_32fc_I(src, srcDst, len);
+    }
 };
 
 }  // namespace vlq::fir

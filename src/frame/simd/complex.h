@@ -56,6 +56,19 @@ inline Vec<T> broadcastPair(T re, T im) {
     return load(pairs);
 }
 
+// The 16 bytes at p, which stand on a boundary of 16, over the whole vector.
+template <class T>
+inline Vec<T> repeatAligned16(const T* p) {
+    const __m128i v = asInt(loadAligned<T, 16>(p));
+#if VLQ_SIMD_BYTES == 16
+    return fromRegister<T>(v);
+#elif VLQ_SIMD_BYTES == 32
+    return fromRegister<T>(_mm256_broadcastsi128_si256(v));
+#else
+    return fromRegister<T>(_mm512_broadcast_i32x4(v));
+#endif
+}
+
 // Each value twice, in memory order: a vector of reals meets one of complex values.
 #if VLQ_SIMD_BYTES == 16
 inline Block<float, 2> twice(Vec<float> v) {
