@@ -13,6 +13,8 @@ VLQS_BEGIN_DECLS
  *  @{ */
 typedef struct VlqsFFTSpec_C_32fc VlqsFFTSpec_C_32fc; /**< interleaved single precision */
 typedef struct VlqsFFTSpec_C_32f VlqsFFTSpec_C_32f;   /**< single precision, parts in two arrays */
+typedef struct VlqsFFTSpec_C_64fc VlqsFFTSpec_C_64fc; /**< interleaved double precision */
+typedef struct VlqsFFTSpec_C_64f VlqsFFTSpec_C_64f;   /**< double precision, parts in two arrays */
 /** @} */
 
 /** Record of the real power-of-two transform in single precision, opaque. */
@@ -27,15 +29,15 @@ typedef struct VlqsFFTSpec_R_32f VlqsFFTSpec_R_32f;
  *
  * **Normalisation.** @p flag says which direction is multiplied, and by what:
  * #vlqNormFwdByN (forward by 1/N), #vlqNormInvByN (inverse by 1/N), #vlqNormBySqrtN (both by
- * 1/sqrt(N), taken from the processor's estimate and refined once: good to about 22 bits), or
- * #vlqNormNone.
+ * 1/sqrt(N); in single precision taken from the processor's estimate and refined once: good to
+ * about 22 bits), or #vlqNormNone.
  *
- * **Shapes.** @p order is 0 to 28. The memory may begin at any address: the sizes contain the slack
+ * **Shapes.** @p order is 0 to 28 in single precision, 0 to 27 in double. The memory may begin at any address: the sizes contain the slack
  * to align it. A size of 0 means that the pointer may be null. The scratch of `Init` is free again
  * when the call returns. A record cannot be copied or moved. @p hint is kept and has no effect.
  *
  * **Errors** of `GetSize`, in this order: #vlqStsBadOrder for an order that is negative or above 30,
- * #vlqStsNullPtr for a null size, #vlqStsBadFlag, #vlqStsBadOrder for an order above 28. Of `Init`:
+ * #vlqStsNullPtr for a null size, #vlqStsBadFlag, #vlqStsBadOrder above the largest order. Of `Init`:
  * #vlqStsNullPtr for @p outSpec, #vlqStsBadOrder, #vlqStsNullPtr for @p specMem, #vlqStsBadFlag,
  * #vlqStsNullPtr for @p initBuf from order 11. Of `InitAlloc`: #vlqStsNullPtr for @p outSpec, those
  * of `GetSize`, #vlqStsNoMemory. Of `GetBufSize` and `Free`: #vlqStsNullPtr for the record or the
@@ -67,6 +69,16 @@ VlqStatus vlqsFFTGetBufSize_C_32fc(const VlqsFFTSpec_C_32fc* spec, Vlq32s* bufBy
 VlqStatus vlqsFFTGetBufSize_C_32f(const VlqsFFTSpec_C_32f* spec, Vlq32s* bufBytes);
 VlqStatus vlqsFFTFree_C_32fc(VlqsFFTSpec_C_32fc* spec);
 VlqStatus vlqsFFTFree_C_32f(VlqsFFTSpec_C_32f* spec);
+VlqStatus vlqsFFTGetSize_C_64fc(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTGetSize_C_64f(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_C_64fc(VlqsFFTSpec_C_64fc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInit_C_64f(VlqsFFTSpec_C_64f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_C_64fc(VlqsFFTSpec_C_64fc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTInitAlloc_C_64f(VlqsFFTSpec_C_64f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_C_64fc(const VlqsFFTSpec_C_64fc* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTGetBufSize_C_64f(const VlqsFFTSpec_C_64f* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_C_64fc(VlqsFFTSpec_C_64fc* spec);
+VlqStatus vlqsFFTFree_C_64f(VlqsFFTSpec_C_64f* spec);
 /** @} */
 
 /** @name Complex FFT
@@ -111,6 +123,14 @@ VlqStatus vlqsFFTFwd_CToC_32f(const Vlq32f* srcRe, const Vlq32f* srcIm, Vlq32f* 
 VlqStatus vlqsFFTFwd_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTInv_CToC_32f(const Vlq32f* srcRe, const Vlq32f* srcIm, Vlq32f* dstRe, Vlq32f* dstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTInv_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_64fc(const Vlq64fc* src, Vlq64fc* dst, const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_64fc_I(Vlq64fc* srcDst, const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_64fc(const Vlq64fc* src, Vlq64fc* dst, const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_64fc_I(Vlq64fc* srcDst, const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_64f(const Vlq64f* srcRe, const Vlq64f* srcIm, Vlq64f* dstRe, Vlq64f* dstIm, const VlqsFFTSpec_C_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_64f_I(Vlq64f* srcDstRe, Vlq64f* srcDstIm, const VlqsFFTSpec_C_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_64f(const Vlq64f* srcRe, const Vlq64f* srcIm, Vlq64f* dstRe, Vlq64f* dstIm, const VlqsFFTSpec_C_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_64f_I(Vlq64f* srcDstRe, Vlq64f* srcDstIm, const VlqsFFTSpec_C_64f* spec, Vlq8u* buf);
 /** @} */
 
 /** @name Real transforms of 2^order points: records

@@ -6,6 +6,8 @@
 // The split kinds have the interleaved record under a word of their own.
 struct vlq::VlqsFFTSpec_C_32fc : vlq::fft::FloatingRecord<Vlq32f> {};
 struct vlq::VlqsFFTSpec_C_32f : vlq::fft::FloatingRecord<Vlq32f> {};
+struct vlq::VlqsFFTSpec_C_64fc : vlq::fft::FloatingRecord<Vlq64f> {};
+struct vlq::VlqsFFTSpec_C_64f : vlq::fft::FloatingRecord<Vlq64f> {};
 
 namespace {
 
@@ -25,6 +27,8 @@ struct ComplexKind {
 };
 using C_32fc = ComplexKind<VlqsFFTSpec_C_32fc, Vlq32f, 4>;
 using C_32f = ComplexKind<VlqsFFTSpec_C_32f, Vlq32f, 5>;
+using C_64fc = ComplexKind<VlqsFFTSpec_C_64fc, Vlq64f, 7>;
+using C_64f = ComplexKind<VlqsFFTSpec_C_64f, Vlq64f, 8>;
 
 constexpr bool isScaled(const auto& spec, Direction direction) {
     return (direction == Direction::forward ? spec.doFwdScale : spec.doInvScale) != 0;
@@ -109,4 +113,58 @@ VlqStatus vlq::vlqsFFTInv_CToC_32f(const Vlq32f* srcRe, const Vlq32f* srcIm, Vlq
 }
 VlqStatus vlq::vlqsFFTInv_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const VlqsFFTSpec_C_32f* spec, Vlq8u* buf) {
     return split<C_32f, Direction::inverse>(srcDstRe, srcDstIm, srcDstRe, srcDstIm, spec, buf);
+}
+
+VlqStatus vlq::vlqsFFTGetSize_C_64fc(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s* specBytes, Vlq32s* initBytes,
+                                     Vlq32s* workBytes) {
+    return getSize<C_64fc>(order, flag, specBytes, initBytes, workBytes);
+}
+VlqStatus vlq::vlqsFFTInit_C_64fc(VlqsFFTSpec_C_64fc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
+                                  Vlq8u* specMem, Vlq8u* initBuf) {
+    return init<C_64fc>(outSpec, order, flag, hint, specMem, initBuf);
+}
+VlqStatus vlq::vlqsFFTInit_C_64f(VlqsFFTSpec_C_64f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem,
+                                 Vlq8u* initBuf) {
+    return init<C_64f>(outSpec, order, flag, hint, specMem, initBuf);
+}
+VlqStatus vlq::vlqsFFTInitAlloc_C_64fc(VlqsFFTSpec_C_64fc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+    return initAlloc<C_64fc>(outSpec, order, flag, hint);
+}
+VlqStatus vlq::vlqsFFTInitAlloc_C_64f(VlqsFFTSpec_C_64f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+    return initAlloc<C_64f>(outSpec, order, flag, hint);
+}
+VlqStatus vlq::vlqsFFTGetBufSize_C_64fc(const VlqsFFTSpec_C_64fc* spec, Vlq32s* bufBytes) {
+    return getBufSize<C_64fc>(spec, bufBytes);
+}
+VlqStatus vlq::vlqsFFTGetBufSize_C_64f(const VlqsFFTSpec_C_64f* spec, Vlq32s* bufBytes) {
+    return getBufSize<C_64f>(spec, bufBytes);
+}
+VlqStatus vlq::vlqsFFTFree_C_64fc(VlqsFFTSpec_C_64fc* spec) { return release<C_64fc>(spec); }
+VlqStatus vlq::vlqsFFTFree_C_64f(VlqsFFTSpec_C_64f* spec) { return release<C_64f>(spec); }
+
+VlqStatus vlq::vlqsFFTFwd_CToC_64fc(const Vlq64fc* src, Vlq64fc* dst, const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf) {
+    return interleaved<C_64fc, Direction::forward>(src, dst, spec, buf);
+}
+VlqStatus vlq::vlqsFFTFwd_CToC_64fc_I(Vlq64fc* srcDst, const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf) {
+    return interleaved<C_64fc, Direction::forward>(srcDst, srcDst, spec, buf);
+}
+VlqStatus vlq::vlqsFFTInv_CToC_64fc(const Vlq64fc* src, Vlq64fc* dst, const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf) {
+    return interleaved<C_64fc, Direction::inverse>(src, dst, spec, buf);
+}
+VlqStatus vlq::vlqsFFTInv_CToC_64fc_I(Vlq64fc* srcDst, const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf) {
+    return interleaved<C_64fc, Direction::inverse>(srcDst, srcDst, spec, buf);
+}
+VlqStatus vlq::vlqsFFTFwd_CToC_64f(const Vlq64f* srcRe, const Vlq64f* srcIm, Vlq64f* dstRe, Vlq64f* dstIm,
+                                   const VlqsFFTSpec_C_64f* spec, Vlq8u* buf) {
+    return split<C_64f, Direction::forward>(srcRe, srcIm, dstRe, dstIm, spec, buf);
+}
+VlqStatus vlq::vlqsFFTFwd_CToC_64f_I(Vlq64f* srcDstRe, Vlq64f* srcDstIm, const VlqsFFTSpec_C_64f* spec, Vlq8u* buf) {
+    return split<C_64f, Direction::forward>(srcDstRe, srcDstIm, srcDstRe, srcDstIm, spec, buf);
+}
+VlqStatus vlq::vlqsFFTInv_CToC_64f(const Vlq64f* srcRe, const Vlq64f* srcIm, Vlq64f* dstRe, Vlq64f* dstIm,
+                                   const VlqsFFTSpec_C_64f* spec, Vlq8u* buf) {
+    return split<C_64f, Direction::inverse>(srcRe, srcIm, dstRe, dstIm, spec, buf);
+}
+VlqStatus vlq::vlqsFFTInv_CToC_64f_I(Vlq64f* srcDstRe, Vlq64f* srcDstIm, const VlqsFFTSpec_C_64f* spec, Vlq8u* buf) {
+    return split<C_64f, Direction::inverse>(srcDstRe, srcDstIm, srcDstRe, srcDstIm, spec, buf);
 }

@@ -58,37 +58,34 @@ struct Sizes {
     bool operator==(const Sizes&) const = default;
 };
 
-// Sizes of a record with its tables, scratch and work buffer, single precision.
-inline Sizes complexSizes32(int order) {
-    auto down64 = [](std::int64_t x) { return x / 64 * 64; };
-    const std::int64_t n = std::int64_t{1} << order;
-    if (order <= 5) return {148, 0, 0};
-    const std::int64_t reversal = down64(n + 67);
-    const std::int64_t init = order <= 10 ? 0 : reversal + 64;
-    if (order <= 15) return {down64(8 * n + 71) + reversal + 192, init, down64(8 * n + 63) + 64};
+// How the large orders are cut: outer bits and columns of a tile, as powers of two.
+struct Cut {
+    int outer, columns;
+};
+inline Cut cutOf(bool single, int order) {
+    if (single) return order == 16 ? Cut{4, 5} : order <= 18 ? Cut{4, 6} : order <= 21 ? Cut{6, 7} : Cut{8, 6};
+    return order <= 15 ? Cut{4, 4} : order <= 17 ? Cut{4, 6} : order == 18 ? Cut{6, 6} : order == 19 ? Cut{6, 7} : Cut{8, 5};
+}
 
-    struct Plan { int a, h, w; };
-    auto plan = [](int p) -> Plan {
-        switch (p) {
-            case 16: return {4, 12, 5};
-            case 17: return {4, 13, 6};
-            case 18: return {4, 14, 6};
-            case 19: return {6, 13, 7};
-            case 20: return {6, 14, 7};
-            case 21: return {6, 15, 7};
-            default: return {8, p - 8, 6};
-        }
-    };
-    std::int64_t spec = order == 16 ? reversal : 4 * (std::int64_t{1} << (order - 12)) + 4160;
-    std::int64_t work = order >= 17 ? 0x10000 : 0;
-    int level = order;
-    for (; level > 15; level = plan(level).h) {
-        spec += 8 * (std::int64_t{1} << (level - 1));
-        work = std::max(work, 8 * (std::int64_t{1} << (plan(level).a + plan(level).w)));
+// Sizes of a record with its tables, scratch and work buffer, for elements of `element` bytes.
+inline Sizes complexSizes(std::size_t element, int order) {
+    const bool single = element == 4;
+    auto down64 = [](std::int64_t x) { return x / 64 * 64; };
+    if (order <= 5) return {single ? 148 : 152, 0, 0};
+    const std::int64_t n = std::int64_t{1} << order, value = single ? 8 : 16, slack = single ? 71 : 79;
+    const int inCache = single ? 15 : 13, plain = single ? 16 : 15, tile = single ? 6 : 5;
+    std::int64_t spec = order <= plain ? down64(n + 67) : (std::int64_t{4} << (order - 2 * tile)) + (single ? 4160 : 1088);
+    std::int64_t work = order <= plain ? 0 : single ? 0x10000 : 0x8000;
+    int row = order;
+    while (row > inCache) {
+        const Cut cut = cutOf(single, row);
+        spec += value << (row - 1);
+        work = std::max(work, value << (cut.outer + cut.columns));
+        row -= cut.outer;
     }
-    const std::int64_t row = std::int64_t{1} << level;
-    spec += down64(8 * row + 71);
-    work = std::max(work, down64(8 * row + 63));
+    spec += down64((value << row) + slack);
+    work = std::max(work, down64((value << row) + 63));
+    const std::int64_t init = order <= 10 ? 0 : single ? down64(n + 67) + 64 : down64(8 * (n / 4) + 71) + 64;
     return {spec + 192, init, work + 64};
 }
 

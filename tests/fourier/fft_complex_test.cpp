@@ -13,23 +13,58 @@ namespace {
 using namespace vlqtest;
 
 constexpr Vlq32s kFlags[] = {vlqNormFwdByN, vlqNormInvByN, vlqNormBySqrtN, vlqNormNone};
-constexpr int kLargest = 28;
 
 // First words of a record, for tests that look at the memory they gave.
+template <class T>
 struct Head {
     Vlq32s ident, order, doFwdScale, doInvScale;
-    Vlq32f normFactor;
+    T normFactor;
     Vlq32s hint, workBytes, owned;
 };
-template <class Spec>
-Head headOf(const Spec* spec) {
-    Head head;
-    std::memcpy(&head, static_cast<const void*>(spec), sizeof head);
+template <class Kind>
+Head<typename Kind::Element> headOf(const void* spec) {
+    Head<typename Kind::Element> head;
+    std::memcpy(&head, spec, sizeof head);
     return head;
 }
 
-// The two kinds under one set of names.
-struct Interleaved {
+// What differs between the precisions: unit is half a unit in the last place of 1, rootError how far
+// a reciprocal root may be off.
+struct Single {
+    using Element = Vlq32f;
+    static constexpr int largest = 28;
+    static constexpr double unit = 0x1p-24, rootError = 0x1p-22;
+    static constexpr double eightPoint = 0x1.6a09e8p-1;
+};
+struct Double {
+    using Element = Vlq64f;
+    static constexpr int largest = 27;
+    static constexpr double unit = 0x1p-53, rootError = 0x1p-52;
+    static constexpr double eightPoint = 0.70710678118654752440;
+};
+
+// The data of the two forms. Vectors hold whole values, or the real parts and then the imaginary
+// parts.
+template <class T>
+struct InterleavedData {
+    static std::vector<T> fromParts(const std::vector<T>& parts) {
+        std::vector<T> v(parts.size());
+        for (std::size_t i = 0; i < parts.size() / 2; ++i) {
+            v[2 * i] = parts[i];
+            v[2 * i + 1] = parts[parts.size() / 2 + i];
+        }
+        return v;
+    }
+    static Extended at(const std::vector<T>& v, std::size_t i) { return {v[2 * i], v[2 * i + 1]}; }
+};
+template <class T>
+struct SplitData {
+    static std::vector<T> fromParts(const std::vector<T>& parts) { return parts; }
+    static Extended at(const std::vector<T>& v, std::size_t i) { return {v[i], v[v.size() / 2 + i]}; }
+};
+
+// The kinds under one set of names.
+struct Interleaved32 : Single, InterleavedData<Vlq32f> {
     using Spec = VlqsFFTSpec_C_32fc;
     static constexpr Vlq32s word = 4;
     static constexpr auto getSize = vlqsFFTGetSize_C_32fc;
@@ -37,24 +72,14 @@ struct Interleaved {
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32fc;
     static constexpr auto getBufSize = vlqsFFTGetBufSize_C_32fc;
     static constexpr auto free = vlqsFFTFree_C_32fc;
-    // x and y hold the real parts, then the imaginary parts.
-    static VlqStatus transform(bool forward, const Vlq32f* x, Vlq32f* y, const Spec* spec, Vlq8u* buf, int) {
+    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec, Vlq8u* buf, int) {
         const auto* src = reinterpret_cast<const Vlq32fc*>(x);
         auto* dst = reinterpret_cast<Vlq32fc*>(y);
         if (x == y) return forward ? vlqsFFTFwd_CToC_32fc_I(dst, spec, buf) : vlqsFFTInv_CToC_32fc_I(dst, spec, buf);
         return forward ? vlqsFFTFwd_CToC_32fc(src, dst, spec, buf) : vlqsFFTInv_CToC_32fc(src, dst, spec, buf);
     }
-    static std::vector<Vlq32f> fromParts(const std::vector<Vlq32f>& parts) {
-        std::vector<Vlq32f> v(parts.size());
-        for (std::size_t i = 0; i < parts.size() / 2; ++i) {
-            v[2 * i] = parts[i];
-            v[2 * i + 1] = parts[parts.size() / 2 + i];
-        }
-        return v;
-    }
-    static std::complex<long double> at(const std::vector<Vlq32f>& v, std::size_t i) { return {v[2 * i], v[2 * i + 1]}; }
 };
-struct Split {
+struct Split32 : Single, SplitData<Vlq32f> {
     using Spec = VlqsFFTSpec_C_32f;
     static constexpr Vlq32s word = 5;
     static constexpr auto getSize = vlqsFFTGetSize_C_32f;
@@ -62,14 +87,42 @@ struct Split {
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32f;
     static constexpr auto getBufSize = vlqsFFTGetBufSize_C_32f;
     static constexpr auto free = vlqsFFTFree_C_32f;
-    static VlqStatus transform(bool forward, const Vlq32f* x, Vlq32f* y, const Spec* spec, Vlq8u* buf, int order) {
+    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec, Vlq8u* buf, int order) {
         const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
         if (x == y) return forward ? vlqsFFTFwd_CToC_32f_I(y, y + n, spec, buf) : vlqsFFTInv_CToC_32f_I(y, y + n, spec, buf);
         return forward ? vlqsFFTFwd_CToC_32f(x, x + n, y, y + n, spec, buf)
                        : vlqsFFTInv_CToC_32f(x, x + n, y, y + n, spec, buf);
     }
-    static std::vector<Vlq32f> fromParts(const std::vector<Vlq32f>& parts) { return parts; }
-    static std::complex<long double> at(const std::vector<Vlq32f>& v, std::size_t i) { return {v[i], v[v.size() / 2 + i]}; }
+};
+struct Interleaved64 : Double, InterleavedData<Vlq64f> {
+    using Spec = VlqsFFTSpec_C_64fc;
+    static constexpr Vlq32s word = 7;
+    static constexpr auto getSize = vlqsFFTGetSize_C_64fc;
+    static constexpr auto init = vlqsFFTInit_C_64fc;
+    static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64fc;
+    static constexpr auto getBufSize = vlqsFFTGetBufSize_C_64fc;
+    static constexpr auto free = vlqsFFTFree_C_64fc;
+    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec, Vlq8u* buf, int) {
+        const auto* src = reinterpret_cast<const Vlq64fc*>(x);
+        auto* dst = reinterpret_cast<Vlq64fc*>(y);
+        if (x == y) return forward ? vlqsFFTFwd_CToC_64fc_I(dst, spec, buf) : vlqsFFTInv_CToC_64fc_I(dst, spec, buf);
+        return forward ? vlqsFFTFwd_CToC_64fc(src, dst, spec, buf) : vlqsFFTInv_CToC_64fc(src, dst, spec, buf);
+    }
+};
+struct Split64 : Double, SplitData<Vlq64f> {
+    using Spec = VlqsFFTSpec_C_64f;
+    static constexpr Vlq32s word = 8;
+    static constexpr auto getSize = vlqsFFTGetSize_C_64f;
+    static constexpr auto init = vlqsFFTInit_C_64f;
+    static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64f;
+    static constexpr auto getBufSize = vlqsFFTGetBufSize_C_64f;
+    static constexpr auto free = vlqsFFTFree_C_64f;
+    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec, Vlq8u* buf, int order) {
+        const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
+        if (x == y) return forward ? vlqsFFTFwd_CToC_64f_I(y, y + n, spec, buf) : vlqsFFTInv_CToC_64f_I(y, y + n, spec, buf);
+        return forward ? vlqsFFTFwd_CToC_64f(x, x + n, y, y + n, spec, buf)
+                       : vlqsFFTInv_CToC_64f(x, x + n, y, y + n, spec, buf);
+    }
 };
 
 template <class Kind>
@@ -78,7 +131,7 @@ protected:
     void SetUp() override { Core::reset(); }
     void TearDown() override { EXPECT_EQ(0, Core::outstanding()); }
 };
-using Kinds = ::testing::Types<Interleaved, Split>;
+using Kinds = ::testing::Types<Interleaved32, Split32, Interleaved64, Split64>;
 TYPED_TEST_SUITE(FftComplex, Kinds);
 
 template <class Kind>
@@ -91,7 +144,7 @@ public:
 
 // Relative error in the 2-norm.
 template <class Kind>
-double errorOf(const std::vector<Vlq32f>& got, const std::vector<Extended>& want) {
+double errorOf(const std::vector<typename Kind::Element>& got, const std::vector<Extended>& want) {
     long double difference = 0, norm = 0;
     for (std::size_t i = 0; i < want.size(); ++i) {
         difference += std::norm(Kind::at(got, i) - want[i]);
@@ -102,17 +155,18 @@ double errorOf(const std::vector<Vlq32f>& got, const std::vector<Extended>& want
 
 TYPED_TEST(FftComplex, AgreesWithTheDefinition) {
     using Kind = TypeParam;
+    using T = typename Kind::Element;
     Rng rng(seed());
     for (int order = 0; order <= 19; ++order) {
         const std::size_t n = std::size_t{1} << order;
-        const auto x = Kind::fromParts(uniformVector<Vlq32f>(2 * n, -1, 1, rng));
+        const auto x = Kind::fromParts(uniformVector<T>(2 * n, -1, 1, rng));
         std::vector<Extended> exact(n);
         for (std::size_t i = 0; i < n; ++i) exact[i] = Kind::at(x, i);
         const Record<Kind> record(order, vlqNormNone);
-        const double bound = order == 0 ? 0 : 0.75 * std::sqrt(order) * 0x1p-24;
+        const double bound = order == 0 ? 0 : 0.75 * std::sqrt(order) * Kind::unit;
         for (const bool forward : {true, false}) {
             const auto want = dft(exact, forward ? -1 : 1);
-            std::vector<Vlq32f> y(2 * n);
+            std::vector<T> y(2 * n);
             ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
             EXPECT_LE(errorOf<Kind>(y, want), bound) << "order " << order << (forward ? " forward" : " inverse");
         }
@@ -122,10 +176,11 @@ TYPED_TEST(FftComplex, AgreesWithTheDefinition) {
 // Where the reference would take long: the transform of a few impulses is a sum of as many roots.
 TYPED_TEST(FftComplex, ImpulsesAtLargeOrders) {
     using Kind = TypeParam;
+    using T = typename Kind::Element;
     for (int order = 16; order <= 23; ++order) {
         const std::size_t n = std::size_t{1} << order;
         const std::size_t at[] = {1, n / 2 + 3 * (n >> 9) + 77, n - 5};
-        std::vector<Vlq32f> parts(2 * n), y(2 * n);
+        std::vector<T> parts(2 * n), y(2 * n);
         for (const std::size_t i : at) parts[i] = 1;
         const auto x = Kind::fromParts(parts);
         const Record<Kind> record(order, vlqNormNone);
@@ -133,33 +188,34 @@ TYPED_TEST(FftComplex, ImpulsesAtLargeOrders) {
         for (std::size_t k = 0; k < n; k += k % 1024 == 1023 ? n / 64 + 1 : 1) {
             Extended want;
             for (const std::size_t i : at) want += unitRoot(i * k % n, n, -1);
-            ASSERT_LE(static_cast<double>(std::abs(Kind::at(y, k) - want)), 2e-6) << "order " << order << " value " << k;
+            ASSERT_LE(static_cast<double>(std::abs(Kind::at(y, k) - want)), 32 * Kind::unit) << "order " << order << " value " << k;
         }
     }
 }
 
 TYPED_TEST(FftComplex, NormalisesAndReturns) {
     using Kind = TypeParam;
+    using T = typename Kind::Element;
     Rng rng(seed());
     for (const int order : {0, 1, 2, 3, 4, 5, 6, 7, 10, 11, 14, 15, 16, 17, 19, 20}) {
         const std::size_t n = std::size_t{1} << order;
-        const auto x = uniformVector<Vlq32f>(2 * n, -1, 1, rng);
+        const auto x = uniformVector<T>(2 * n, -1, 1, rng);
         const Record<Kind> plain(order, vlqNormNone);
         for (const Vlq32s flag : kFlags) {
             const Record<Kind> record(order, flag);
-            const Head head = headOf(record.spec);
-            std::vector<Vlq32f> unscaled(2 * n), y(2 * n), z(2 * n);
+            const auto head = headOf<Kind>(record.spec);
+            std::vector<T> unscaled(2 * n), y(2 * n), z(2 * n);
             for (const bool forward : {true, false}) {
                 ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), unscaled.data(), plain.spec, nullptr, order));
                 ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
                 const bool scaled = forward ? head.doFwdScale : head.doInvScale;
-                double worst = 0;
+                long double worst = 0;
                 for (std::size_t i = 0; i < 2 * n; ++i) {
-                    const double want = scaled ? double{unscaled[i]} * double{head.normFactor} : double{unscaled[i]};
-                    worst = std::max(worst, std::abs(y[i] - want));
+                    const long double factor = scaled ? head.normFactor : 1;
+                    worst = std::max(worst, std::abs(y[i] - unscaled[i] * factor));
                 }
                 const double level = std::sqrt(static_cast<double>(n)) * (scaled ? double{head.normFactor} : 1);
-                EXPECT_LE(worst, scaled ? 4e-6 * level : 0) << "order " << order << " flag " << flag;
+                EXPECT_LE(worst, scaled ? 64 * Kind::unit * level : 0) << "order " << order << " flag " << flag;
             }
             // Forward and back: the input again, or N times it without normalisation.
             ASSERT_EQ(vlqStsOk, Kind::transform(true, x.data(), y.data(), record.spec, nullptr, order));
@@ -167,8 +223,8 @@ TYPED_TEST(FftComplex, NormalisesAndReturns) {
             std::vector<Extended> want(n);
             const long double factor = flag == vlqNormNone ? static_cast<long double>(n) : 1;
             for (std::size_t i = 0; i < n; ++i) want[i] = factor * Kind::at(x, i);
-            const double estimate = flag == vlqNormBySqrtN ? 0x1p-21 : 0;  // of the reciprocal root, twice
-            EXPECT_LE(errorOf<Kind>(z, want), 2 * 0.75 * std::sqrt(std::max(order, 1)) * 0x1p-24 + estimate)
+            const double estimate = flag == vlqNormBySqrtN ? 2 * Kind::rootError : 0;  // of the reciprocal root, twice
+            EXPECT_LE(errorOf<Kind>(z, want), 2 * 0.75 * std::sqrt(std::max(order, 1)) * Kind::unit + estimate)
                 << "order " << order << " flag " << flag;
         }
     }
@@ -176,47 +232,47 @@ TYPED_TEST(FftComplex, NormalisesAndReturns) {
 
 TYPED_TEST(FftComplex, OrderZeroCopiesExactly) {
     using Kind = TypeParam;
-    const std::vector<Vlq32f> x = {0x1.234568p-3f, -0.0f};
+    using T = typename Kind::Element;
+    const std::vector<T> x = {T(0x1.23456789abcdfp-3), T(-0.0)};
     for (const Vlq32s flag : {vlqNormNone, vlqNormFwdByN}) {
         const Record<Kind> record(0, flag);
-        std::vector<Vlq32f> y(2);
+        std::vector<T> y(2);
         ASSERT_EQ(vlqStsOk, Kind::transform(true, x.data(), y.data(), record.spec, nullptr, 0));
-        EXPECT_EQ(0, std::memcmp(x.data(), y.data(), 8));
+        EXPECT_EQ(0, std::memcmp(x.data(), y.data(), 2 * sizeof(T)));
     }
 }
 
 TYPED_TEST(FftComplex, EightPointFactor) {
     using Kind = TypeParam;
+    using T = typename Kind::Element;
     const Record<Kind> record(3, vlqNormNone);
-    std::vector<Vlq32f> parts(16), y(16);
+    std::vector<T> parts(16), y(16);
     parts[1] = 1;
     ASSERT_EQ(vlqStsOk, Kind::transform(true, Kind::fromParts(parts).data(), y.data(), record.spec, nullptr, 3));
-    const Vlq32f factor = static_cast<Vlq32f>(Kind::at(y, 1).real());
-    Vlq32u word;
-    std::memcpy(&word, &factor, 4);
-    EXPECT_EQ(0x3F3504F4u, word);
+    EXPECT_EQ(Kind::eightPoint, static_cast<double>(Kind::at(y, 1).real()));
 }
 
 // In place or not, at any address, with any buffer: the same bits, nothing else touched.
 TYPED_TEST(FftComplex, PlacementDoesNotMatter) {
     using Kind = TypeParam;
+    using T = typename Kind::Element;
     Rng rng(seed());
     for (int order = 0; order <= 20; ++order) {
         const std::size_t n = std::size_t{1} << order;
-        const std::vector<Vlq32f> x = uniformVector<Vlq32f>(2 * n, -1, 1, rng);
+        const std::vector<T> x = uniformVector<T>(2 * n, -1, 1, rng);
         const Record<Kind> record(order, vlqNormBySqrtN);
         Vlq32s workBytes = -1;
         ASSERT_EQ(vlqStsOk, Kind::getBufSize(record.spec, &workBytes));
         for (const bool forward : {true, false}) {
-            std::vector<Vlq32f> want(2 * n);
+            std::vector<T> want(2 * n);
             ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), want.data(), record.spec, nullptr, order));
             const Placement places[][3] = {{{0}, {0}, {0}},        {{4}, {0}, {1}},  {{0}, {4}, {8}}, {{8}, {16}, {63}},
                                            {{1}, {3}, {5}},        {{63}, {33}, {7}},
                                            {{0, true}, {0, true}, {0, true}}};
             for (const auto& place : places) {
                 if (order > 17 && place[0].offset == 63) continue;
-                const Buffer<Vlq32f> src(x, place[0]);
-                Buffer<Vlq32f> dst(2 * n, place[1]);
+                const Buffer<T> src(x, place[0]);
+                Buffer<T> dst(2 * n, place[1]);
                 Buffer<Vlq8u> work(static_cast<std::size_t>(workBytes), place[2]);
                 Vlq8u* buf = workBytes ? work.data() : nullptr;
                 ASSERT_EQ(vlqStsOk, Kind::transform(forward, src.data(), dst.data(), record.spec, buf, order));
@@ -234,12 +290,13 @@ TYPED_TEST(FftComplex, PlacementDoesNotMatter) {
 
 TYPED_TEST(FftComplex, Sizes) {
     using Kind = TypeParam;
-    for (int order = 0; order <= kLargest; ++order) {
+    using T = typename Kind::Element;
+    for (int order = 0; order <= Kind::largest; ++order) {
         for (const Vlq32s flag : kFlags) {
             for (const VlqHint hint : {0, 1, 2}) {
                 Vlq32s spec = -1, init = -1, work = -1;
                 ASSERT_EQ(vlqStsOk, Kind::getSize(order, flag, hint, &spec, &init, &work));
-                EXPECT_TRUE((Sizes{spec, init, work} == complexSizes32(order))) << "order " << order;
+                EXPECT_TRUE((Sizes{spec, init, work} == complexSizes(sizeof(T), order))) << "order " << order;
             }
         }
     }
@@ -248,8 +305,9 @@ TYPED_TEST(FftComplex, Sizes) {
 // A record and its scratch at every kind of address, between protected pages.
 TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
     using Kind = TypeParam;
+    using T = typename Kind::Element;
     for (int order = 0; order <= 21; ++order) {
-        const Sizes sizes = complexSizes32(order);
+        const Sizes sizes = complexSizes(sizeof(T), order);
         const Placement places[] = {{0}, {1}, {63}, {16}, {0, true}};
         for (const Placement place : places) {
             if (order > 18 && place.offset > 1) continue;
@@ -263,7 +321,7 @@ TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
             const auto address = reinterpret_cast<std::uintptr_t>(spec), given = reinterpret_cast<std::uintptr_t>(memory.data());
             EXPECT_EQ(0u, address % 64);
             EXPECT_LT(address - given, 64u);
-            const Head head = headOf(spec);
+            const auto head = headOf<Kind>(spec);
             EXPECT_EQ(Kind::word, head.ident);
             EXPECT_EQ(order, head.order);
             EXPECT_EQ(vlqHintAccurate, head.hint);
@@ -273,7 +331,7 @@ TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
             EXPECT_EQ(vlqStsOk, Kind::getBufSize(spec, &bytes));
             EXPECT_EQ(sizes.work, bytes);
             EXPECT_EQ(vlqStsOk, Kind::free(spec));
-            EXPECT_EQ(0, headOf(spec).ident);
+            EXPECT_EQ(0, headOf<Kind>(spec).ident);
             EXPECT_EQ(vlqStsBadSpec, Kind::free(spec));
         }
     }
@@ -281,16 +339,17 @@ TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
 
 TYPED_TEST(FftComplex, Flags) {
     using Kind = TypeParam;
+    using T = typename Kind::Element;
     for (const int order : {0, 5, 6, 11, 16}) {
-        const float n = static_cast<float>(std::int64_t{1} << order);
+        const T n = static_cast<T>(std::int64_t{1} << order);
         for (const Vlq32s flag : kFlags) {
             const Record<Kind> record(order, flag);
-            const Head head = headOf(record.spec);
+            const auto head = headOf<Kind>(record.spec);
             EXPECT_EQ(flag == vlqNormFwdByN || flag == vlqNormBySqrtN, head.doFwdScale);
             EXPECT_EQ(flag == vlqNormInvByN || flag == vlqNormBySqrtN, head.doInvScale);
             EXPECT_EQ(1, head.owned);
-            if (flag == vlqNormNone) EXPECT_EQ(0.0f, head.normFactor);
-            else if (flag == vlqNormBySqrtN) EXPECT_NEAR(1, head.normFactor * std::sqrt(n), 0x1p-21);
+            if (flag == vlqNormNone) EXPECT_EQ(T(0), head.normFactor);
+            else if (flag == vlqNormBySqrtN) EXPECT_NEAR(1, head.normFactor * std::sqrt(n), 2 * Kind::rootError);
             else EXPECT_EQ(1 / n, head.normFactor);
         }
     }
@@ -300,13 +359,13 @@ TYPED_TEST(FftComplex, PlanningChecks) {
     using Kind = TypeParam;
     Vlq32s a = 7, b = 7, c = 7;
     for (const Vlq32s order : {-1, 31, 1000}) EXPECT_EQ(vlqStsBadOrder, Kind::getSize(order, 3, 0, nullptr, nullptr, nullptr));
-    for (const Vlq32s order : {0, 28, 29, 30}) {
+    for (const Vlq32s order : {0, Kind::largest, Kind::largest + 1, 30}) {
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, nullptr, &b, &c));
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, &a, nullptr, &c));
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, &a, &b, nullptr));
         for (const Vlq32s flag : {0, 3, 5, 6, 7, 9, -1, 16}) EXPECT_EQ(vlqStsBadFlag, Kind::getSize(order, flag, 0, &a, &b, &c));
     }
-    EXPECT_EQ(vlqStsBadOrder, Kind::getSize(29, 1, 0, &a, &b, &c));
+    EXPECT_EQ(vlqStsBadOrder, Kind::getSize(Kind::largest + 1, 1, 0, &a, &b, &c));
     EXPECT_EQ(vlqStsBadOrder, Kind::getSize(30, 8, 0, &a, &b, &c));
     EXPECT_TRUE(a == 7 && b == 7 && c == 7);
 
@@ -314,14 +373,14 @@ TYPED_TEST(FftComplex, PlanningChecks) {
     typename Kind::Spec* spec = nullptr;
     EXPECT_EQ(vlqStsNullPtr, Kind::init(nullptr, -1, 3, 0, nullptr, nullptr));
     EXPECT_EQ(vlqStsBadOrder, Kind::init(&spec, -1, 3, 0, nullptr, nullptr));
-    EXPECT_EQ(vlqStsBadOrder, Kind::init(&spec, 29, 3, 0, nullptr, nullptr));
+    EXPECT_EQ(vlqStsBadOrder, Kind::init(&spec, Kind::largest + 1, 3, 0, nullptr, nullptr));
     EXPECT_EQ(vlqStsNullPtr, Kind::init(&spec, 11, 3, 0, nullptr, nullptr));
     std::memset(memory, 0xFF, sizeof memory);
     EXPECT_EQ(vlqStsBadFlag, Kind::init(&spec, 11, 3, 0, memory, nullptr));
-    EXPECT_EQ(0, headOf(memory).ident);
+    EXPECT_EQ(0, headOf<Kind>(memory).ident);
     std::memset(memory, 0xFF, sizeof memory);
     EXPECT_EQ(vlqStsNullPtr, Kind::init(&spec, 11, 1, 0, memory, nullptr));
-    EXPECT_EQ(0, headOf(memory).ident);
+    EXPECT_EQ(0, headOf<Kind>(memory).ident);
     EXPECT_EQ(nullptr, spec);
     EXPECT_EQ(vlqStsOk, Kind::init(&spec, 10, 1, 0, memory, nullptr));
     EXPECT_EQ(vlqStsOk, Kind::init(&spec, 11, 1, 0, memory, scratch));
@@ -329,8 +388,8 @@ TYPED_TEST(FftComplex, PlanningChecks) {
     EXPECT_EQ(vlqStsNullPtr, Kind::initAlloc(nullptr, -1, 3, 0));
     typename Kind::Spec* none = nullptr;
     EXPECT_EQ(vlqStsBadOrder, Kind::initAlloc(&none, 31, 3, 0));
-    EXPECT_EQ(vlqStsBadFlag, Kind::initAlloc(&none, 29, 3, 0));
-    EXPECT_EQ(vlqStsBadOrder, Kind::initAlloc(&none, 29, 1, 0));
+    EXPECT_EQ(vlqStsBadFlag, Kind::initAlloc(&none, Kind::largest + 1, 3, 0));
+    EXPECT_EQ(vlqStsBadOrder, Kind::initAlloc(&none, Kind::largest + 1, 1, 0));
     EXPECT_EQ(vlqStsBadOrder, Kind::initAlloc(&none, -1, 1, 0));
     EXPECT_EQ(nullptr, none);
     EXPECT_EQ(0, Core::allocations());
@@ -346,6 +405,7 @@ TYPED_TEST(FftComplex, PlanningChecks) {
 
 TYPED_TEST(FftComplex, AllocationFailures) {
     using Kind = TypeParam;
+    using T = typename Kind::Element;
     for (const int order : {0, 5, 6, 10, 11, 16}) {
         const int blocks = order > 10 ? 2 : 1;
         typename Kind::Spec* spec = nullptr;
@@ -361,8 +421,8 @@ TYPED_TEST(FftComplex, AllocationFailures) {
         EXPECT_EQ(1, Core::outstanding());
 
         const std::size_t n = std::size_t{1} << order;
-        const std::vector<Vlq32f> x(2 * n, 1.0f);
-        Buffer<Vlq32f> y(2 * n);
+        const std::vector<T> x(2 * n, 1.0f);
+        Buffer<T> y(2 * n);
         Core::reset();
         if (order > 5) {
             Core::refuseAllocation(1);
@@ -378,53 +438,63 @@ TYPED_TEST(FftComplex, AllocationFailures) {
     }
 }
 
-TEST(FftComplexChecks, Interleaved) {
-    const Record<Interleaved> record(6, 8);
-    const Record<Split> other(6, 8);
-    Vlq32fc v[64] = {};
-    for (const bool forward : {true, false}) {
-        auto call = forward ? vlqsFFTFwd_CToC_32fc : vlqsFFTInv_CToC_32fc;
-        auto callInPlace = forward ? vlqsFFTFwd_CToC_32fc_I : vlqsFFTInv_CToC_32fc_I;
-        const auto* foreign = reinterpret_cast<const VlqsFFTSpec_C_32fc*>(other.spec);
-        EXPECT_EQ(vlqStsNullPtr, call(nullptr, nullptr, nullptr, nullptr));
-        EXPECT_EQ(vlqStsBadSpec, call(nullptr, nullptr, foreign, nullptr));
-        EXPECT_EQ(vlqStsBadSpec, call(v, v, foreign, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, call(nullptr, v, record.spec, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, call(v, nullptr, record.spec, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, callInPlace(nullptr, record.spec, nullptr));
-        EXPECT_EQ(vlqStsBadSpec, callInPlace(nullptr, foreign, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, callInPlace(v, nullptr, nullptr));
-    }
+// The checks of a call: a foreign record is one of the other form.
+template <class Value, class Spec, class Other>
+void checkInterleaved(VlqStatus (*call)(const Value*, Value*, const Spec*, Vlq8u*),
+                      VlqStatus (*callInPlace)(Value*, const Spec*, Vlq8u*), const Spec* spec, const Other* other) {
+    Value v[64] = {};
+    const auto* foreign = reinterpret_cast<const Spec*>(other);
+    EXPECT_EQ(vlqStsNullPtr, call(nullptr, nullptr, nullptr, nullptr));
+    EXPECT_EQ(vlqStsBadSpec, call(nullptr, nullptr, foreign, nullptr));
+    EXPECT_EQ(vlqStsBadSpec, call(v, v, foreign, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, call(nullptr, v, spec, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, call(v, nullptr, spec, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, callInPlace(nullptr, spec, nullptr));
+    EXPECT_EQ(vlqStsBadSpec, callInPlace(nullptr, foreign, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, callInPlace(v, nullptr, nullptr));
+}
+template <class T, class Spec, class Other>
+void checkSplit(VlqStatus (*call)(const T*, const T*, T*, T*, const Spec*, Vlq8u*),
+                VlqStatus (*callInPlace)(T*, T*, const Spec*, Vlq8u*), const Spec* spec, const Other* other) {
+    T v[128] = {};
+    const auto* foreign = reinterpret_cast<const Spec*>(other);
+    EXPECT_EQ(vlqStsNullPtr, call(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr));
+    EXPECT_EQ(vlqStsBadSpec, call(nullptr, nullptr, nullptr, nullptr, foreign, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, call(nullptr, v, v, v + 64, spec, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, call(v, nullptr, v, v + 64, spec, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, call(v, v + 64, nullptr, v, spec, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, call(v, v + 64, v, nullptr, spec, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, callInPlace(nullptr, v, spec, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, callInPlace(v, nullptr, spec, nullptr));
+    EXPECT_EQ(vlqStsBadSpec, callInPlace(v, v + 64, foreign, nullptr));
 }
 
-TEST(FftComplexChecks, Split) {
-    const Record<Split> record(6, 8);
-    const Record<Interleaved> other(6, 8);
-    Vlq32f v[128] = {};
-    for (const bool forward : {true, false}) {
-        auto call = forward ? vlqsFFTFwd_CToC_32f : vlqsFFTInv_CToC_32f;
-        auto callInPlace = forward ? vlqsFFTFwd_CToC_32f_I : vlqsFFTInv_CToC_32f_I;
-        const auto* foreign = reinterpret_cast<const VlqsFFTSpec_C_32f*>(other.spec);
-        EXPECT_EQ(vlqStsNullPtr, call(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr));
-        EXPECT_EQ(vlqStsBadSpec, call(nullptr, nullptr, nullptr, nullptr, foreign, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, call(nullptr, v, v, v + 64, record.spec, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, call(v, nullptr, v, v + 64, record.spec, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, call(v, v + 64, nullptr, v, record.spec, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, call(v, v + 64, v, nullptr, record.spec, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, callInPlace(nullptr, v, record.spec, nullptr));
-        EXPECT_EQ(vlqStsNullPtr, callInPlace(v, nullptr, record.spec, nullptr));
-        EXPECT_EQ(vlqStsBadSpec, callInPlace(v, v + 64, foreign, nullptr));
-    }
+TEST(FftComplexChecks, Transforms) {
+    const Record<Interleaved32> c32fc(6, 8);
+    const Record<Split32> c32f(6, 8);
+    const Record<Interleaved64> c64fc(6, 8);
+    const Record<Split64> c64f(6, 8);
+    checkInterleaved(vlqsFFTFwd_CToC_32fc, vlqsFFTFwd_CToC_32fc_I, c32fc.spec, c32f.spec);
+    checkInterleaved(vlqsFFTInv_CToC_32fc, vlqsFFTInv_CToC_32fc_I, c32fc.spec, c64fc.spec);
+    checkInterleaved(vlqsFFTFwd_CToC_64fc, vlqsFFTFwd_CToC_64fc_I, c64fc.spec, c64f.spec);
+    checkInterleaved(vlqsFFTInv_CToC_64fc, vlqsFFTInv_CToC_64fc_I, c64fc.spec, c32fc.spec);
+    checkSplit(vlqsFFTFwd_CToC_32f, vlqsFFTFwd_CToC_32f_I, c32f.spec, c32fc.spec);
+    checkSplit(vlqsFFTInv_CToC_32f, vlqsFFTInv_CToC_32f_I, c32f.spec, c64f.spec);
+    checkSplit(vlqsFFTFwd_CToC_64f, vlqsFFTFwd_CToC_64f_I, c64f.spec, c64fc.spec);
+    checkSplit(vlqsFFTInv_CToC_64f, vlqsFFTInv_CToC_64f_I, c64f.spec, c32f.spec);
 }
 
-TEST(FftComplexChecks, DeadRecord) {
+TYPED_TEST(FftComplex, DeadRecord) {
+    using Kind = TypeParam;
+    using T = typename Kind::Element;
     alignas(64) Vlq8u memory[256] = {};
-    VlqsFFTSpec_C_32fc* spec = nullptr;
-    ASSERT_EQ(vlqStsOk, vlqsFFTInit_C_32fc(&spec, 5, 8, 0, memory, nullptr));
-    Vlq32fc v[32] = {};
-    EXPECT_EQ(vlqStsOk, vlqsFFTFwd_CToC_32fc_I(v, spec, nullptr));
-    ASSERT_EQ(vlqStsOk, vlqsFFTFree_C_32fc(spec));
-    EXPECT_EQ(vlqStsBadSpec, vlqsFFTFwd_CToC_32fc_I(v, spec, nullptr));
+    typename Kind::Spec* spec = nullptr;
+    ASSERT_EQ(vlqStsOk, Kind::init(&spec, 5, 8, 0, memory, nullptr));
+    T v[64] = {};
+    EXPECT_EQ(vlqStsOk, Kind::transform(true, v, v, spec, nullptr, 5));
+    ASSERT_EQ(vlqStsOk, Kind::free(spec));
+    EXPECT_EQ(vlqStsBadSpec, Kind::transform(true, v, v, spec, nullptr, 5));
+    EXPECT_EQ(vlqStsBadSpec, Kind::transform(false, v, v, spec, nullptr, 5));
 }
 
 }  // namespace

@@ -42,5 +42,13 @@ template void splitTransform<Vlq32f, Direction::forward>(int, const FloatingReco
                                                          const Vlq32f*, Vlq32f*, Vlq32f*, void*, bool);
 template void splitTransform<Vlq32f, Direction::inverse>(int, const FloatingRecord<Vlq32f>&, const Vlq32f*,
                                                          const Vlq32f*, Vlq32f*, Vlq32f*, void*, bool);
+template void complexTransform<Vlq64f, Direction::forward>(int, const FloatingRecord<Vlq64f>&, const Vlq64f*, Vlq64f*,
+                                                           void*, bool);
+template void complexTransform<Vlq64f, Direction::inverse>(int, const FloatingRecord<Vlq64f>&, const Vlq64f*, Vlq64f*,
+                                                           void*, bool);
+template void splitTransform<Vlq64f, Direction::forward>(int, const FloatingRecord<Vlq64f>&, const Vlq64f*,
+                                                         const Vlq64f*, Vlq64f*, Vlq64f*, void*, bool);
+template void splitTransform<Vlq64f, Direction::inverse>(int, const FloatingRecord<Vlq64f>&, const Vlq64f*,
+                                                         const Vlq64f*, Vlq64f*, Vlq64f*, void*, bool);
 
 }  // namespace vlq::fft

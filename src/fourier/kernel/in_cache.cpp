@@ -61,5 +61,11 @@ template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, InverseIn<Vlq
                                InverseOut<Vlq32f>, bool);
 template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, Parts<const Vlq32f>, Planes<Vlq32f>, Planes<Vlq32f>,
                                Parts<Vlq32f>, bool);
+template void inCacheTransform(int, const FloatingRecord<Vlq64f>&, ForwardIn<Vlq64f>, Blocks<Vlq64f>, Blocks<Vlq64f>,
+                               ForwardOut<Vlq64f>, bool);
+template void inCacheTransform(int, const FloatingRecord<Vlq64f>&, InverseIn<Vlq64f>, Blocks<Vlq64f>, Blocks<Vlq64f>,
+                               InverseOut<Vlq64f>, bool);
+template void inCacheTransform(int, const FloatingRecord<Vlq64f>&, Parts<const Vlq64f>, Planes<Vlq64f>, Planes<Vlq64f>,
+                               Parts<Vlq64f>, bool);
 
 }  // namespace vlq::fft

@@ -16,5 +16,11 @@ template void largeTransform(int, const FloatingRecord<Vlq32f>&, InverseIn<Vlq32
                              Vlq32f*, bool, bool);
 template void largeTransform(int, const FloatingRecord<Vlq32f>&, Parts<const Vlq32f>, Planes<Vlq32f>, Parts<Vlq32f>,
                              Vlq32f*, bool, bool);
+template void largeTransform(int, const FloatingRecord<Vlq64f>&, ForwardIn<Vlq64f>, Blocks<Vlq64f>, ForwardOut<Vlq64f>,
+                             Vlq64f*, bool, bool);
+template void largeTransform(int, const FloatingRecord<Vlq64f>&, InverseIn<Vlq64f>, Blocks<Vlq64f>, InverseOut<Vlq64f>,
+                             Vlq64f*, bool, bool);
+template void largeTransform(int, const FloatingRecord<Vlq64f>&, Parts<const Vlq64f>, Planes<Vlq64f>, Parts<Vlq64f>,
+                             Vlq64f*, bool, bool);
 
 }  // namespace vlq::fft

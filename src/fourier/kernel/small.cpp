@@ -19,5 +19,8 @@ void smallTransform(int order, const FloatingRecord<T>& record, In src, Out dst,
 template void smallTransform(int, const FloatingRecord<Vlq32f>&, ForwardIn<Vlq32f>, ForwardOut<Vlq32f>, bool);
 template void smallTransform(int, const FloatingRecord<Vlq32f>&, InverseIn<Vlq32f>, InverseOut<Vlq32f>, bool);
 template void smallTransform(int, const FloatingRecord<Vlq32f>&, Parts<const Vlq32f>, Parts<Vlq32f>, bool);
+template void smallTransform(int, const FloatingRecord<Vlq64f>&, ForwardIn<Vlq64f>, ForwardOut<Vlq64f>, bool);
+template void smallTransform(int, const FloatingRecord<Vlq64f>&, InverseIn<Vlq64f>, InverseOut<Vlq64f>, bool);
+template void smallTransform(int, const FloatingRecord<Vlq64f>&, Parts<const Vlq64f>, Parts<Vlq64f>, bool);
 
 }  // namespace vlq::fft

@@ -62,9 +62,10 @@ void straightLine(In src, Out dst, T scale) {
 #endif
     } else {
         constexpr int first = order == 4 ? 4 : 8;
-        alignas(16) T w[2 * n];
-        firstPass<T, 16, first>(src, Blocks<T>{w}, n, kEightPoint<T>);
-        laterPass<T, 16, 4, scaled>(Blocks<T>{w}, dst, n, first, kLastTwiddles<T, 16, first>.values, scale);
+        constexpr int B = kVecBytes >= 32 && sizeof(T) == 8 ? 32 : 16;  // four lanes at most
+        alignas(64) T w[2 * n];
+        firstPass<T, B, first>(src, Blocks<T>{w}, n, kEightPoint<T>);
+        laterPass<T, B, 4, scaled>(Blocks<T>{w}, dst, n, first, kLastTwiddles<T, B, first>.values, scale);
     }
 }
 
