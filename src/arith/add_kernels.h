@@ -140,7 +140,7 @@ struct CarryOfSum {
     Vec<T> operator()(Vec<T> a, Vec<T> b) const {
         const auto one = Vec<T>::broadcast(1);
         const auto aboveHighest = subSat(a, ~b);
-        return one + bitCast<T>(subSat(aboveHighest, one) == Vec<T>::zero());
+        return one - subSat(one, subSat(aboveHighest, one));
     }
 };
 
