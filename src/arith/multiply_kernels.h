@@ -32,9 +32,11 @@ inline Block<T, 2> both(const Op& op, Block<T, 2> v) {
 }
 
 // ---- families ----------------------------------------------------------------------------------------
+// roomUpTo is the last scale factor whose rounding does not lead the largest e out of its lane.
 struct Product8u {
     using Stored = std::uint8_t;
-    using Round = RoundAny<std::uint16_t>;
+    using Wide = std::uint16_t;
+    static constexpr int roomUpTo = 9;
     template <class>
     static constexpr int vanishesFrom = 17;
     using V = Vec<std::uint8_t>;
@@ -45,7 +47,8 @@ struct Product8u {
 
 struct Product16s {
     using Stored = std::int16_t;
-    using Round = RoundRight<std::int32_t>;
+    using Wide = std::int32_t;
+    static constexpr int roomUpTo = 30;
     template <class>
     static constexpr int vanishesFrom = 31;
     using V = Vec<std::int16_t>;
@@ -56,7 +59,8 @@ struct Product16s {
 
 struct Product16u {
     using Stored = std::uint16_t;
-    using Round = RoundAny<std::uint32_t>;
+    using Wide = std::uint32_t;
+    static constexpr int roomUpTo = 17;
     template <class>
     static constexpr int vanishesFrom = 33;
     using V = Vec<std::uint16_t>;
@@ -67,7 +71,8 @@ struct Product16u {
 
 struct Product16u16s {
     using Stored = std::int16_t;
-    using Round = RoundAny<std::int32_t>;
+    using Wide = std::int32_t;
+    static constexpr int roomUpTo = 17;
     template <class>
     static constexpr int vanishesFrom = 32;
     using V = Vec<std::int16_t>;
@@ -79,7 +84,8 @@ struct Product16u16s {
 // Complex values in 32-bit lanes.
 struct Product16sc {
     using Stored = std::int16_t;
-    using Round = RoundAny<std::int32_t>;
+    using Wide = std::int32_t;
+    static constexpr int roomUpTo = 0;
     template <class>
     static constexpr int vanishesFrom = 32;
     using V = Vec<std::int32_t>;
@@ -91,7 +97,8 @@ struct Product16sc {
 // srcDst + src1 * src2
 struct SumOfProduct16s {
     using Stored = std::int16_t;
-    using Round = RoundAny<std::int32_t>;
+    using Wide = std::int32_t;
+    static constexpr int roomUpTo = 30;
     template <class>
     static constexpr int vanishesFrom = 32;
     using V = Vec<std::int16_t>;
@@ -104,6 +111,12 @@ struct SumOfProduct16s {
 };
 
 // ---- the rule ----------------------------------------------------------------------------------------
+template <class Family, template <class> class Round>
+inline auto rounded(std::int32_t scaleFactor) {
+    using Wide = typename Family::Wide;
+    return [scale = Round<Wide>(scaleFactor)](auto... operands) { return Family::narrowed(both(scale, Family::exact(operands...))); };
+}
+
 // Hands `run` the operation on the family's vectors that serves this scale factor; not for a range
 // that vanishes.
 template <class Family, class Run>
@@ -123,9 +136,8 @@ inline void withScale(std::int32_t scaleFactor, Run run) {
             return Family::narrowed(both([](auto e) { return roundHalf(e); }, Family::exact(operands...)));
         });
     case Scaling::Right:
-        return run([scale = typename Family::Round(scaleFactor)](auto... operands) {
-            return Family::narrowed(both(scale, Family::exact(operands...)));
-        });
+        if (scaleFactor <= Family::roomUpTo) return run(rounded<Family, RoundRight>(scaleFactor));
+        return run(rounded<Family, RoundAny>(scaleFactor));
     case Scaling::Vanish:
         return;
     }
