@@ -312,11 +312,11 @@ VlqStatus vlqsMulC_Low_32f16s(const Vlq32f* src, Vlq32f val, Vlq16s* dst, Vlq32s
  *
  * **Memory.** None.
  *
- * @param src1        first factor
- * @param src2        second factor
- * @param srcDst      sum so far, and the result
- * @param len         number of elements
- * @param scaleFactor power of two by which the sum is divided
+ * @arg @c src1        first factor
+ * @arg @c src2        second factor
+ * @arg @c srcDst      sum so far, and the result
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor power of two by which the sum is divided
  * @return #vlqStsOk or an error above.
  */
 VlqStatus vlqsAddProduct_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
@@ -559,8 +559,7 @@ VlqStatus vlqsDivCRev_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len);
 /**
  * `dst[i] = src2[i] / src1[i]`: the second vector is divided by the first. In place `srcDst[i] / src[i]`.
  *
- * `32f` is within one unit in the last place and `64f` correctly rounded. Complex quotients
- * neither overflow nor underflow where the result does not: parts of `32fc` are rounded once from double, those of
+ * Real quotients are correctly rounded. Complex ones neither overflow nor underflow where the result does not: parts of `32fc` are rounded once from double, those of
  * `64fc` are within a few units of the larger part's last place. Over a divisor of 0 each part of
  * the numerator is divided by the divisor's real part: infinite, or not a number.
  *

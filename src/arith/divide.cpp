@@ -18,18 +18,12 @@ bool anyZero(const T* divisors, Vlq32s len) {
 const Vlq32s* elements(const Vlq16sc* p) { return reinterpret_cast<const Vlq32s*>(p); }
 Vlq32s* elements(Vlq16sc* p) { return reinterpret_cast<Vlq32s*>(p); }
 
-// In stretches that stay in the first cache between the look for zeros and the division.
 template <class Op, class A, class B, class D>
 VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s len) {
-    constexpr Vlq32s stretch = 2048;
-    bool found0 = false;
-    for (Vlq32s done = 0; done < len;) {
-        const Vlq32s count = len - done < stretch ? len - done : stretch;
-        found0 = found0 || anyZero(divisors + done, count);
-        vlq::mapBlocks(dst + done, count, op, divisors + done, numerators + done);
-        done += count;
-    }
-    return found0 ? vlqStsWarnDivByZero : vlqStsOk;
+    auto found0 = Vec<vlq::BitsOf<A>>::zero();
+    const auto is0 = [](Vec<A> v) { return v == Vec<A>::zero(); };
+    vlq::mapBlocks(dst, len, vlq::Watching<Op, decltype(is0), decltype(found0)>{op, is0, &found0}, divisors, numerators);
+    return vlq::any(found0) ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
 template <class T, class Round>
@@ -211,7 +205,14 @@ VlqStatus vlq::vlqsDivC_64s_ISfs(Vlq64s val, Vlq64s* srcDst, Vlq32s len, Vlq32s 
     if (len < 1) return vlqStsBadSize;
     if (val == 0) return vlqStsZeroDivisor;
     const auto bits = static_cast<std::uint64_t>(val);
-    mapScalars(srcDst, len, Quotient64s{Quotient64(val < 0 ? 0 - bits : bits, scaleFactor), val < 0}, srcDst);
+    std::uint64_t divisor = val < 0 ? 0 - bits : bits;
+    if (scaleFactor > 0) {
+        // The scale goes into the divisor; from 2^64 on that is at least twice any numerator.
+        if (scaleFactor > 63 || divisor > ~std::uint64_t{0} >> scaleFactor) return vlqsZero_64s(srcDst, len);
+        divisor <<= scaleFactor;
+    }
+    const std::int64_t up = scaleFactor < 0 ? -std::int64_t{scaleFactor} : 0;
+    mapScalars(srcDst, len, Quotient64s{Quotient64(divisor, up), val < 0}, srcDst);
     return vlqStsOk;
 }
 VlqStatus vlq::vlqsDivCRev_16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len) {

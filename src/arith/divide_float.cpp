@@ -8,28 +8,18 @@ namespace {
 using namespace vlq::divide;
 using vlq::Vec;
 
-// In stretches that stay in the first cache between the look for zeros and the division.
 template <class T, class Op>
 VlqStatus divided(const T* divisors, const T* numerators, T* dst, Vlq32s len, Op op) {
     if (!divisors || !numerators || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    constexpr Vlq32s stretch = 8192 / sizeof(T);
-    bool found0 = false;
-    for (Vlq32s done = 0; done < len;) {
-        const Vlq32s count = len - done < stretch ? len - done : stretch;
-        found0 = found0 || anyZero(divisors + done, count);
-        mapValues(dst + done, count, op, divisors + done, numerators + done);
-        done += count;
-    }
-    return found0 ? vlqStsWarnDivByZero : vlqStsOk;
+    return mapQuotients(dst, len, op, divisors, numerators) ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
 VlqStatus constantByVector(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    const VlqStatus status = anyZero(src, len) ? vlqStsWarnDivByZero : vlqStsOk;
-    vlq::map(dst, len, [n = Vec<Vlq32f>::broadcast(val)](Vec<Vlq32f> d) { return RealQuotient{}(d, n); }, src);
-    return status;
+    const auto quotient = [n = Vec<Vlq32f>::broadcast(val)](Vec<Vlq32f> d) { return RealQuotient{}(d, n); };
+    return mapQuotients(dst, len, quotient, src) ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
 template <class T>

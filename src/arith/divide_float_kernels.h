@@ -117,27 +117,48 @@ inline void mapValues(Vlq64fc* dst, std::ptrdiff_t len, Op op, const S*... src) 
         reinterpret_cast<double*>(dst), 2 * len, [op](const auto&... v) { return Block<double, 1>{{op(v.part[0]...)}}; },
         reinterpret_cast<const double*>(src)...);
 }
-template <class Op, class... S>
-inline void mapValues(Vlq32f* dst, std::ptrdiff_t len, Op op, const S*... src) { map(dst, len, op, src...); }
-template <class Op, class... S>
-inline void mapValues(Vlq64f* dst, std::ptrdiff_t len, Op op, const S*... src) { map(dst, len, op, src...); }
 
-template <class T>
-inline bool anyZero(const T* v, std::ptrdiff_t len) {
-    return anyOf(v, len, [](Vec<T> x) { return x == Vec<T>::zero(); });
+// ---- zero divisors ---------------------------------------------------------------------------------------------
+// The lanes of a vector, as the loop sees it, that hold a zero divisor; both lanes of a complex one.
+struct IsZero {
+    template <class T>
+    auto operator()(Vec<T> v) const { return v == Vec<T>::zero(); }
+};
+struct IsZero32fc {
+    Vec<std::int64_t> operator()(Vec<std::int64_t> v) const {
+        const auto is0 = bitCast<float>(bitCast<float>(v) == Vec<float>::zero());
+        return bitCast<std::int64_t>(is0 & swapParts(is0));
+    }
+};
+struct IsZero64fc {
+    Vec<std::int64_t> operator()(Vec<double> v) const {
+        const auto is0 = bitCast<double>(v == Vec<double>::zero());
+        return bitCast<std::int64_t>(is0 & swapParts(is0));
+    }
+};
+
+template <int group, class Element, class Condition, class Op, class... S>
+inline bool mapWatched(Element* dst, std::ptrdiff_t len, Condition condition, Op op, const S*... src) {
+    auto found = Vec<BitsOf<Element>>::zero();
+    mapBlocks<group>(dst, len, Watching<Op, Condition, decltype(found)>{op, condition, &found}, src...);
+    return any(found);
 }
-inline bool anyZero(const Vlq32fc* v, std::ptrdiff_t len) {
-    return anyOf(reinterpret_cast<const std::int64_t*>(v), len, [](Vec<std::int64_t> x) {
-        // Both parts, in either lane.
-        const auto is0 = bitCast<std::int64_t>(bitCast<float>(x) == Vec<float>::zero());
-        return is0 & bitCast<std::int64_t>(swapParts(bitCast<float>(is0)));
-    });
+
+// dst[i] = op(divisor[i], ...): is any divisor 0?
+template <class Op, class... S>
+inline bool mapQuotients(Vlq32fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
+    const auto elements = [op](const auto&... v) { return Block<std::int64_t, 1>{{bitCast<std::int64_t>(op(bitCast<float>(v.part[0])...))}}; };
+    return mapWatched<1>(reinterpret_cast<std::int64_t*>(dst), len, IsZero32fc{}, elements, reinterpret_cast<const std::int64_t*>(src)...);
 }
-inline bool anyZero(const Vlq64fc* v, std::ptrdiff_t len) {
-    return anyOf(reinterpret_cast<const double*>(v), 2 * len, [](Vec<double> x) {
-        const auto is0 = x == Vec<double>::zero();
-        return is0 & bitCast<std::int64_t>(swapParts(bitCast<double>(is0)));
-    });
+template <class Op, class... S>
+inline bool mapQuotients(Vlq64fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
+    const auto parts = [op](const auto&... v) { return Block<double, 1>{{op(v.part[0]...)}}; };
+    return mapWatched<2>(reinterpret_cast<double*>(dst), 2 * len, IsZero64fc{}, parts, reinterpret_cast<const double*>(src)...);
+}
+template <class T, class Op, class... S>
+    requires std::is_floating_point_v<T>
+inline bool mapQuotients(T* dst, std::ptrdiff_t len, Op op, const S*... src) {
+    return mapWatched<1>(dst, len, IsZero{}, [op](const auto&... v) { return Block<T, 1>{{op(v.part[0]...)}}; }, src...);
 }
 
 }  // namespace vlq::divide

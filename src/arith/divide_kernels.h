@@ -173,52 +173,50 @@ struct TimesReciprocal16sc {
 // ---- 64 bits by a constant, exactly ---------------------------------------------------------------------------
 __extension__ typedef unsigned __int128 Unsigned128;
 
-// round(size / divisor * 2^-scaleFactor) of magnitudes up to 2^63, from a tie to the even integer,
-// stopped at `limit`.
+// round(size * 2^up / divisor) of magnitudes up to 2^63, from a tie to the even integer, stopped at a
+// limit.
 class Quotient64 {
 public:
-    Quotient64(std::uint64_t divisor, std::int32_t scaleFactor) : divisor_(divisor), scale_(scaleFactor) {}
+    Quotient64(std::uint64_t divisor, std::int64_t up) : divisor_(divisor), reciprocal_(~std::uint64_t{0} / divisor), up_(up) {}
 
     std::uint64_t operator()(std::uint64_t size, std::uint64_t limit) const {
-        if (scale_ >= 0) return scale_ == 0 ? rounded(size / divisor_, size % divisor_, limit) : scaledDown(size);
-        return size == 0 ? 0 : scaledUp(size, limit);
+        // The quotient by the reciprocal is at most 2 too small.
+        std::uint64_t quotient = static_cast<std::uint64_t>(static_cast<Unsigned128>(size) * reciprocal_ >> 64), rest = size - quotient * divisor_;
+        for (int i = 0; i < 2; ++i) {
+            const std::uint64_t more = rest >= divisor_;
+            quotient += more;
+            rest -= divisor_ & (0 - more);
+        }
+        return up_ == 0 ? rounded(quotient, rest, limit) : longDivision(quotient, rest, limit);
     }
 
 private:
     // quotient + rest / divisor
     std::uint64_t rounded(std::uint64_t quotient, std::uint64_t rest, std::uint64_t limit) const {
-        // 2 * rest may need one bit more: compare with what is left of the divisor.
+        // Twice the rest may need one bit more: compare with what is left of the divisor.
         const std::uint64_t left = divisor_ - rest;
-        if (rest > left || (rest == left && quotient % 2 == 1)) ++quotient;
+        quotient += (rest + (quotient & 1)) > left;
         return quotient < limit ? quotient : limit;
     }
-    std::uint64_t scaledDown(std::uint64_t size) const {
-        if (scale_ > 64) return 0;
-        const Unsigned128 divisor = static_cast<Unsigned128>(divisor_) << scale_;
-        if (divisor >> 64 != 0) return static_cast<Unsigned128>(size) * 2 > divisor ? 1 : 0;
-        return Quotient64(static_cast<std::uint64_t>(divisor), 0)(size, ~std::uint64_t{0});
-    }
-    std::uint64_t scaledUp(std::uint64_t size, std::uint64_t limit) const {
-        std::uint64_t quotient = size / divisor_, rest = size % divisor_;
-        // Long division, up to 63 bits of the quotient at a time.
-        for (std::int64_t left = -std::int64_t{scale_}; left > 0;) {
-            if (rest == 0 && quotient == 0) return 0;
+    // The bits that the scale brings up from below the point, up to 63 at a time.
+    std::uint64_t longDivision(std::uint64_t quotient, std::uint64_t rest, std::uint64_t limit) const {
+        for (std::int64_t left = up_; left > 0;) {
+            if (rest == 0) {
+                if (quotient == 0) return 0;
+                return left > 63 || quotient > limit >> left ? limit : quotient << left;
+            }
             const int step = static_cast<int>(left < 63 ? left : 63);
             if (quotient > limit >> step) return limit;
             const Unsigned128 shifted = static_cast<Unsigned128>(rest) << step;
             quotient = (quotient << step) + static_cast<std::uint64_t>(shifted / divisor_);
             rest = static_cast<std::uint64_t>(shifted % divisor_);
             left -= step;
-            if (rest == 0) {
-                if (left > 63 || quotient > limit >> left) return limit;
-                return quotient << left;
-            }
         }
         return rounded(quotient, rest, limit);
     }
 
-    std::uint64_t divisor_;
-    std::int32_t scale_;
+    std::uint64_t divisor_, reciprocal_;
+    std::int64_t up_;
 };
 
 // Exact quotients of signed integers; rounding to even does not look at the sign.
@@ -226,11 +224,12 @@ struct Quotient64s {
     Quotient64 magnitudes;
     bool negative;  // divisor
     Vlq64s operator()(Vlq64s numerator) const {
-        const bool below0 = (numerator < 0) != negative;
-        const std::uint64_t bits = static_cast<std::uint64_t>(numerator), size = numerator < 0 ? 0 - bits : bits;
+        // Signs as masks: they change too often to branch on.
+        const auto bits = static_cast<std::uint64_t>(numerator), sign = static_cast<std::uint64_t>(numerator >> 63);
+        const std::uint64_t below0 = sign ^ (0 - static_cast<std::uint64_t>(negative));
         constexpr std::uint64_t top = std::numeric_limits<Vlq64s>::max();
-        const std::uint64_t result = magnitudes(size, below0 ? top + 1 : top);
-        return static_cast<Vlq64s>(below0 ? 0 - result : result);
+        const std::uint64_t result = magnitudes((bits ^ sign) - sign, top - below0);
+        return static_cast<Vlq64s>((result ^ below0) - below0);
     }
 };
 

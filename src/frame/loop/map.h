@@ -35,6 +35,19 @@ inline Block<T, N> loadBlockPartial(const T* p, int count) {
     }
     return block;
 }
+// All bits in the lanes past the first `count`.
+template <class T>
+inline Vec<T> unusedLanes(std::ptrdiff_t count) {
+    BitsOf<T> mask[Vec<T>::lanes];
+    for (int i = 0; i < Vec<T>::lanes; ++i) mask[i] = i < count ? BitsOf<T>{0} : BitsOf<T>{-1};
+    return bitCast<T>(load(mask));
+}
+template <class T, int N>
+inline Block<T, N> markUnused(Block<T, N> block, int count) {
+    for (int i = 0; i < N; ++i) block.part[i] = block.part[i] | unusedLanes<T>(count - i * Vec<T>::lanes);
+    return block;
+}
+
 template <Stores stores, class T, int N>
 inline void storeBlock(T* p, const Block<T, N>& block) {
     for (int i = 0; i < N; ++i) {
@@ -53,6 +66,8 @@ inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
 }  // namespace detail
 
 // op takes one Block a source and gives a Block of D; a block is one vector of the narrowest type.
+// The lanes that a partial block does not use are 0; all their bits are set for an op that says so
+// by kMarkUnused.
 // Elements that belong together, as the two parts of a complex value, are a group: len counts
 // whole groups' elements and no group is split over two vectors.
 template <int group = 1, Stores stores = Stores::Ordinary, class D, class Op, class... S>
@@ -61,7 +76,12 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     constexpr int dstParts = count / Vec<D>::lanes;
 
     auto partial = [&](int n) {
-        const auto result = op(detail::loadBlockPartial<S, count / Vec<S>::lanes>(src, n)...);
+        const auto read = [n]<class T>(const T* p) {
+            const auto block = detail::loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
+            if constexpr (requires { Op::kMarkUnused; }) return detail::markUnused(block, n);
+            else return block;
+        };
+        const auto result = op(read(src)...);
         detail::storeBlockPartial<D, dstParts>(dst, result, n);
     };
     auto advance = [&](std::ptrdiff_t n) {
