@@ -76,7 +76,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     constexpr int dstParts = count / Vec<D>::lanes;
 
     auto partial = [&](int n) {
-        const auto read = [n]<class T>(const T* p) {
+        const auto read = [&]<class T>(const T* p) {
             const auto block = detail::loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
             if constexpr (requires { Op::kMarkUnused; }) return detail::markUnused(block, n);
             else return block;
