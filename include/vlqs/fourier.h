@@ -17,8 +17,11 @@ typedef struct VlqsFFTSpec_C_64fc VlqsFFTSpec_C_64fc; /**< interleaved double pr
 typedef struct VlqsFFTSpec_C_64f VlqsFFTSpec_C_64f;   /**< double precision, parts in two arrays */
 /** @} */
 
-/** Record of the real power-of-two transform in single precision, opaque. */
-typedef struct VlqsFFTSpec_R_32f VlqsFFTSpec_R_32f;
+/** @name Records of the real power-of-two transform, opaque
+ *  @{ */
+typedef struct VlqsFFTSpec_R_32f VlqsFFTSpec_R_32f; /**< single precision */
+typedef struct VlqsFFTSpec_R_64f VlqsFFTSpec_R_64f; /**< double precision */
+/** @} */
 
 /** @name Complex FFT: planning
  *  @{ */
@@ -141,9 +144,9 @@ VlqStatus vlqsFFTInv_CToC_64f_I(Vlq64f* srcDstRe, Vlq64f* srcDstIm, const VlqsFF
  * memory and `InitAlloc` in memory of its own; `GetBufSize` tells the work buffer of one transform;
  * `Free` ends the record's life and releases what `InitAlloc` took.
  *
- * **Shapes.** Orders 0 to 29 in single precision. @p specMem and @p initBuf may stand at any
- * address. The record stands at the first 64-byte boundary in @p specMem; it refers to itself and
- * must not be moved. @p initBuf is free again when `Init` returns; up to order 10 it may be null.
+ * **Shapes.** Orders 0 to 29 in single precision, 0 to 28 in double. @p specMem and @p initBuf may
+ * stand at any address. The record stands at the first 64-byte boundary in @p specMem; it refers to
+ * itself and must not be moved. @p initBuf is free again when `Init` returns; up to order 10 it may be null.
  * A transform reads the record only: one record serves several threads at a time.
  *
  * **Errors,** in this order. `GetSize`: #vlqStsBadOrder for an order below 0 or above 30,
@@ -173,6 +176,11 @@ VlqStatus vlqsFFTInit_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s fl
 VlqStatus vlqsFFTInitAlloc_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
 VlqStatus vlqsFFTGetBufSize_R_32f(const VlqsFFTSpec_R_32f* spec, Vlq32s* bufBytes);
 VlqStatus vlqsFFTFree_R_32f(VlqsFFTSpec_R_32f* spec);
+VlqStatus vlqsFFTGetSize_R_64f(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_R_64f(VlqsFFTSpec_R_64f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_R_64f(VlqsFFTSpec_R_64f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_R_64f(const VlqsFFTSpec_R_64f* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_R_64f(VlqsFFTSpec_R_64f* spec);
 /** @} */
 
 /** @name Real transforms of 2^order points
@@ -221,6 +229,18 @@ VlqStatus vlqsFFTInv_PackToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSp
 VlqStatus vlqsFFTInv_PackToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTInv_PermToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
 VlqStatus vlqsFFTInv_PermToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToCCS_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToCCS_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPack_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPack_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPerm_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPerm_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PackToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PackToR_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PermToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PermToR_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
 /** @} */
 
 /** @name Products of packed spectra
@@ -250,6 +270,66 @@ VlqStatus vlqsMulPack_32f(const Vlq32f* srcA, const Vlq32f* srcB, Vlq32f* dst, V
 VlqStatus vlqsMulPack_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
 VlqStatus vlqsMulPerm_32f(const Vlq32f* srcA, const Vlq32f* srcB, Vlq32f* dst, Vlq32s len);
 VlqStatus vlqsMulPerm_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsMulPack_64f(const Vlq64f* srcA, const Vlq64f* srcB, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsMulPack_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
+VlqStatus vlqsMulPerm_64f(const Vlq64f* srcA, const Vlq64f* srcB, Vlq64f* dst, Vlq32s len);
+VlqStatus vlqsMulPerm_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Product of a Pack spectrum with a conjugate
+ *  @{ */
+/**
+ * The spectrum of a cyclic correlation: real terms multiply, complex values give
+ * `srcDst = src conj(srcDst)`; of the two it is the destination's that is conjugated. Layout as
+ * above.
+ *
+ * **Shapes.** Both vectors have @p len elements and any alignment; they are one or do not overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src    spectrum
+ * @param srcDst spectrum that is conjugated, and product
+ * @param len    number of elements
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsMulPackConj_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
+VlqStatus vlqsMulPackConj_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
+/** @} */
+
+/** @name Expansion of packed spectra
+ *  @{ */
+/**
+ * All @p len complex values of the spectrum of a real signal from the half that a layout holds:
+ * `dst[len - k] = conj(dst[k])`.
+ *
+ * **Shapes.** A source has @p len elements in Pack and Perm, `2 (len / 2 + 1)` in CCS; the result
+ * has @p len complex elements. Any alignment. In place, the source stands at the front of the
+ * result's vector; otherwise the two do not overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @param src    packed spectrum
+ * @param dst    complete spectrum
+ * @param srcDst both, of the in-place forms
+ * @param len    number of complex values
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsConjCcs_32fc(const Vlq32f* src, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsConjCcs_32fc_I(Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsConjCcs_64fc(const Vlq64f* src, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsConjCcs_64fc_I(Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsConjPack_32fc(const Vlq32f* src, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsConjPack_32fc_I(Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsConjPack_64fc(const Vlq64f* src, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsConjPack_64fc_I(Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsConjPerm_32fc(const Vlq32f* src, Vlq32fc* dst, Vlq32s len);
+VlqStatus vlqsConjPerm_32fc_I(Vlq32fc* srcDst, Vlq32s len);
+VlqStatus vlqsConjPerm_64fc(const Vlq64f* src, Vlq64fc* dst, Vlq32s len);
+VlqStatus vlqsConjPerm_64fc_I(Vlq64fc* srcDst, Vlq32s len);
 /** @} */
 
 VLQS_END_DECLS

@@ -1,4 +1,4 @@
-// Products of packed spectra.
+// Products and expansion of packed spectra.
 #pragma once
 
 #include <cstring>
@@ -76,6 +76,56 @@ inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
     multiplyReal(a, b, dst);
     if (real == 2) multiplyReal(a + 1, b + 1, dst + 1);
     multiplyPairs(a + real, b + real, dst + real, (len - real) / 2, op);
+}
+
+// Spectrum value k, and its conjugate at len - k, for k = 1 to `pairs`; pair 1 stands at `src`. From
+// the top down, so that src may be the front of dst.
+template <class T>
+inline void expandPairs(const T* src, T* dst, std::ptrdiff_t pairs, std::ptrdiff_t len) {
+    constexpr int lanes = Split<T>::lanes;
+    std::ptrdiff_t k = pairs + 1;
+    for (; k > lanes; k -= lanes) {
+        auto values = loadSplit<T>(src + 2 * (k - lanes - 1));
+        storeSplit(dst + 2 * (k - lanes), values);
+        values.im = -values.im;
+        storeSplitBackward(dst + 2 * (len - k + 1), values);
+    }
+    while (--k > 0) {
+        T value[2];
+        std::memcpy(value, src + 2 * (k - 1), sizeof value);
+        std::memcpy(dst + 2 * k, value, sizeof value);
+        value[1] = -value[1];
+        std::memcpy(dst + 2 * (len - k), value, sizeof value);
+    }
+}
+
+template <class T>
+inline void putReal(T* dst, std::ptrdiff_t k, const T* term) {
+    T value[2] = {};
+    std::memcpy(value, term, sizeof(T));
+    std::memcpy(dst + 2 * k, value, sizeof value);
+}
+
+// All len values from a layout; src may be the front of dst. The term in the middle goes beyond
+// the input, the first value over the first pair.
+template <class T>
+inline void expandPack(const T* src, T* dst, std::ptrdiff_t len) {
+    if (len % 2 == 0) putReal(dst, len / 2, src + len - 1);
+    expandPairs(src + 1, dst, (len - 1) / 2, len);
+    putReal(dst, 0, src);
+}
+template <class T>
+inline void expandPerm(const T* src, T* dst, std::ptrdiff_t len) {
+    const bool even = len % 2 == 0;
+    if (even) putReal(dst, len / 2, src + 1);
+    expandPairs(src + (even ? 2 : 1), dst, (len - 1) / 2, len);
+    putReal(dst, 0, src);
+}
+template <class T>
+inline void expandCcs(const T* src, T* dst, std::ptrdiff_t len) {
+    if (len % 2 == 0) std::memmove(dst + len, src + len, 2 * sizeof(T));
+    expandPairs(src + 2, dst, (len - 1) / 2, len);
+    std::memmove(dst, src, 2 * sizeof(T));
 }
 
 }  // namespace vlq::packed

@@ -83,43 +83,54 @@ struct Sizes {
 };
 inline std::int64_t floorTo(std::int64_t bytes, std::int64_t multiple) { return bytes / multiple * multiple; }
 
-// Sizes of a complex record in single precision.
-inline Sizes complexSizesRef(int order) {
-    if (order <= 5) return {148, 0, 0};
-    const std::int64_t n = std::int64_t{1} << order;
+// The large orders: outer bits and columns of a tile, as powers of two, that cut one level.
+struct Cut {
+    int outer, columns;
+};
+inline Cut cutRef(int element, int order) {
+    if (element == 4) return order == 16 ? Cut{4, 5} : order <= 18 ? Cut{4, 6} : order <= 21 ? Cut{6, 7} : Cut{8, 6};
+    return order <= 15 ? Cut{4, 4} : order <= 17 ? Cut{4, 6} : order == 18 ? Cut{6, 6} : order == 19 ? Cut{6, 7} : Cut{8, 5};
+}
+
+// Sizes of a complex record with elements of `element` bytes.
+inline Sizes complexSizesRef(int element, int order) {
+    const bool single = element == 4;
+    const std::int64_t slack = single ? 71 : 79;
+    if (order <= 5) return {single ? 148 : 152, 0, 0};
+    const std::int64_t n = std::int64_t{1} << order, value = 2 * element;
     const std::int64_t bitReversal = floorTo(n + 67, 64);
+    const int inCache = single ? 15 : 13, plain = single ? 16 : 15, tile = single ? 6 : 5;
     Sizes sizes{};
-    if (order <= 15) {
-        sizes.spec = floorTo(8 * n + 71, 64) + bitReversal;
-        sizes.work = floorTo(8 * n + 63, 64);
-    } else {
-        int row = order;
-        while (row > 15) {  // each level cuts off its outer bits
-            const int outer = row <= 18 ? 4 : row <= 21 ? 6 : 8;
-            const int columns = row == 16 ? 5 : row <= 18 ? 6 : row <= 21 ? 7 : 6;
-            sizes.spec += std::int64_t{8} << (row - 1);
-            sizes.work = std::max(sizes.work, std::int64_t{8} << (outer + columns));
-            row -= outer;
-        }
-        sizes.spec += floorTo((std::int64_t{8} << row) + 71, 64);
-        sizes.spec += order < 17 ? bitReversal : (std::int64_t{4} << (order - 12)) + 4160;
-        sizes.work = std::max(sizes.work, floorTo((std::int64_t{8} << row) + 63, 64));
-        if (order >= 17) sizes.work = std::max<std::int64_t>(sizes.work, 0x10000);
+    int row = order;
+    while (row > inCache) {  // each level cuts off its outer bits
+        const Cut cut = cutRef(element, row);
+        sizes.spec += value << (row - 1);
+        sizes.work = std::max(sizes.work, value << (cut.outer + cut.columns));
+        row -= cut.outer;
     }
+    sizes.spec += floorTo((value << row) + slack, 64);
+    sizes.spec += order <= plain ? bitReversal
+                                 : (std::int64_t{4} << (order - 2 * tile)) + (std::int64_t{4} << (2 * tile - 2)) + 64;
+    sizes.work = std::max(sizes.work, floorTo((value << row) + 63, 64));
+    if (order >= 17) sizes.work = std::max<std::int64_t>(sizes.work, single ? 0x10000 : 0);
+    if (!single && order >= 16) sizes.work = std::max<std::int64_t>(sizes.work, 2 * 16384);
     sizes.spec += 192;
     sizes.work += 64;
-    if (order > 10) sizes.init = bitReversal + 64;
+    if (order > 10) sizes.init = floorTo(element * (n / 4) + (single ? 67 : 71), 64) + 64;
     return sizes;
 }
 
-// Sizes of a real record in single precision.
-inline Sizes realSizesRef(int order) {
-    if (order <= 4) return {148, 0, 0};
+// Sizes of a real record.
+inline Sizes realSizesRef(int element, int order) {
+    const bool single = element == 4;
+    if (order <= (single ? 4 : 5)) return {single ? 148 : 152, 0, 0};
     const std::int64_t n = std::int64_t{1} << order;
     Sizes sizes{};
-    if (order >= 7) sizes = complexSizesRef(order - 1);
-    sizes.spec += floorTo(order < 19 ? 4 * n + 126 : n / 256 + 16510, 128) + 192;
-    if (order >= 11) sizes.init += floorTo(n + 67, 64) + 64;
+    if (order >= 7) sizes = complexSizesRef(element, order - 1);
+    const std::int64_t factors = single ? (order < 19 ? 4 * n + 126 : n / 256 + 16510)
+                                        : (order < 18 ? 8 * n + 126 : n / 64 + 16510);
+    sizes.spec += floorTo(factors, 128) + 192;
+    if (order >= 11) sizes.init += floorTo(single ? n + 67 : 2 * n + 71, 64) + 64;
     return sizes;
 }
 
