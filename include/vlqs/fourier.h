@@ -312,10 +312,10 @@ VlqStatus vlqsMulPackConj_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
  *
  * **Memory.** None.
  *
- * @param src    packed spectrum
- * @param dst    complete spectrum
- * @param srcDst both, of the in-place forms
- * @param len    number of complex values
+ * @arg @c src    packed spectrum
+ * @arg @c dst    complete spectrum
+ * @arg @c srcDst both, of the in-place forms
+ * @arg @c len    number of complex values
  * @return #vlqStsOk or an error above.
  */
 VlqStatus vlqsConjCcs_32fc(const Vlq32f* src, Vlq32fc* dst, Vlq32s len);
