@@ -161,6 +161,66 @@ VlqStatus vlqsFIROne_32fc(Vlq32fc src, Vlq32fc* dst, VlqsFIRState_32fc* state);
 VlqStatus vlqsFIROne32fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor);
 /** @} */
 
+/** @name FIR: filtering with a delay line of the caller's
+ *  @{ */
+/**
+ * The same sums without a record: the caller keeps the taps, a store of past samples and an index.
+ * The store is a ring of @p tapsLen samples that is kept twice over, one copy after the other:
+ * before sample x[n] the window `dlyLine[i .. i + tapsLen - 1]`, i the index, holds
+ * `x[n - tapsLen], ..., x[n - 1]`. A zeroed store and the index 0 begin from silence. All forms of
+ * one pair of types continue a stream in any order.
+ *
+ * A single sample (`One`) is written at i and at i + tapsLen, and the index moves on by one, modulo
+ * @p tapsLen. Blocks do so sample by sample, except where samples have the type of the taps:
+ * - fewer than 64 taps (32fc: 32), not in place: if @p len is at least
+ *   @p tapsLen, the index ends at `tapsLen - 1`;
+ * - as many taps or more, and in place always: through a record made for the call, as the block
+ *   forms above. The index stays, and the window at it is the new past.
+ *
+ * The `_Sfs` forms multiply by `2^-scaleFactor`, saturate, and then round to nearest, half
+ * away from zero, unlike the forms with a record; a sum that is not a number gives the top value.
+ *
+ * **Shapes.** @p taps has @p tapsLen elements, h[0] first, @p dlyLine twice as many. The index is at
+ * least 0 and below @p tapsLen, which is not tested. @p src and @p dst have @p len elements and do not
+ * overlap. Any alignment.
+ *
+ * **Threads.** As with a record, where the block is not taken sample by sample.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for null samples, #vlqStsBadSize for @p len below 1,
+ * #vlqStsNullPtr for null @p taps, #vlqStsBadTapCount for @p tapsLen below 1, #vlqStsNullPtr for a null
+ * @p dlyLine or @p dlyLineIndex, #vlqStsNoMemory, which changes nothing.
+ *
+ * **Memory.** None, or a record for the call.
+ *
+ * @arg @c src          samples; for `One` the sample itself
+ * @arg @c dst          result
+ * @arg @c srcDst       samples and result of the in-place forms
+ * @arg @c len          number of samples
+ * @arg @c taps         impulse response
+ * @arg @c tapsLen      number of taps, at least 1
+ * @arg @c dlyLine      past samples
+ * @arg @c dlyLineIndex index of the oldest one, moved on
+ * @arg @c scaleFactor  negated exponent of the factor of the result
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIR_Direct_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, const Vlq32f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR_Direct_32f_I(Vlq32f* srcDst, Vlq32s len, const Vlq32f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne_Direct_32f(Vlq32f src, Vlq32f* dst, const Vlq32f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne_Direct_32f_I(Vlq32f* srcDst, const Vlq32f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR_Direct_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR_Direct_32fc_I(Vlq32fc* srcDst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne_Direct_32fc(Vlq32fc src, Vlq32fc* dst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne_Direct_32fc_I(Vlq32fc* srcDst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR32f_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq32f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32f_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s len, const Vlq32f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32f_Direct_16s_Sfs(Vlq16s src, Vlq16s* dst, const Vlq32f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32f_Direct_16s_ISfs(Vlq16s* srcDst, const Vlq32f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32fc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32fc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32fc_Direct_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32fc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+/** @} */
+
 VLQS_END_DECLS
 
 #endif

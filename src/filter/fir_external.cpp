@@ -1,0 +1,54 @@
+#include "filter/fir_external.h"
+
+namespace fir = vlq::fir;
+
+VlqStatus vlq::vlqsFIR_Direct_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, const Vlq32f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalBlock<64, VlqsFIRState_32f>(src, dst, len, taps, tapsLen, dlyLine, dlyLineIndex);
+}
+VlqStatus vlq::vlqsFIR_Direct_32f_I(Vlq32f* srcDst, Vlq32s len, const Vlq32f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalBlockInPlace<VlqsFIRState_32f>(srcDst, len, taps, tapsLen, dlyLine, dlyLineIndex);
+}
+VlqStatus vlq::vlqsFIROne_Direct_32f(Vlq32f src, Vlq32f* dst, const Vlq32f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalOne(src, dst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreAsIs{});
+}
+VlqStatus vlq::vlqsFIROne_Direct_32f_I(Vlq32f* srcDst, const Vlq32f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreAsIs{});
+}
+VlqStatus vlq::vlqsFIR_Direct_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalBlock<32, VlqsFIRState_32fc>(src, dst, len, taps, tapsLen, dlyLine, dlyLineIndex);
+}
+VlqStatus vlq::vlqsFIR_Direct_32fc_I(Vlq32fc* srcDst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalBlockInPlace<VlqsFIRState_32fc>(srcDst, len, taps, tapsLen, dlyLine, dlyLineIndex);
+}
+VlqStatus vlq::vlqsFIROne_Direct_32fc(Vlq32fc src, Vlq32fc* dst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalOne(src, dst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreAsIs{});
+}
+VlqStatus vlq::vlqsFIROne_Direct_32fc_I(Vlq32fc* srcDst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreAsIs{});
+}
+
+VlqStatus vlq::vlqsFIR32f_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq32f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalSamples(src, dst, len, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32f>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIR32f_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s len, const Vlq32f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalSamples(srcDst, srcDst, len, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32f>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIROne32f_Direct_16s_Sfs(Vlq16s src, Vlq16s* dst, const Vlq32f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalOne(src, dst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32f>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIROne32f_Direct_16s_ISfs(Vlq16s* srcDst, const Vlq32f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32f>(scaleFactor));
+}
+
+VlqStatus vlq::vlqsFIR32fc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalSamples(src, dst, len, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIR32fc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalSamples(srcDst, srcDst, len, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIROne32fc_Direct_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalOne(src, dst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIROne32fc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32fc>(scaleFactor));
+}
