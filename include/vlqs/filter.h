@@ -16,6 +16,10 @@ typedef struct VlqsFIRState_32f VlqsFIRState_32f;           /**< float taps, flo
 typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s;     /**< float taps, 16-bit samples */
 typedef struct VlqsFIRState_32fc VlqsFIRState_32fc;         /**< complex float taps and samples */
 typedef struct VlqsFIRState32fc_16sc VlqsFIRState32fc_16sc; /**< complex float taps, complex 16-bit samples */
+typedef struct VlqsFIRState_64fc VlqsFIRState_64fc; /**< complex double taps and samples */
+typedef struct VlqsFIRState64fc_32fc VlqsFIRState64fc_32fc; /**< complex double taps, complex float samples */
+typedef struct VlqsFIRState64fc_32sc VlqsFIRState64fc_32sc; /**< complex double taps, complex 32-bit samples */
+typedef struct VlqsFIRState64fc_16sc VlqsFIRState64fc_16sc; /**< complex double taps, complex 16-bit samples */
 /** @} */
 
 /** @name FIR: records
@@ -58,18 +62,34 @@ VlqStatus vlqsFIRGetStateSize_32f(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRGetStateSize32f_16s(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRGetStateSize_32fc(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRGetStateSize32fc_16sc(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize_64fc(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize64fc_32fc(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize64fc_32sc(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize64fc_16sc(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRInit_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInit32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInit_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInit32fc_16sc(VlqsFIRState32fc_16sc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit_64fc(VlqsFIRState_64fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq64fc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit64fc_32fc(VlqsFIRState64fc_32fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit64fc_32sc(VlqsFIRState64fc_32sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInitAlloc_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine);
 VlqStatus vlqsFIRInitAlloc32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine);
 VlqStatus vlqsFIRInitAlloc_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine);
 VlqStatus vlqsFIRInitAlloc32fc_16sc(VlqsFIRState32fc_16sc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRInitAlloc_64fc(VlqsFIRState_64fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq64fc* dlyLine);
+VlqStatus vlqsFIRInitAlloc64fc_32fc(VlqsFIRState64fc_32fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine);
+VlqStatus vlqsFIRInitAlloc64fc_32sc(VlqsFIRState64fc_32sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32sc* dlyLine);
+VlqStatus vlqsFIRInitAlloc64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine);
 VlqStatus vlqsFIRFree_32f(VlqsFIRState_32f* state);
 VlqStatus vlqsFIRFree32f_16s(VlqsFIRState32f_16s* state);
 VlqStatus vlqsFIRFree_32fc(VlqsFIRState_32fc* state);
 VlqStatus vlqsFIRFree32fc_16sc(VlqsFIRState32fc_16sc* state);
+VlqStatus vlqsFIRFree_64fc(VlqsFIRState_64fc* state);
+VlqStatus vlqsFIRFree64fc_32fc(VlqsFIRState64fc_32fc* state);
+VlqStatus vlqsFIRFree64fc_32sc(VlqsFIRState64fc_32sc* state);
+VlqStatus vlqsFIRFree64fc_16sc(VlqsFIRState64fc_16sc* state);
 /** @} */
 
 /** @name FIR: taps and delay line
@@ -97,18 +117,34 @@ VlqStatus vlqsFIRSetTaps_32f(const Vlq32f* taps, VlqsFIRState_32f* state);
 VlqStatus vlqsFIRSetTaps32f_16s(const Vlq32f* taps, VlqsFIRState32f_16s* state);
 VlqStatus vlqsFIRSetTaps_32fc(const Vlq32fc* taps, VlqsFIRState_32fc* state);
 VlqStatus vlqsFIRSetTaps32fc_16sc(const Vlq32fc* taps, VlqsFIRState32fc_16sc* state);
+VlqStatus vlqsFIRSetTaps_64fc(const Vlq64fc* taps, VlqsFIRState_64fc* state);
+VlqStatus vlqsFIRSetTaps64fc_32fc(const Vlq64fc* taps, VlqsFIRState64fc_32fc* state);
+VlqStatus vlqsFIRSetTaps64fc_32sc(const Vlq64fc* taps, VlqsFIRState64fc_32sc* state);
+VlqStatus vlqsFIRSetTaps64fc_16sc(const Vlq64fc* taps, VlqsFIRState64fc_16sc* state);
 VlqStatus vlqsFIRGetTaps_32f(const VlqsFIRState_32f* state, Vlq32f* taps);
 VlqStatus vlqsFIRGetTaps32f_16s(const VlqsFIRState32f_16s* state, Vlq32f* taps);
 VlqStatus vlqsFIRGetTaps_32fc(const VlqsFIRState_32fc* state, Vlq32fc* taps);
 VlqStatus vlqsFIRGetTaps32fc_16sc(const VlqsFIRState32fc_16sc* state, Vlq32fc* taps);
+VlqStatus vlqsFIRGetTaps_64fc(const VlqsFIRState_64fc* state, Vlq64fc* taps);
+VlqStatus vlqsFIRGetTaps64fc_32fc(const VlqsFIRState64fc_32fc* state, Vlq64fc* taps);
+VlqStatus vlqsFIRGetTaps64fc_32sc(const VlqsFIRState64fc_32sc* state, Vlq64fc* taps);
+VlqStatus vlqsFIRGetTaps64fc_16sc(const VlqsFIRState64fc_16sc* state, Vlq64fc* taps);
 VlqStatus vlqsFIRSetDlyLine_32f(VlqsFIRState_32f* state, const Vlq32f* dlyLine);
 VlqStatus vlqsFIRSetDlyLine32f_16s(VlqsFIRState32f_16s* state, const Vlq16s* dlyLine);
 VlqStatus vlqsFIRSetDlyLine_32fc(VlqsFIRState_32fc* state, const Vlq32fc* dlyLine);
 VlqStatus vlqsFIRSetDlyLine32fc_16sc(VlqsFIRState32fc_16sc* state, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRSetDlyLine_64fc(VlqsFIRState_64fc* state, const Vlq64fc* dlyLine);
+VlqStatus vlqsFIRSetDlyLine64fc_32fc(VlqsFIRState64fc_32fc* state, const Vlq32fc* dlyLine);
+VlqStatus vlqsFIRSetDlyLine64fc_32sc(VlqsFIRState64fc_32sc* state, const Vlq32sc* dlyLine);
+VlqStatus vlqsFIRSetDlyLine64fc_16sc(VlqsFIRState64fc_16sc* state, const Vlq16sc* dlyLine);
 VlqStatus vlqsFIRGetDlyLine_32f(const VlqsFIRState_32f* state, Vlq32f* dlyLine);
 VlqStatus vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dlyLine);
 VlqStatus vlqsFIRGetDlyLine_32fc(const VlqsFIRState_32fc* state, Vlq32fc* dlyLine);
 VlqStatus vlqsFIRGetDlyLine32fc_16sc(const VlqsFIRState32fc_16sc* state, Vlq16sc* dlyLine);
+VlqStatus vlqsFIRGetDlyLine_64fc(const VlqsFIRState_64fc* state, Vlq64fc* dlyLine);
+VlqStatus vlqsFIRGetDlyLine64fc_32fc(const VlqsFIRState64fc_32fc* state, Vlq32fc* dlyLine);
+VlqStatus vlqsFIRGetDlyLine64fc_32sc(const VlqsFIRState64fc_32sc* state, Vlq32sc* dlyLine);
+VlqStatus vlqsFIRGetDlyLine64fc_16sc(const VlqsFIRState64fc_16sc* state, Vlq16sc* dlyLine);
 /** @} */
 
 /** @name FIR: filtering
@@ -155,10 +191,22 @@ VlqStatus vlqsFIR_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, VlqsFIRStat
 VlqStatus vlqsFIR_32fc_I(Vlq32fc* srcDst, Vlq32s len, VlqsFIRState_32fc* state);
 VlqStatus vlqsFIR32fc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIR32fc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, VlqsFIRState_64fc* state);
+VlqStatus vlqsFIR_64fc_I(Vlq64fc* srcDst, Vlq32s len, VlqsFIRState_64fc* state);
+VlqStatus vlqsFIR64fc_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, VlqsFIRState64fc_32fc* state);
+VlqStatus vlqsFIR64fc_32fc_I(Vlq32fc* srcDst, Vlq32s len, VlqsFIRState64fc_32fc* state);
+VlqStatus vlqsFIR64fc_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, Vlq32s len, VlqsFIRState64fc_32sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64fc_32sc_ISfs(Vlq32sc* srcDst, Vlq32s len, VlqsFIRState64fc_32sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64fc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64fc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne_32f(Vlq32f src, Vlq32f* dst, VlqsFIRState_32f* state);
 VlqStatus vlqsFIROne32f_16s_Sfs(Vlq16s src, Vlq16s* dst, VlqsFIRState32f_16s* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne_32fc(Vlq32fc src, Vlq32fc* dst, VlqsFIRState_32fc* state);
 VlqStatus vlqsFIROne32fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne_64fc(Vlq64fc src, Vlq64fc* dst, VlqsFIRState_64fc* state);
+VlqStatus vlqsFIROne64fc_32fc(Vlq32fc src, Vlq32fc* dst, VlqsFIRState64fc_32fc* state);
+VlqStatus vlqsFIROne64fc_32sc_Sfs(Vlq32sc src, Vlq32sc* dst, VlqsFIRState64fc_32sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor);
 /** @} */
 
 /** @name FIR: filtering with a delay line of the caller's
@@ -172,12 +220,12 @@ VlqStatus vlqsFIROne32fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState32fc_16
  *
  * A single sample (`One`) is written at i and at i + tapsLen, and the index moves on by one, modulo
  * @p tapsLen. Blocks do so sample by sample, except where samples have the type of the taps:
- * - fewer than 64 taps (32fc: 32), not in place: if @p len is at least
+ * - fewer than 64 taps (32fc: 32; 64fc: 16), not in place: if @p len is at least
  *   @p tapsLen, the index ends at `tapsLen - 1`;
  * - as many taps or more, and in place always: through a record made for the call, as the block
  *   forms above. The index stays, and the window at it is the new past.
  *
- * The `_Sfs` forms multiply by `2^-scaleFactor`, saturate, and then round to nearest, half
+ * vlqsFIR64fc_Direct_32fc goes through such a record from 128 samples on. The `_Sfs` forms multiply by `2^-scaleFactor`, saturate, and then round to nearest, half
  * away from zero, unlike the forms with a record; a sum that is not a number gives the top value.
  *
  * **Shapes.** @p taps has @p tapsLen elements, h[0] first, @p dlyLine twice as many. The index is at
@@ -219,6 +267,22 @@ VlqStatus vlqsFIR32fc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s l
 VlqStatus vlqsFIR32fc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne32fc_Direct_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne32fc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_Direct_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq64fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR_Direct_64fc_I(Vlq64fc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq64fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne_Direct_64fc(Vlq64fc src, Vlq64fc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq64fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne_Direct_64fc_I(Vlq64fc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq64fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR64fc_Direct_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR64fc_Direct_32fc_I(Vlq32fc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne64fc_Direct_32fc(Vlq32fc src, Vlq32fc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne64fc_Direct_32fc_I(Vlq32fc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR64fc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64fc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64fc_Direct_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64fc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64fc_Direct_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64fc_Direct_32sc_Sfs(Vlq32sc src, Vlq32sc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 /** @} */
 
 VLQS_END_DECLS

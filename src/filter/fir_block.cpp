@@ -27,3 +27,28 @@ VlqStatus vlq::vlqsFIR32fc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len
 VlqStatus vlq::vlqsFIR32fc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor) {
     return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
 }
+
+VlqStatus vlq::vlqsFIR_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, VlqsFIRState_64fc* state) {
+    return fir::filter(src, dst, len, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIR_64fc_I(Vlq64fc* srcDst, Vlq32s len, VlqsFIRState_64fc* state) {
+    return fir::filterInPlace(srcDst, len, state);
+}
+VlqStatus vlq::vlqsFIR64fc_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, VlqsFIRState64fc_32fc* state) {
+    return fir::filter(src, dst, len, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIR64fc_32fc_I(Vlq32fc* srcDst, Vlq32s len, VlqsFIRState64fc_32fc* state) {
+    return fir::filterNarrowInPlace(srcDst, len, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIR64fc_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, Vlq32s len, VlqsFIRState64fc_32sc* state, Vlq32s scaleFactor) {
+    return fir::filter(src, dst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR64fc_32sc_ISfs(Vlq32sc* srcDst, Vlq32s len, VlqsFIRState64fc_32sc* state, Vlq32s scaleFactor) {
+    return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR64fc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor) {
+    return fir::filter(src, dst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR64fc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor) {
+    return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
+}

@@ -52,3 +52,52 @@ VlqStatus vlq::vlqsFIROne32fc_Direct_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, const V
 VlqStatus vlq::vlqsFIROne32fc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq32fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
     return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq32fc>(scaleFactor));
 }
+
+VlqStatus vlq::vlqsFIR_Direct_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq64fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalBlock<16, VlqsFIRState_64fc>(src, dst, len, taps, tapsLen, dlyLine, dlyLineIndex);
+}
+VlqStatus vlq::vlqsFIR_Direct_64fc_I(Vlq64fc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq64fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalBlockInPlace<VlqsFIRState_64fc>(srcDst, len, taps, tapsLen, dlyLine, dlyLineIndex);
+}
+VlqStatus vlq::vlqsFIROne_Direct_64fc(Vlq64fc src, Vlq64fc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq64fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalOne(src, dst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreAsIs{});
+}
+VlqStatus vlq::vlqsFIROne_Direct_64fc_I(Vlq64fc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq64fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreAsIs{});
+}
+VlqStatus vlq::vlqsFIR64fc_Direct_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalNarrow<128, VlqsFIRState64fc_32fc>(src, dst, len, taps, tapsLen, dlyLine, dlyLineIndex);
+}
+VlqStatus vlq::vlqsFIR64fc_Direct_32fc_I(Vlq32fc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalNarrow<128, VlqsFIRState64fc_32fc>(srcDst, srcDst, len, taps, tapsLen, dlyLine, dlyLineIndex);
+}
+VlqStatus vlq::vlqsFIROne64fc_Direct_32fc(Vlq32fc src, Vlq32fc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalOne(src, dst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreAsIs{});
+}
+VlqStatus vlq::vlqsFIROne64fc_Direct_32fc_I(Vlq32fc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32fc* dlyLine, Vlq32s* dlyLineIndex) {
+    return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreAsIs{});
+}
+VlqStatus vlq::vlqsFIR64fc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalSamples(src, dst, len, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq64fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIR64fc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalSamples(srcDst, srcDst, len, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq64fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIROne64fc_Direct_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalOne(src, dst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq64fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIROne64fc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq64fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIR64fc_Direct_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalSamples(src, dst, len, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq64fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIR64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalSamples(srcDst, srcDst, len, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq64fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIROne64fc_Direct_32sc_Sfs(Vlq32sc src, Vlq32sc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalOne(src, dst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq64fc>(scaleFactor));
+}
+VlqStatus vlq::vlqsFIROne64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
+    return fir::externalOneInPlace(srcDst, taps, tapsLen, dlyLine, dlyLineIndex, fir::StoreScaled<Vlq64fc>(scaleFactor));
+}

@@ -14,3 +14,15 @@ VlqStatus vlq::vlqsFIROne_32fc(Vlq32fc src, Vlq32fc* dst, VlqsFIRState_32fc* sta
 VlqStatus vlq::vlqsFIROne32fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState32fc_16sc* state, Vlq32s scaleFactor) {
     return fir::one(src, dst, state, scaleFactor);
 }
+VlqStatus vlq::vlqsFIROne_64fc(Vlq64fc src, Vlq64fc* dst, VlqsFIRState_64fc* state) {
+    return fir::one(src, dst, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIROne64fc_32fc(Vlq32fc src, Vlq32fc* dst, VlqsFIRState64fc_32fc* state) {
+    return fir::one(src, dst, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIROne64fc_32sc_Sfs(Vlq32sc src, Vlq32sc* dst, VlqsFIRState64fc_32sc* state, Vlq32s scaleFactor) {
+    return fir::one(src, dst, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIROne64fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor) {
+    return fir::one(src, dst, state, scaleFactor);
+}

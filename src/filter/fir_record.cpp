@@ -61,3 +61,54 @@ VlqStatus vlq::vlqsFIRSetTaps32fc_16sc(const Vlq32fc* taps, VlqsFIRState32fc_16s
 VlqStatus vlq::vlqsFIRGetTaps32fc_16sc(const VlqsFIRState32fc_16sc* state, Vlq32fc* taps) { return fir::getTaps(state, taps); }
 VlqStatus vlq::vlqsFIRSetDlyLine32fc_16sc(VlqsFIRState32fc_16sc* state, const Vlq16sc* dlyLine) { return fir::setDelayLine(state, dlyLine); }
 VlqStatus vlq::vlqsFIRGetDlyLine32fc_16sc(const VlqsFIRState32fc_16sc* state, Vlq16sc* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRGetStateSize_64fc(Vlq32s tapsLen, Vlq32s* stateBytes) {
+    return fir::stateSize<Vlq64fc>(tapsLen, stateBytes);
+}
+VlqStatus vlq::vlqsFIRInit_64fc(VlqsFIRState_64fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq64fc* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc_64fc(VlqsFIRState_64fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq64fc* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree_64fc(VlqsFIRState_64fc* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps_64fc(const Vlq64fc* taps, VlqsFIRState_64fc* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps_64fc(const VlqsFIRState_64fc* state, Vlq64fc* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine_64fc(VlqsFIRState_64fc* state, const Vlq64fc* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine_64fc(const VlqsFIRState_64fc* state, Vlq64fc* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRInit64fc_32fc(VlqsFIRState64fc_32fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc64fc_32fc(VlqsFIRState64fc_32fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree64fc_32fc(VlqsFIRState64fc_32fc* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps64fc_32fc(const Vlq64fc* taps, VlqsFIRState64fc_32fc* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps64fc_32fc(const VlqsFIRState64fc_32fc* state, Vlq64fc* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine64fc_32fc(VlqsFIRState64fc_32fc* state, const Vlq32fc* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine64fc_32fc(const VlqsFIRState64fc_32fc* state, Vlq32fc* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRInit64fc_32sc(VlqsFIRState64fc_32sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32sc* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc64fc_32sc(VlqsFIRState64fc_32sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32sc* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree64fc_32sc(VlqsFIRState64fc_32sc* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps64fc_32sc(const Vlq64fc* taps, VlqsFIRState64fc_32sc* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps64fc_32sc(const VlqsFIRState64fc_32sc* state, Vlq64fc* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine64fc_32sc(VlqsFIRState64fc_32sc* state, const Vlq32sc* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine64fc_32sc(const VlqsFIRState64fc_32sc* state, Vlq32sc* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRInit64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree64fc_16sc(VlqsFIRState64fc_16sc* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps64fc_16sc(const Vlq64fc* taps, VlqsFIRState64fc_16sc* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps64fc_16sc(const VlqsFIRState64fc_16sc* state, Vlq64fc* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine64fc_16sc(VlqsFIRState64fc_16sc* state, const Vlq16sc* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine64fc_16sc(const VlqsFIRState64fc_16sc* state, Vlq16sc* dlyLine) { return fir::getDelayLine(state, dlyLine); }

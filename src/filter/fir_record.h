@@ -49,6 +49,7 @@ struct Record {
 };
 static_assert(sizeof(Record<Vlq32f>) == Shape<Vlq32f>::kHeaderBytes);
 static_assert(sizeof(Record<Vlq32fc>) == Shape<Vlq32fc>::kHeaderBytes);
+static_assert(sizeof(Record<Vlq64fc>) == Shape<Vlq64fc>::kHeaderBytes);
 static_assert(offsetof(Record<Vlq32f>, fftSpec) == 32 && offsetof(Record<Vlq32f>, ownsMemory) == 92);
 
 // Sizes of one record: functions of the tap count and of the thread count.
@@ -312,6 +313,10 @@ struct vlq::VlqsFIRState_32f : vlq::fir::Record<Vlq32f> {};
 struct vlq::VlqsFIRState32f_16s : vlq::fir::Record<Vlq32f> {};
 struct vlq::VlqsFIRState_32fc : vlq::fir::Record<Vlq32fc> {};
 struct vlq::VlqsFIRState32fc_16sc : vlq::fir::Record<Vlq32fc> {};
+struct vlq::VlqsFIRState_64fc : vlq::fir::Record<Vlq64fc> {};
+struct vlq::VlqsFIRState64fc_32fc : vlq::fir::Record<Vlq64fc> {};
+struct vlq::VlqsFIRState64fc_32sc : vlq::fir::Record<Vlq64fc> {};
+struct vlq::VlqsFIRState64fc_16sc : vlq::fir::Record<Vlq64fc> {};
 
 namespace vlq::fir {
 
@@ -329,6 +334,22 @@ struct Kind<VlqsFIRState_32fc> : Words<0x46493032, 0x46493034> {
 };
 template <>
 struct Kind<VlqsFIRState32fc_16sc> : Words<0x46493036, 0x46493038> {
+    using Sample = Vlq16sc;
+};
+template <>
+struct Kind<VlqsFIRState_64fc> : Words<0x46493134, 0x46493136> {
+    using Sample = Vlq64fc;
+};
+template <>
+struct Kind<VlqsFIRState64fc_32fc> : Words<0x46493138, 0x46493230> {
+    using Sample = Vlq32fc;
+};
+template <>
+struct Kind<VlqsFIRState64fc_32sc> : Words<0x46493232, 0x46493234> {
+    using Sample = Vlq32sc;
+};
+template <>
+struct Kind<VlqsFIRState64fc_16sc> : Words<0x46493236, 0x46493238> {
     using Sample = Vlq16sc;
 };
 

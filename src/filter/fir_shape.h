@@ -37,6 +37,13 @@ struct SinglePrecision {
     static constexpr bool kLeavesTransformPath = false;
 };
 
+struct DoublePrecision {
+    static constexpr int kAlignment = 32;
+    static constexpr Vlq64s kHeaderBytes = 128;
+    static constexpr Vlq32s kSpareWords = 6;
+    static constexpr bool kLeavesTransformPath = true;
+};
+
 template <class E>
 struct Shape;
 
@@ -100,6 +107,37 @@ struct Shape<Vlq32fc> : ComplexShape, SinglePrecision {
     }
     static VlqStatus multiplySpectra(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len) {
         return vlqsMul_32fc_I(src, srcDst, len);
+    }
+};
+
+// Complex double.
+template <>
+struct Shape<Vlq64fc> : ComplexShape, DoublePrecision {
+    using Spec = VlqsFFTSpec_C_64fc;
+
+    static constexpr Vlq32s kTransformTaps = 16;  // a transform is prepared from this many taps
+    static constexpr Vlq64s tapsWideBytes(Vlq64s tapBytes) { return 2 * tapBytes; }
+    static constexpr Vlq64s kAlignmentSlack = 32;
+
+    static VlqStatus transformSize(Vlq32s order, Vlq32s* spec, Vlq32s* init, Vlq32s* work) {
+        return vlqsFFTGetSize_C_64fc(order, vlqNormInvByN, vlqHintNone, spec, init, work);
+    }
+    static VlqStatus makeTransform(Spec** spec, Vlq32s order, Vlq8u* memory, Vlq8u* scratch) {
+        return vlqsFFTInit_C_64fc(spec, order, vlqNormInvByN, vlqHintNone, memory, scratch);
+    }
+    static VlqStatus allocateTransform(Spec** spec, Vlq32s order) {
+        return vlqsFFTInitAlloc_C_64fc(spec, order, vlqNormInvByN, vlqHintNone);
+    }
+    static VlqStatus freeTransform(Spec* spec) { return vlqsFFTFree_C_64fc(spec); }
+
+    static VlqStatus forward(const Vlq64fc* src, Vlq64fc* dst, const Spec* spec, Vlq8u* work) {
+        return vlqsFFTFwd_CToC_64fc(src, dst, spec, work);
+    }
+    static VlqStatus inverse(const Vlq64fc* src, Vlq64fc* dst, const Spec* spec, Vlq8u* work) {
+        return vlqsFFTInv_CToC_64fc(src, dst, spec, work);
+    }
+    static VlqStatus multiplySpectra(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len) {
+        return vlqsMul_64fc_I(src, srcDst, len);
     }
 };
 

@@ -92,6 +92,86 @@ struct Direct32fc_16sc {
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
 };
+struct Direct64fc {
+    using Tap = Vlq64fc;
+    using Sample = Vlq64fc;
+    static constexpr bool kScaled = false;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIR_Direct_64fc(src, dst, len, taps, n, line, index);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIR_Direct_64fc_I(srcDst, len, taps, n, line, index);
+    }
+    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIROne_Direct_64fc(src, dst, taps, n, line, index);
+    }
+    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIROne_Direct_64fc_I(srcDst, taps, n, line, index);
+    }
+    static constexpr int kDirectTaps = 16;  // fewer: no record
+    static constexpr int kDirectLen = 1 << 30;
+    static constexpr int kTransformTaps = 16, kTransformLen = 256;
+};
+struct Direct64fc_16sc {
+    using Tap = Vlq64fc;
+    using Sample = Vlq16sc;
+    static constexpr bool kScaled = true;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIR64fc_Direct_16sc_Sfs(src, dst, len, taps, n, line, index, scale);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIR64fc_Direct_16sc_ISfs(srcDst, len, taps, n, line, index, scale);
+    }
+    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIROne64fc_Direct_16sc_Sfs(src, dst, taps, n, line, index, scale);
+    }
+    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIROne64fc_Direct_16sc_ISfs(srcDst, taps, n, line, index, scale);
+    }
+    static constexpr int kDirectTaps = 1 << 30;
+    static constexpr int kDirectLen = 1 << 30;
+    static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
+};
+struct Direct64fc_32sc {
+    using Tap = Vlq64fc;
+    using Sample = Vlq32sc;
+    static constexpr bool kScaled = true;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIR64fc_Direct_32sc_Sfs(src, dst, len, taps, n, line, index, scale);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIR64fc_Direct_32sc_ISfs(srcDst, len, taps, n, line, index, scale);
+    }
+    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIROne64fc_Direct_32sc_Sfs(src, dst, taps, n, line, index, scale);
+    }
+    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIROne64fc_Direct_32sc_ISfs(srcDst, taps, n, line, index, scale);
+    }
+    static constexpr int kDirectTaps = 1 << 30;
+    static constexpr int kDirectLen = 1 << 30;
+    static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
+};
+struct Direct64fc_32fc {
+    using Tap = Vlq64fc;
+    using Sample = Vlq32fc;
+    static constexpr bool kScaled = false;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIR64fc_Direct_32fc(src, dst, len, taps, n, line, index);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIR64fc_Direct_32fc_I(srcDst, len, taps, n, line, index);
+    }
+    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIROne64fc_Direct_32fc(src, dst, taps, n, line, index);
+    }
+    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIROne64fc_Direct_32fc_I(srcDst, taps, n, line, index);
+    }
+    static constexpr int kDirectTaps = 1 << 30;
+    static constexpr int kDirectLen = 128;  // shorter: no record
+    static constexpr int kTransformTaps = 16, kTransformLen = 256;
+};
 
 // The caller's side of a filter, beside the definition.
 template <class K>
@@ -199,7 +279,7 @@ private:
     int outstanding_ = Core::outstanding();
 };
 
-using Kinds = ::testing::Types<Direct32f, Direct32fc, Direct32f_16s, Direct32fc_16sc>;
+using Kinds = ::testing::Types<Direct32f, Direct32fc, Direct32f_16s, Direct32fc_16sc, Direct64fc, Direct64fc_16sc, Direct64fc_32sc, Direct64fc_32fc>;
 TYPED_TEST_SUITE(FirExternal, Kinds);
 
 TYPED_TEST(FirExternal, SingleSamples) {

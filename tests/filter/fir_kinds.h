@@ -64,6 +64,110 @@ struct Fir32fc_16sc {
         return vlqsFIROne32fc_16sc_Sfs(src, dst, state, scale);
     }
 };
+struct Fir64fc {
+    using Tap = Vlq64fc;
+    using Sample = Vlq64fc;
+    using State = VlqsFIRState_64fc;
+    static constexpr bool kScaled = false;
+    static constexpr Vlq32u kWord = 0x46493134, kMultiRateWord = 0x46493136;
+    static constexpr int kTransformTaps = 16;
+    static constexpr auto stateSize = vlqsFIRGetStateSize_64fc;
+    static constexpr auto init = vlqsFIRInit_64fc;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc_64fc;
+    static constexpr auto free = vlqsFIRFree_64fc;
+    static constexpr auto setTaps = vlqsFIRSetTaps_64fc;
+    static constexpr auto getTaps = vlqsFIRGetTaps_64fc;
+    static constexpr auto setLine = vlqsFIRSetDlyLine_64fc;
+    static constexpr auto getLine = vlqsFIRGetDlyLine_64fc;
+    static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
+        return vlqsFIR_64fc(src, dst, len, state);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
+        return vlqsFIR_64fc_I(srcDst, len, state);
+    }
+    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
+        return vlqsFIROne_64fc(src, dst, state);
+    }
+};
+struct Fir64fc_32fc {
+    using Tap = Vlq64fc;
+    using Sample = Vlq32fc;
+    using State = VlqsFIRState64fc_32fc;
+    static constexpr bool kScaled = false;
+    static constexpr Vlq32u kWord = 0x46493138, kMultiRateWord = 0x46493230;
+    static constexpr int kTransformTaps = 16;
+    static constexpr auto stateSize = vlqsFIRGetStateSize64fc_32fc;
+    static constexpr auto init = vlqsFIRInit64fc_32fc;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc64fc_32fc;
+    static constexpr auto free = vlqsFIRFree64fc_32fc;
+    static constexpr auto setTaps = vlqsFIRSetTaps64fc_32fc;
+    static constexpr auto getTaps = vlqsFIRGetTaps64fc_32fc;
+    static constexpr auto setLine = vlqsFIRSetDlyLine64fc_32fc;
+    static constexpr auto getLine = vlqsFIRGetDlyLine64fc_32fc;
+    static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
+        return vlqsFIR64fc_32fc(src, dst, len, state);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
+        return vlqsFIR64fc_32fc_I(srcDst, len, state);
+    }
+    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
+        return vlqsFIROne64fc_32fc(src, dst, state);
+    }
+};
+struct Fir64fc_32sc {
+    using Tap = Vlq64fc;
+    using Sample = Vlq32sc;
+    using State = VlqsFIRState64fc_32sc;
+    static constexpr bool kScaled = true;
+    static constexpr Vlq32u kWord = 0x46493232, kMultiRateWord = 0x46493234;
+    static constexpr int kTransformTaps = 16;
+    static constexpr auto stateSize = vlqsFIRGetStateSize64fc_32sc;
+    static constexpr auto init = vlqsFIRInit64fc_32sc;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc64fc_32sc;
+    static constexpr auto free = vlqsFIRFree64fc_32sc;
+    static constexpr auto setTaps = vlqsFIRSetTaps64fc_32sc;
+    static constexpr auto getTaps = vlqsFIRGetTaps64fc_32sc;
+    static constexpr auto setLine = vlqsFIRSetDlyLine64fc_32sc;
+    static constexpr auto getLine = vlqsFIRGetDlyLine64fc_32sc;
+    static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
+        return vlqsFIR64fc_32sc_Sfs(src, dst, len, state, scale);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
+        return vlqsFIR64fc_32sc_ISfs(srcDst, len, state, scale);
+    }
+    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
+        return vlqsFIROne64fc_32sc_Sfs(src, dst, state, scale);
+    }
+};
+struct Fir64fc_16sc {
+    using Tap = Vlq64fc;
+    using Sample = Vlq16sc;
+    using State = VlqsFIRState64fc_16sc;
+    static constexpr bool kScaled = true;
+    static constexpr Vlq32u kWord = 0x46493236, kMultiRateWord = 0x46493238;
+    static constexpr int kTransformTaps = 16;
+    static constexpr auto stateSize = vlqsFIRGetStateSize64fc_16sc;
+    static constexpr auto init = vlqsFIRInit64fc_16sc;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc64fc_16sc;
+    static constexpr auto free = vlqsFIRFree64fc_16sc;
+    static constexpr auto setTaps = vlqsFIRSetTaps64fc_16sc;
+    static constexpr auto getTaps = vlqsFIRGetTaps64fc_16sc;
+    static constexpr auto setLine = vlqsFIRSetDlyLine64fc_16sc;
+    static constexpr auto getLine = vlqsFIRGetDlyLine64fc_16sc;
+    static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
+        return vlqsFIR64fc_16sc_Sfs(src, dst, len, state, scale);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
+        return vlqsFIR64fc_16sc_ISfs(srcDst, len, state, scale);
+    }
+    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
+        return vlqsFIROne64fc_16sc_Sfs(src, dst, state, scale);
+    }
+};
 
 // ---- values of every type -------------------------------------------------------------------------
 
