@@ -243,6 +243,174 @@ VlqStatus vlqsFFTInv_PermToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSp
 VlqStatus vlqsFFTInv_PermToR_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
 /** @} */
 
+/** @name Records of the fixed-point transforms, opaque
+ *  @{ */
+typedef struct VlqsFFTSpec_C_16sc VlqsFFTSpec_C_16sc;     /**< interleaved 16 bits */
+typedef struct VlqsFFTSpec_C_16s VlqsFFTSpec_C_16s;       /**< 16 bits, parts in two arrays */
+typedef struct VlqsFFTSpec_R_16s VlqsFFTSpec_R_16s;       /**< real, 16 bits */
+typedef struct VlqsFFTSpec_C_32sc VlqsFFTSpec_C_32sc;     /**< interleaved 32 bits */
+typedef struct VlqsFFTSpec_C_32s VlqsFFTSpec_C_32s;       /**< 32 bits, parts in two arrays */
+typedef struct VlqsFFTSpec_R_32s VlqsFFTSpec_R_32s;       /**< real, 32 bits */
+typedef struct VlqsFFTSpec_R_16s32s VlqsFFTSpec_R_16s32s; /**< real, 16-bit signals with 32-bit spectra */
+/** @} */
+
+/** @name Fixed-point FFT: planning
+ *  @{ */
+/**
+ * The records of transforms of N = 2^order complex or real points in integers; the calls are those
+ * of the floating transforms.
+ *
+ * **Normalisation.** @p flag is #vlqNormFwdByN, #vlqNormInvByN, #vlqNormBySqrtN or #vlqNormNone, as
+ * for floating transforms; the scale factor of a call comes on top.
+ *
+ * **Accuracy.** @p hint chooses for up to 8 points of 16 bits: with #vlqHintNone and #vlqHintFast
+ * these transforms run in integers of 32 bits, with factors of 14 bits, otherwise in single
+ * precision like all longer ones. 32-bit samples run in double precision.
+ *
+ * **Shapes.** Orders: 0 to 28 for complex and 0 to 29 for real points of 16 bits, 0 to 27 and 0 to 28
+ * of 32 bits, 0 to 29 of `R_16s32s`. The memory may begin at any address. A record stands at the
+ * first 64-byte boundary in @p specMem and must not be moved. @p initBuf may be null up to order 10.
+ * At the largest order of each kind the work buffer does not fit 32 bits: the size wraps, and
+ * transforms answer #vlqStsNoMemory.
+ *
+ * **Errors,** in this order. `GetSize`: #vlqStsBadOrder for an order below 0 or above 30,
+ * #vlqStsNullPtr for a null size, #vlqStsBadFlag, #vlqStsBadOrder above the largest order. `Init`:
+ * #vlqStsNullPtr for @p outSpec, #vlqStsBadOrder, #vlqStsNullPtr for @p specMem, #vlqStsBadFlag,
+ * #vlqStsNullPtr for @p initBuf. `InitAlloc`: #vlqStsNullPtr, those of `GetSize`, #vlqStsNoMemory.
+ * `GetBufSize` and `Free`: #vlqStsNullPtr for a null pointer, #vlqStsBadSpec for a record that is
+ * dead or of another kind.
+ *
+ * **Memory.** `InitAlloc` allocates the record and, while it works, the scratch of `Init`.
+ *
+ * @arg @c order     base-2 logarithm of the length
+ * @arg @c flag      normalisation
+ * @arg @c hint      integers or floats, see above
+ * @arg @c specBytes receives the size of a record
+ * @arg @c initBytes receives the size of the scratch of `Init`
+ * @arg @c workBytes receives the size of a transform's work buffer
+ * @arg @c outSpec   receives the record's address
+ * @arg @c specMem   memory for the record, `specBytes` long
+ * @arg @c initBuf   scratch of `Init`, `initBytes` long
+ * @arg @c bufBytes  receives the size of a transform's work buffer, 0 when it needs none
+ * @arg @c spec      record
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFFTGetSize_C_16sc(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_C_16sc(VlqsFFTSpec_C_16sc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_C_16sc(VlqsFFTSpec_C_16sc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_C_16sc(const VlqsFFTSpec_C_16sc* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_C_16sc(VlqsFFTSpec_C_16sc* spec);
+VlqStatus vlqsFFTGetSize_C_16s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_C_16s(VlqsFFTSpec_C_16s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_C_16s(VlqsFFTSpec_C_16s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_C_16s(const VlqsFFTSpec_C_16s* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_C_16s(VlqsFFTSpec_C_16s* spec);
+VlqStatus vlqsFFTGetSize_R_16s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_R_16s(VlqsFFTSpec_R_16s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_R_16s(VlqsFFTSpec_R_16s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_R_16s(const VlqsFFTSpec_R_16s* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_R_16s(VlqsFFTSpec_R_16s* spec);
+VlqStatus vlqsFFTGetSize_C_32sc(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_C_32sc(VlqsFFTSpec_C_32sc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_C_32sc(VlqsFFTSpec_C_32sc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_C_32sc(const VlqsFFTSpec_C_32sc* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_C_32sc(VlqsFFTSpec_C_32sc* spec);
+VlqStatus vlqsFFTGetSize_C_32s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_C_32s(VlqsFFTSpec_C_32s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_C_32s(VlqsFFTSpec_C_32s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_C_32s(const VlqsFFTSpec_C_32s* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_C_32s(VlqsFFTSpec_C_32s* spec);
+VlqStatus vlqsFFTGetSize_R_32s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_R_32s(VlqsFFTSpec_R_32s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_R_32s(VlqsFFTSpec_R_32s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_R_32s(const VlqsFFTSpec_R_32s* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_R_32s(VlqsFFTSpec_R_32s* spec);
+VlqStatus vlqsFFTGetSize_R_16s32s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes);
+VlqStatus vlqsFFTInit_R_16s32s(VlqsFFTSpec_R_16s32s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf);
+VlqStatus vlqsFFTInitAlloc_R_16s32s(VlqsFFTSpec_R_16s32s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint);
+VlqStatus vlqsFFTGetBufSize_R_16s32s(const VlqsFFTSpec_R_16s32s* spec, Vlq32s* bufBytes);
+VlqStatus vlqsFFTFree_R_16s32s(VlqsFFTSpec_R_16s32s* spec);
+/** @} */
+
+/** @name Fixed-point FFT
+ *  @{ */
+/**
+ * The transforms of their floating namesakes, forward with `exp(-2 pi i n k / N)`, inverse with a
+ * plus sign, times the record's normalisation and 2^-scaleFactor, rounded once at the end and
+ * brought into the range of the element. Real spectra come in the layouts CCS, Pack and Perm.
+ *
+ * **Rounding.** In floating point to nearest, halves to even. In integers halves up; there a shift
+ * to the left, by a @p scaleFactor below what normalisation and headroom shift right, drops what
+ * leaves 32 bits, and shifts of 32 and more give 0.
+ *
+ * **Shapes.** Complex vectors have N elements, signals N, spectra N or, in CCS, N + 2 (2 for one
+ * point; an in-place vector has that length). Any alignment. Source and destination are one
+ * vector or do not overlap. The work buffer has the size that `GetBufSize` tells, any alignment; its contents are lost.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null record, #vlqStsBadSpec for one that is dead
+ * or of another kind, #vlqStsNullPtr for a null vector, #vlqStsNoMemory.
+ *
+ * **Memory.** A null @p buf makes the call allocate the work buffer, except for one point of 16
+ * bits, which needs none.
+ *
+ * @arg @c src         input
+ * @arg @c dst         output
+ * @arg @c srcDst      input and output
+ * @arg @c srcRe       real parts of the input
+ * @arg @c srcIm       imaginary parts of the input
+ * @arg @c dstRe       real parts of the output
+ * @arg @c dstIm       imaginary parts of the output
+ * @arg @c srcDstRe    real parts of input and output
+ * @arg @c srcDstIm    imaginary parts of input and output
+ * @arg @c spec        record
+ * @arg @c scaleFactor the result is multiplied by 2^-scaleFactor
+ * @arg @c buf         work buffer, or null
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFFTFwd_CToC_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_16sc_ISfs(Vlq16sc* srcDst, const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_16sc_ISfs(Vlq16sc* srcDst, const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_16s_Sfs(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe, Vlq16s* dstIm, const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_16s_ISfs(Vlq16s* srcDstRe, Vlq16s* srcDstIm, const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_16s_Sfs(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe, Vlq16s* dstIm, const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_16s_ISfs(Vlq16s* srcDstRe, Vlq16s* srcDstIm, const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToCCS_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToCCS_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPack_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPack_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPerm_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPerm_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PackToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PackToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PermToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PermToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, const VlqsFFTSpec_C_32sc* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_32sc_ISfs(Vlq32sc* srcDst, const VlqsFFTSpec_C_32sc* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, const VlqsFFTSpec_C_32sc* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_32sc_ISfs(Vlq32sc* srcDst, const VlqsFFTSpec_C_32sc* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_32s_Sfs(const Vlq32s* srcRe, const Vlq32s* srcIm, Vlq32s* dstRe, Vlq32s* dstIm, const VlqsFFTSpec_C_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_CToC_32s_ISfs(Vlq32s* srcDstRe, Vlq32s* srcDstIm, const VlqsFFTSpec_C_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_32s_Sfs(const Vlq32s* srcRe, const Vlq32s* srcIm, Vlq32s* dstRe, Vlq32s* dstIm, const VlqsFFTSpec_C_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CToC_32s_ISfs(Vlq32s* srcDstRe, Vlq32s* srcDstIm, const VlqsFFTSpec_C_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToCCS_32s_Sfs(const Vlq32s* src, Vlq32s* dst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToCCS_32s_ISfs(Vlq32s* srcDst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPack_32s_Sfs(const Vlq32s* src, Vlq32s* dst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPack_32s_ISfs(Vlq32s* srcDst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPerm_32s_Sfs(const Vlq32s* src, Vlq32s* dst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToPerm_32s_ISfs(Vlq32s* srcDst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_32s_Sfs(const Vlq32s* src, Vlq32s* dst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_32s_ISfs(Vlq32s* srcDst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PackToR_32s_Sfs(const Vlq32s* src, Vlq32s* dst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PackToR_32s_ISfs(Vlq32s* srcDst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PermToR_32s_Sfs(const Vlq32s* src, Vlq32s* dst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_PermToR_32s_ISfs(Vlq32s* srcDst, const VlqsFFTSpec_R_32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTFwd_RToCCS_16s32s_Sfs(const Vlq16s* src, Vlq32s* dst, const VlqsFFTSpec_R_16s32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+VlqStatus vlqsFFTInv_CCSToR_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s32s* spec, Vlq32s scaleFactor, Vlq8u* buf);
+/** @} */
+
 /** @name Products of packed spectra
  *  @{ */
 /**

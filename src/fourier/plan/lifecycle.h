@@ -45,11 +45,13 @@ VlqStatus init(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint
     return vlqStsOk;
 }
 
-template <class Kind>
-VlqStatus initAlloc(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+// A record in a block of its own, by the size query and the init call of its kind.
+template <class Spec, class GetSize, class Init>
+VlqStatus allocateAndInit(Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, GetSize getSizeOfKind,
+                          Init initOfKind) {
     if (!outSpec) return vlqStsNullPtr;
     Vlq32s specBytes, initBytes, workBytes;
-    VlqStatus status = getSize<Kind>(order, flag, &specBytes, &initBytes, &workBytes);
+    VlqStatus status = getSizeOfKind(order, flag, hint, &specBytes, &initBytes, &workBytes);
     if (status != vlqStsOk) return status;
     Vlq8u* block = vlqsMalloc_8u(specBytes);
     if (!block) return vlqStsNoMemory;
@@ -58,11 +60,19 @@ VlqStatus initAlloc(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, Vl
         vlqsFree(block);
         return vlqStsNoMemory;
     }
-    status = init<Kind>(outSpec, order, flag, hint, block, scratch);
+    status = initOfKind(outSpec, order, flag, hint, block, scratch);
     if (scratch) vlqsFree(scratch);
     if (status == vlqStsOk) (*outSpec)->owned = 1;
     else vlqsFree(block);
     return status;
+}
+
+template <class Kind>
+VlqStatus initAlloc(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+    auto sizes = [](Vlq32s n, Vlq32s f, VlqHint, Vlq32s* spec, Vlq32s* scratch, Vlq32s* work) {
+        return getSize<Kind>(n, f, spec, scratch, work);
+    };
+    return allocateAndInit(outSpec, order, flag, hint, sizes, init<Kind>);
 }
 
 template <class Kind>

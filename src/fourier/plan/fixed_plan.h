@@ -1,0 +1,124 @@
+// Records of the fixed-point transforms: a header, and behind it the record of the floating
+// transform that does the work.
+#pragma once
+
+#include <new>
+
+#include "fourier/plan/lifecycle.h"
+
+namespace vlq::fft {
+
+// 16-bit samples. Orders 0 to 3 may run in integers and then have no floating record.
+template <class Inner>
+struct FixedRecord16 {
+    Vlq32s ident;
+    Vlq32s order;
+    Vlq32s fwdShift;  // what normalisation shifts right in integers
+    Vlq32s invShift;
+    Vlq32s halfStep;  // and whether it multiplies by 1/sqrt(2) besides
+    Vlq32s hint;
+    Vlq32s workBytes;
+    Vlq32s useFloat;  // runs on floatRecord
+    Vlq32s owned;
+    RelPtr<Inner> floatRecord;
+};
+
+// 32-bit results: always in floating point, which also normalises.
+template <class Inner>
+struct FixedRecord32 {
+    Vlq32s ident;
+    Vlq32s order;
+    Vlq32s hint;
+    Vlq32s workBytes;
+    Vlq32s owned;
+    RelPtr<Inner> floatRecord;
+};
+
+// The integer path of the 16-bit kinds.
+inline constexpr int kIntegerOrders = 3;
+constexpr bool runsInIntegers(int order, VlqHint hint) {
+    return order == 0 || (order <= kIntegerOrders && (hint == vlqHintNone || hint == vlqHintFast));
+}
+
+inline constexpr Vlq64s kFixedHeader = 128;  // a header and its alignment
+
+// A fixed-point Kind gives its Spec, ident, Float with the calls of the floating kind, dataBytes()
+// of the floating values in the work buffer, is16; a 16-bit one also integerWork(). Sizes that do
+// not fit, at the largest orders, wrap.
+template <class Kind>
+VlqStatus fixedGetSize(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes,
+                       Vlq32s* workBytes) {
+    using Float = typename Kind::Float;
+    Vlq32s spec = 0, init = 0, work = 0;
+    const bool pointers = specBytes && initBytes && workBytes;
+    const VlqStatus status = Float::getSize(order, flag, vlqHintNone, pointers ? &spec : nullptr, &init, &work);
+    if (status != vlqStsOk) return status;
+    PlanSizes sizes{spec + kFixedHeader, init, work + Kind::dataBytes(order) + 64};
+    if constexpr (Kind::is16) {
+        sizes.init += 64;
+        if (order == 0) {
+            sizes = {116, 0, 0};
+        } else if (runsInIntegers(order, hint)) {
+            // What tables of twiddles and of a bit reversal for eight values would take.
+            sizes = {64 * (Kind::isReal ? 3 : 2) + kFixedHeader, 128, Kind::integerWork(order) + 64};
+        }
+    } else if (init > 0) {
+        sizes.init += 64;
+    }
+    *specBytes = static_cast<Vlq32s>(sizes.spec);
+    *initBytes = static_cast<Vlq32s>(sizes.init);
+    *workBytes = static_cast<Vlq32s>(sizes.work);
+    return vlqStsOk;
+}
+
+template <class Spec>
+void setShifts(Spec& spec, int order, Vlq32s flag) {
+    if (flag == vlqNormFwdByN) spec.fwdShift = order;
+    if (flag == vlqNormInvByN) spec.invShift = order;
+    if (flag == vlqNormBySqrtN) {
+        spec.fwdShift = spec.invShift = order / 2;
+        spec.halfStep = order & 1;
+    }
+}
+
+template <class Kind>
+VlqStatus fixedInit(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem,
+                    Vlq8u* initBuf) {
+    using Float = typename Kind::Float;
+    using Spec = typename Kind::Spec;
+    if (!outSpec) return vlqStsNullPtr;
+    if (order < 0 || order > Kind::largestOrder) return vlqStsBadOrder;
+    if (!specMem) return vlqStsNullPtr;
+    Spec* const spec = ::new (alignUp(specMem, kTableAlignment)) Spec{};
+    spec->hint = hint;
+    spec->order = order;
+    if (!isNormalisation(flag)) return vlqStsBadFlag;
+    bool useFloat = true;
+    if constexpr (Kind::is16) {
+        setShifts(*spec, order, flag);
+        useFloat = !runsInIntegers(order, hint);
+        spec->useFloat = useFloat;
+        if (!useFloat && order > 0) spec->workBytes = static_cast<Vlq32s>(Kind::integerWork(order));
+    }
+    if (useFloat) {
+        typename Float::Spec* inner = nullptr;
+        Vlq8u* const rest = alignUp(reinterpret_cast<Vlq8u*>(spec + 1), kTableAlignment);
+        VlqStatus status = Float::init(&inner, order, flag, vlqHintNone, rest, initBuf);
+        Vlq32s bytes = 0;
+        if (status == vlqStsOk) status = Float::getBufSize(inner, &bytes);
+        if (status != vlqStsOk) return status;
+        const Vlq64s innerWork = bytes > 0 ? bytes - 64 : 0;
+        spec->workBytes = static_cast<Vlq32s>(innerWork + Kind::dataBytes(order));
+        spec->floatRecord = inner;
+    }
+    spec->ident = Kind::ident;
+    *outSpec = spec;
+    return vlqStsOk;
+}
+
+template <class Kind>
+VlqStatus fixedInitAlloc(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+    return allocateAndInit(outSpec, order, flag, hint, fixedGetSize<Kind>, fixedInit<Kind>);
+}
+
+}  // namespace vlq::fft
