@@ -75,10 +75,18 @@ inline void multiplyPack(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
 // A Perm spectrum: both real terms at the front.
 template <class T, class Op>
 inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op op) {
-    const std::ptrdiff_t real = len % 2 == 0 ? 2 : 1;
-    multiplyReal(a, b, dst);
-    if (real == 2) multiplyReal(a + 1, b + 1, dst + 1);
-    multiplyPairs(a + real, b + real, dst + real, (len - real) / 2, op);
+    T real[2] = {};
+    multiplyReal(a, b, &real[0]);
+    if (len % 2 == 0) {
+        // The real terms go through the pairs' loop and are put right after it: so its vectors stand
+        // where a transform stored its own and reads the next, and none waits for two stores.
+        multiplyReal(a + 1, b + 1, &real[1]);
+        multiplyPairs(a, b, dst, len / 2, op);
+        std::memcpy(dst, real, sizeof real);
+    } else {
+        multiplyPairs(a + 1, b + 1, dst + 1, len / 2, op);
+        std::memcpy(dst, real, sizeof(T));
+    }
 }
 
 // Spectrum value k, and its conjugate at len - k, for k = 1 to `pairs`; pair 1 stands at `src`. From
