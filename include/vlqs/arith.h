@@ -23,11 +23,12 @@ VLQS_BEGIN_DECLS
  * - #vlqsAdd_64s_Sfs stores 0 at a @p scaleFactor of 64 or more, where the largest sums would round
  *   to 1 or -1.
  *
- * Float results are one IEEE operation in the precision of the samples. Complex samples are pairs of
- * independent reals.
+ * Float results are one IEEE operation in the precision of the samples; where both operands are not
+ * numbers, either one's payload may be that of the result. Complex samples are pairs of independent
+ * reals.
  *
- * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be one of the sources;
- * other overlaps are not allowed.
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be a source of its own
+ * type; other overlaps are not allowed.
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
  * Complex forms: #vlqStsBadSize for @p len below 1, #vlqStsNullPtr, #vlqStsBadSize for @p len of 2^30
@@ -630,8 +631,8 @@ VlqStatus vlqsDivC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
  *
- * **Memory.** None. From the size where a vector would sweep half the last-level cache, stores go
- * past the cache; the processor is asked for that size on each such call.
+ * **Memory.** None. Long vectors are left to the processor's fill instruction, which goes past the
+ * cache where that is faster.
  *
  * @param dst result
  * @param len number of elements
@@ -659,7 +660,9 @@ VlqStatus vlqsZero_64fc(Vlq64fc* dst, Vlq32s len);
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
  *
- * **Memory.** None. Long vectors go past the cache, as those of the clear do.
+ * **Memory.** None. Long vectors travel as those of the clear do; elements of 16 bytes, for which no
+ * such instruction exists, are stored past the cache where the vector is half as large again as the
+ * last-level cache.
  *
  * @param val value of every element
  * @param dst result
@@ -688,8 +691,9 @@ VlqStatus vlqsSet_64fc(Vlq64fc val, Vlq64fc* dst, Vlq32s len);
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
  *
- * **Memory.** None. A vector of half the last-level cache or more is touched in stretches and
- * stored past the cache, so that a long copy leaves the caller's working set in place.
+ * **Memory.** None. From 8 MiB the processor is asked for its last-level cache on each call; a vector
+ * of three quarters of that or more is stored past the cache, so that a long copy leaves the
+ * caller's working set in place.
  *
  * @param src source
  * @param dst result

@@ -65,6 +65,10 @@ VlqStatus vlq::vlqsFFTGetSize_C_32fc(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s*
                                      Vlq32s* workBytes) {
     return getSize<C_32fc>(order, flag, specBytes, initBytes, workBytes);
 }
+VlqStatus vlq::vlqsFFTGetSize_C_32f(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s* specBytes, Vlq32s* initBytes,
+                                    Vlq32s* workBytes) {
+    return getSize<C_32f>(order, flag, specBytes, initBytes, workBytes);
+}
 VlqStatus vlq::vlqsFFTInit_C_32fc(VlqsFFTSpec_C_32fc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
                                   Vlq8u* specMem, Vlq8u* initBuf) {
     return init<C_32fc>(outSpec, order, flag, hint, specMem, initBuf);
@@ -118,6 +122,10 @@ VlqStatus vlq::vlqsFFTInv_CToC_32f_I(Vlq32f* srcDstRe, Vlq32f* srcDstIm, const V
 VlqStatus vlq::vlqsFFTGetSize_C_64fc(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s* specBytes, Vlq32s* initBytes,
                                      Vlq32s* workBytes) {
     return getSize<C_64fc>(order, flag, specBytes, initBytes, workBytes);
+}
+VlqStatus vlq::vlqsFFTGetSize_C_64f(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s* specBytes, Vlq32s* initBytes,
+                                    Vlq32s* workBytes) {
+    return getSize<C_64f>(order, flag, specBytes, initBytes, workBytes);
 }
 VlqStatus vlq::vlqsFFTInit_C_64fc(VlqsFFTSpec_C_64fc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
                                   Vlq8u* specMem, Vlq8u* initBuf) {

@@ -6,7 +6,7 @@ namespace {
 template <class T>
 T* allocate(Vlq32s len) {
     if (len < 1) return nullptr;
-    // Wraps in 32 bits like the contract's multiplication; unsigned, so the wrap is defined.
+    // The product wraps in 32 bits, as the manual says; unsigned, so the wrap is defined.
     const Vlq32u bytes = static_cast<Vlq32u>(len) * static_cast<Vlq32u>(sizeof(T));
     return static_cast<T*>(vlqMalloc(static_cast<Vlq32s>(bytes)));
 }

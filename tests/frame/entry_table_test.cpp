@@ -109,6 +109,63 @@ TEST(EntryTable, AliasesShareOneBodyAndNothingElseDoes) {
     EXPECT_EQ(wantRows, gotRows);
 }
 
+// Names that share a body, as the manual of the interface has them. Elements of one size are moved
+// by one body, records of one shape are sized by one. Fills by value are the exception: floats and
+// integers arrive in different registers.
+TEST(EntryTable, AliasRows) {
+    const std::vector<std::vector<std::string>> rows = {
+        {"Copy_16sc", "Copy_32f", "Copy_32s"},
+        {"Copy_32fc", "Copy_32sc", "Copy_64f", "Copy_64s"},
+        {"Copy_64fc", "Copy_64sc"},
+        {"Move_16sc", "Move_32f", "Move_32s"},
+        {"Move_32fc", "Move_32sc", "Move_64f", "Move_64s"},
+        {"Move_64fc", "Move_64sc"},
+        {"Zero_16sc", "Zero_32f", "Zero_32s"},
+        {"Zero_32fc", "Zero_32sc", "Zero_64f", "Zero_64s"},
+        {"Zero_64fc", "Zero_64sc"},
+        {"SampleUp_16sc", "SampleUp_32f"},
+        {"SampleUp_32fc", "SampleUp_64f"},
+        {"Malloc_8s", "Malloc_8u"},
+        {"Malloc_16s", "Malloc_16u", "Malloc_8sc"},
+        {"Malloc_16sc", "Malloc_32f", "Malloc_32s", "Malloc_32u"},
+        {"Malloc_32fc", "Malloc_32sc", "Malloc_64f", "Malloc_64s"},
+        {"Malloc_64fc", "Malloc_64sc"},
+        {"FFTGetSize_C_32s", "FFTGetSize_C_32sc"},
+        {"FIRGetStateSize32f_16s", "FIRGetStateSize_32f", "FIRStreamGetStateSize_32f"},
+        {"FIRGetStateSize32fc_16sc", "FIRGetStateSize_32fc"},
+        {"FIRGetStateSize64f_16s", "FIRGetStateSize64f_32f", "FIRGetStateSize64f_32s", "FIRGetStateSize_64f"},
+        {"FIRGetStateSize64fc_16sc", "FIRGetStateSize64fc_32fc", "FIRGetStateSize64fc_32sc", "FIRGetStateSize_64fc"},
+        {"FIRMRGetStateSize32fc_16sc", "FIRMRGetStateSize_32fc"},
+        {"FIRMRGetStateSize64fc_16sc", "FIRMRGetStateSize64fc_32fc", "FIRMRGetStateSize64fc_32sc",
+         "FIRMRGetStateSize_64fc"},
+        {"FIRLMSFree32f_16s", "FIRLMSFree_32f"},
+        {"FIRLMSMRFree32s_16s", "FIRLMSMRFree32sc_16sc"},
+        {"FIRLMSMRGetTapsPointer32s_16s", "FIRLMSMRGetTapsPointer32sc_16sc"},
+        {"FIROne64f_32s_Sfs", "FIROne_32s_Sfs"},
+        {"IIRGetStateSize32s_16s", "IIRGetStateSize32s_16s32f"},
+        {"IIRGetStateSize32s_BiQuad_16s", "IIRGetStateSize32s_BiQuad_16s32f"},
+        {"IIRGetStateSize32sc_16sc", "IIRGetStateSize32sc_16sc32fc"},
+        {"IIRGetStateSize32sc_BiQuad_16sc", "IIRGetStateSize32sc_BiQuad_16sc32fc"},
+        {"IIRSetTaps32sc_16sc32fc", "IIRSetTaps_32fc"},
+    };
+    std::map<std::string, std::set<std::string>> bodies;
+    for (const Export& e : nameList()) bodies[e.body].insert(e.name);
+    std::set<std::set<std::string>> got, want;
+    for (const auto& body : bodies) {
+        if (body.second.size() > 1) got.insert(body.second);
+    }
+    std::set<std::string> built;
+    for (const Export& e : nameList()) built.insert(e.name);
+    for (const auto& row : rows) {
+        std::set<std::string> names;
+        for (const std::string& name : row) {
+            if (built.count("vlqs" + name)) names.insert("vlqs" + name);
+        }
+        if (names.size() > 1) want.insert(names);
+    }
+    EXPECT_EQ(want, got);
+}
+
 TEST(EntryTable, NothingIsWritableButTheSlotsAndTheLoadFlag) {
 #if defined(VLQS_SANITIZED)
     GTEST_SKIP() << "a sanitizer keeps its own state in the module";

@@ -10,7 +10,7 @@ namespace vlq {
 
 // ---- minimum, maximum ------------------------------------------------------------------------
 // For floats the second operand is the answer when either is not a number (the hardware's rule,
-// which several contracts rest on).
+// which several families rest on).
 template <class T, int B>
 inline Vec<T, B> minimum(Vec<T, B> a, Vec<T, B> b) { return select(a < b, a, b); }
 template <class T, int B>
@@ -41,7 +41,7 @@ inline Double8 maximum(Double8 a, Double8 b) { return Double8(_mm512_max_pd(a.ra
 
 // ---- fused where the build has it --------------------------------------------------------------
 // a * b + c: one rounding in the builds with FMA, two without. For results whose last bit the
-// contract leaves open.
+// manual leaves open.
 inline Float4 mulAdd(Float4 a, Float4 b, Float4 c) {
 #if defined(__FMA__)
     return Float4(_mm_fmadd_ps(a.raw, b.raw, c.raw));
