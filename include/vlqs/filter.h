@@ -285,6 +285,204 @@ VlqStatus vlqsFIROne64fc_Direct_32sc_Sfs(Vlq32sc src, Vlq32sc* dst, const Vlq64f
 VlqStatus vlqsFIROne64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 /** @} */
 
+/** @name Records of FIR filters with integer arithmetic, opaque
+ *  The first type is that of the taps, the second that of the samples. A filter of integer taps may
+ *  also be given its taps as floats: the last names stand for the same record.
+ *  @{ */
+typedef struct VlqsFIRState_16s VlqsFIRState_16s;
+typedef struct VlqsFIRState32s_16s VlqsFIRState32s_16s;
+typedef struct VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc;
+typedef VlqsFIRState32s_16s VlqsFIRState32s_16s32f;
+typedef VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc32fc;
+/** @} */
+
+/** @name FIR with integer arithmetic: records
+ *  @{ */
+/**
+ * A record holds taps g of 16 bits, a factor f that stands for `h[k] = g[k] * 2^f`, and the delay
+ * line, the last @p tapsLen samples of the stream.
+ *
+ * **Taps.** Integer taps come with a factor: `h[k] = taps[k] * 2^tapsFactor`. Taps of 32 bits are
+ * shifted down, rounded towards minus infinity, until none exceeds 32766 in magnitude; taps of 16
+ * bits by one place where one of them is -32768. Each place adds one to the factor. Float taps are
+ * multiplied by the power of two that takes the largest of them to more than 16383 and not above
+ * 32767, and rounded to nearest, ties away from zero; the power is limited to 2^33 and 2^-33. The
+ * real and the imaginary parts of complex taps share one factor. A factor stops at the top of its
+ * type, a tap that is still too large at that of 16 bits.
+ *
+ * **Shapes.** @p taps has @p tapsLen elements, h[0] first. @p dlyLine has as many, the newest sample
+ * first; where it is null the filter starts from silence. Both are copied. @p buffer has the size
+ * that `GetStateSize` tells and may begin at any address; the record lies somewhere inside and can
+ * be neither copied nor moved. A record whose size would reach 2 GiB cannot be built.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer other than @p dlyLine,
+ * #vlqStsBadTapCount for @p tapsLen below 1, #vlqStsNoMemory. Of `Free`: #vlqStsNullPtr,
+ * #vlqStsBadSpec for a record of another kind.
+ *
+ * **Memory.** `InitAlloc` allocates the record, `Free` releases it. A record of `Init` may be
+ * abandoned, `Free` leaves it as it is.
+ *
+ * @arg @c tapsLen    number of taps, at least 1
+ * @arg @c stateBytes receives the size of a record
+ * @arg @c outState   receives the record's address
+ * @arg @c taps       impulse response
+ * @arg @c tapsFactor exponent of the factor of the taps
+ * @arg @c dlyLine    past samples, or null
+ * @arg @c buffer     memory for the record
+ * @arg @c state      record
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIRGetStateSize_16s(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize32s_16s(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize32sc_16sc(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize32s_16s32f(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize32sc_16sc32fc(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRInit_16s(VlqsFIRState_16s** outState, const Vlq16s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit32s_16s(VlqsFIRState32s_16s** outState, const Vlq32s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit32sc_16sc(VlqsFIRState32sc_16sc** outState, const Vlq32sc* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const Vlq16sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit32s_16s32f(VlqsFIRState32s_16s32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit32sc_16sc32fc(VlqsFIRState32sc_16sc32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInitAlloc_16s(VlqsFIRState_16s** outState, const Vlq16s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRInitAlloc32s_16s(VlqsFIRState32s_16s** outState, const Vlq32s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRInitAlloc32sc_16sc(VlqsFIRState32sc_16sc** outState, const Vlq32sc* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRInitAlloc32s_16s32f(VlqsFIRState32s_16s32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRInitAlloc32sc_16sc32fc(VlqsFIRState32sc_16sc32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRFree_16s(VlqsFIRState_16s* state);
+VlqStatus vlqsFIRFree32s_16s(VlqsFIRState32s_16s* state);
+VlqStatus vlqsFIRFree32sc_16sc(VlqsFIRState32sc_16sc* state);
+/** @} */
+
+/** @name FIR with integer arithmetic: taps and delay line
+ *  @{ */
+/**
+ * `SetTaps` replaces the taps of a record and leaves its delay line. `GetTaps` reads the taps that the
+ * record holds: as integers and their factor, or, of the forms that end in a float type, as floats
+ * with the factor in them. `SetDlyLine` replaces the delay line, with silence where @p dlyLine is null;
+ * `GetDlyLine` reads it.
+ *
+ * **Shapes.** @p taps and @p dlyLine have as many elements as the record has taps: h[0] first, and
+ * the newest sample first. `SetTaps` takes the taps before the record, unlike the other calls; it
+ * brings them to 16 bits as `Init` does, but limits the power of two of float taps to 2^32 and 2^-32.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer other than the @p dlyLine of
+ * `SetDlyLine`, #vlqStsBadSpec for a record of another kind.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c taps       impulse response
+ * @arg @c state      record
+ * @arg @c tapsFactor exponent of the factor of the taps; of `GetTaps` receives it
+ * @arg @c dlyLine    past samples
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIRSetTaps_16s(const Vlq16s* taps, VlqsFIRState_16s* state, Vlq32s tapsFactor);
+VlqStatus vlqsFIRSetTaps32s_16s(const Vlq32s* taps, VlqsFIRState32s_16s* state, Vlq32s tapsFactor);
+VlqStatus vlqsFIRSetTaps32sc_16sc(const Vlq32sc* taps, VlqsFIRState32sc_16sc* state, Vlq32s tapsFactor);
+VlqStatus vlqsFIRSetTaps32s_16s32f(const Vlq32f* taps, VlqsFIRState32s_16s32f* state);
+VlqStatus vlqsFIRSetTaps32sc_16sc32fc(const Vlq32fc* taps, VlqsFIRState32sc_16sc32fc* state);
+VlqStatus vlqsFIRGetTaps_16s(const VlqsFIRState_16s* state, Vlq16s* taps, Vlq32s* tapsFactor);
+VlqStatus vlqsFIRGetTaps32s_16s(const VlqsFIRState32s_16s* state, Vlq32s* taps, Vlq32s* tapsFactor);
+VlqStatus vlqsFIRGetTaps32sc_16sc(const VlqsFIRState32sc_16sc* state, Vlq32sc* taps, Vlq32s* tapsFactor);
+VlqStatus vlqsFIRGetTaps32s_16s32f(const VlqsFIRState32s_16s32f* state, Vlq32f* taps);
+VlqStatus vlqsFIRGetTaps32sc_16sc32fc(const VlqsFIRState32sc_16sc32fc* state, Vlq32fc* taps);
+VlqStatus vlqsFIRSetDlyLine_16s(VlqsFIRState_16s* state, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRSetDlyLine32s_16s(VlqsFIRState32s_16s* state, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRSetDlyLine32sc_16sc(VlqsFIRState32sc_16sc* state, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRGetDlyLine_16s(const VlqsFIRState_16s* state, Vlq16s* dlyLine);
+VlqStatus vlqsFIRGetDlyLine32s_16s(const VlqsFIRState32s_16s* state, Vlq16s* dlyLine);
+VlqStatus vlqsFIRGetDlyLine32sc_16sc(const VlqsFIRState32sc_16sc* state, Vlq16sc* dlyLine);
+/** @} */
+
+/** @name FIR with integer arithmetic: filtering
+ *  @{ */
+/**
+ * `y[n] = sum over k of g[k] * x[n - k]`, x[n] for n below 0 from the delay line, which moves on: a
+ * stream may be cut into calls, of blocks and of single samples (`One`), in any way. Stored is
+ * `saturate(round(y[n] * 2^(f - scaleFactor)))`, g and f being the taps and the factor that the record
+ * holds. The parts of complex values are stored by the same rule.
+ *
+ * **Arithmetic.** Sums are formed in 32 bits and wrap without notice: keep the sum of the magnitudes
+ * of the taps times the largest sample below 2^31. With f - scaleFactor below 0 a result is rounded to
+ * nearest, to the even one of two equally near, by 31 places at most; above 0 it is shifted left in
+ * 32 bits, where bits are lost before it is saturated, and 0 from 32 places on. Every scale factor is
+ * legal. Results do not depend on the cut into calls, nor on the build.
+ *
+ * **Shapes.** @p src and @p dst have @p len elements and any alignment, and do not overlap.
+ *
+ * **Threads.** One. A record serves one call at a time.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer, #vlqStsBadSize for @p len below 1,
+ * #vlqStsBadSpec for a record of another kind.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c src         samples; for `One` the sample itself
+ * @arg @c dst         result
+ * @arg @c srcDst      samples and result of the in-place forms
+ * @arg @c len         number of samples
+ * @arg @c state       record
+ * @arg @c scaleFactor negated exponent of the factor of the result
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIR_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_16s_ISfs(Vlq16s* srcDst, Vlq32s len, VlqsFIRState_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32s_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState32s_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32s_16s_ISfs(Vlq16s* srcDst, Vlq32s len, VlqsFIRState32s_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32sc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, VlqsFIRState32sc_16sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32sc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState32sc_16sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne_16s_Sfs(Vlq16s src, Vlq16s* dst, VlqsFIRState_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32s_16s_Sfs(Vlq16s src, Vlq16s* dst, VlqsFIRState32s_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32sc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState32sc_16sc* state, Vlq32s scaleFactor);
+/** @} */
+
+/** @name FIR with integer arithmetic: without a record
+ *  @{ */
+/**
+ * Filters of integer taps whose taps and delay line are the caller's. `vlqsFIR_Direct_16s` computes
+ * `y[n] = sum over k of taps[k] * 2^-15 * x[n - k]`, the others the same without 2^-15; stored is
+ * `saturate(round(y[n] * 2^-scaleFactor))`, with the arithmetic of the filters with a record: sums of
+ * 32 bits that wrap, round to nearest and to the even one of two equally near.
+ *
+ * **Shapes.** @p taps has @p tapsLen elements, h[0] first. @p dlyLine has room for 2 @p tapsLen samples:
+ * a ring of @p tapsLen, kept twice over. The window of the last @p tapsLen samples begins at the index,
+ * 0 to @p tapsLen - 1, oldest first; a call moves both on, so that a stream may be cut into calls in
+ * any way. Begin with a line of zeros and index 0. `vlqsFIR_Direct_16s` is different: it takes the
+ * window at the index to be newest first, leaves it so at the start of the line, and the index at 0;
+ * its line does not fit the other forms. @p src and @p dst have @p len elements and any alignment, and
+ * do not overlap.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for null samples, #vlqStsBadSize for @p len below 1,
+ * #vlqStsNullPtr for null taps, #vlqStsBadTapCount for @p tapsLen below 1, #vlqStsNullPtr for a null
+ * line or index, #vlqStsBadDlyIndex, #vlqStsNoMemory. Only the forms of 16-bit taps look at the
+ * index, only `vlqsFIR_Direct_16s` needs memory.
+ *
+ * **Memory.** `vlqsFIR_Direct_16s` allocates one block for the call, the others none.
+ *
+ * @arg @c src          samples; for `One` the sample itself
+ * @arg @c dst          result
+ * @arg @c srcDst       samples and result of the in-place forms
+ * @arg @c len          number of samples
+ * @arg @c taps         impulse response
+ * @arg @c tapsLen      number of taps, at least 1
+ * @arg @c dlyLine      past samples
+ * @arg @c dlyLineIndex where the window begins
+ * @arg @c scaleFactor  negated exponent of the factor of the result
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIR_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq16s* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s len, const Vlq16s* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32s_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq32s* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32s_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s len, const Vlq32s* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32sc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, const Vlq32sc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR32sc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, const Vlq32sc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne_Direct_16s_Sfs(Vlq16s src, Vlq16s* dst, const Vlq16s* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne_Direct_16s_ISfs(Vlq16s* srcDst, const Vlq16s* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32s_Direct_16s_Sfs(Vlq16s src, Vlq16s* dst, const Vlq32s* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32s_Direct_16s_ISfs(Vlq16s* srcDst, const Vlq32s* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32sc_Direct_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, const Vlq32sc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne32sc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq32sc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+/** @} */
+
 VLQS_END_DECLS
 
 #endif

@@ -1,0 +1,242 @@
+// The integer FIR kernels: 16-bit samples and taps, two products at a time, summed in 32 bits that
+// wrap. Such sums do not depend on their order, so every kernel below gives the same bits.
+//
+// Complex values are words in turn, real and imaginary part, and one kernel serves both: of a
+// vector of samples it forms two vectors of 32-bit sums that belong into every other word of the
+// result. These are the sums of the even and of the odd outputs of a real filter, which reads its
+// samples at two neighbouring words and meets them with one tap row; or the real and the
+// imaginary parts of a complex one, which reads once and has two tap rows.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+
+#include "frame/simd/ops.h"
+#include "frame/simd/pairs.h"
+#include "vlqs/types.h"
+
+namespace vlq::fir::integer {
+
+// Sums to samples: sum * 2^exponent. To the right rounded to nearest, ties to the even integer, by
+// 31 bits at most; to the left wrapped to 32 bits, so that from 32 bits on nothing is left. The
+// vectors come out before saturation.
+class Finish {
+public:
+    explicit Finish(Vlq64s exponent)
+        : left_(static_cast<int>(std::clamp<Vlq64s>(exponent, 0, 31))),
+          right_(static_cast<int>(std::clamp<Vlq64s>(-exponent, 0, 31))),
+          keep_(exponent < 32 ? -1 : 0),
+          remainder_(static_cast<Vlq32s>((Vlq32u{1} << right_) - 1)),
+          middle_(right_ > 0 ? Vlq32s{1} << (right_ - 1) : std::numeric_limits<Vlq32s>::max()) {}
+
+    template <int B>
+    Vec<Vlq32s, B> operator()(Vec<Vlq32s, B> sums) const {
+        using V = Vec<Vlq32s, B>;
+        const V moved = shiftLeft(sums & V::broadcast(keep_), left_);
+        const V quotient = shiftRight(moved, right_);
+        // From the middle up, the middle itself where the quotient is odd.
+        const V up = (moved & V::broadcast(remainder_)) > (V::broadcast(middle_) - (quotient & V::broadcast(1)));
+        return quotient - up;
+    }
+    Vlq16s operator()(Vlq32s sum) const {
+        const auto moved = static_cast<Vlq32s>(static_cast<Vlq32u>(sum & keep_) << left_);
+        const Vlq32s quotient = moved >> right_;
+        const Vlq32s nearest = quotient + ((moved & remainder_) > middle_ - (quotient & 1));
+        return static_cast<Vlq16s>(std::clamp(nearest, -32768, 32767));
+    }
+
+private:
+    int left_, right_;
+    Vlq32s keep_, remainder_, middle_;
+};
+
+inline Vlq32s wrappingAdd(Vlq32s a, Vlq32s b) { return static_cast<Vlq32s>(static_cast<Vlq32u>(a) + static_cast<Vlq32u>(b)); }
+inline Vlq32s wrappingMultiply(Vlq32s a, Vlq32s b) { return static_cast<Vlq32s>(static_cast<Vlq32u>(a) * static_cast<Vlq32u>(b)); }
+
+// ---- one window of samples -------------------------------------------------------------------------
+
+// Rows of taps that a window meets.
+template <int Rows>
+struct Sums {
+    Vlq32s of[Rows];
+};
+
+namespace detail {
+
+// Masks that leave the last m of the vector's lanes begin m elements into this.
+inline constexpr int kMaskLanes = 16;
+struct LastLanes {
+    Vlq16s mask[2 * kMaskLanes];
+    constexpr LastLanes() : mask() {
+        for (int i = kMaskLanes; i < 2 * kMaskLanes; ++i) mask[i] = -1;
+    }
+};
+inline constexpr LastLanes kLastLanes;
+
+// n >= lanes of the vector. What is left after whole vectors comes from a vector that ends with
+// the window, less the lanes that have been before.
+template <int B, int Rows>
+inline Sums<Rows> wideDots(const Vlq16s* x, const Vlq16s* const (&rows)[Rows], std::ptrdiff_t n) {
+    using V = Vec<Vlq32s, B>;
+    constexpr int lanes = Vec<Vlq16s, B>::lanes;
+    V even[Rows], odd[Rows];
+    for (int r = 0; r < Rows; ++r) even[r] = odd[r] = V::zero();
+    std::ptrdiff_t j = 0;
+    for (; j + 2 * lanes <= n; j += 2 * lanes) {
+        const auto first = load<Vlq16s, B>(x + j), second = load<Vlq16s, B>(x + j + lanes);
+        for (int r = 0; r < Rows; ++r) {
+            even[r] += pairSums(first, load<Vlq16s, B>(rows[r] + j));
+            odd[r] += pairSums(second, load<Vlq16s, B>(rows[r] + j + lanes));
+        }
+    }
+    if (j + lanes <= n) {
+        const auto samples = load<Vlq16s, B>(x + j);
+        for (int r = 0; r < Rows; ++r) even[r] += pairSums(samples, load<Vlq16s, B>(rows[r] + j));
+        j += lanes;
+    }
+    if (j < n) {
+        const auto mask = load<Vlq16s, B>(kLastLanes.mask + (kMaskLanes - lanes) + (n - j));
+        const auto samples = load<Vlq16s, B>(x + n - lanes) & mask;
+        for (int r = 0; r < Rows; ++r) odd[r] += pairSums(samples, load<Vlq16s, B>(rows[r] + n - lanes));
+    }
+    Sums<Rows> sums;
+    for (int r = 0; r < Rows; ++r) sums.of[r] = laneSum(even[r] + odd[r]);
+    return sums;
+}
+
+}  // namespace detail
+
+// sums.of[r] = sum of x[j] * rows[r][j] over j < n, wrapped.
+template <int Rows>
+inline Sums<Rows> dots(const Vlq16s* x, const Vlq16s* const (&rows)[Rows], std::ptrdiff_t n) {
+    constexpr int widest = kVecBytes < 32 ? 16 : 32;
+    if (widest > 16 && n >= Vec<Vlq16s, widest>::lanes) return detail::wideDots<widest>(x, rows, n);
+    if (n >= Vec<Vlq16s, 16>::lanes) return detail::wideDots<16>(x, rows, n);
+    Sums<Rows> sums{};
+    for (std::ptrdiff_t j = 0; j < n; ++j) {
+        for (int r = 0; r < Rows; ++r) {
+            sums.of[r] = wrappingAdd(sums.of[r], loadScalar(x + j) * loadScalar(rows[r] + j));
+        }
+    }
+    return sums;
+}
+
+// ---- blocks ------------------------------------------------------------------------------------------
+
+// The impulse response reversed: one row of a real filter, with a zero before it, two of a complex
+// one. `words` is the length of a row.
+template <int Parts>
+struct TapRows {
+    const Vlq16s* row[Parts];
+    std::ptrdiff_t words;
+};
+
+// A tile is this many vectors of results, at most. Its sums, two vectors for each, and the taps of
+// kRows rows must fit into 16 or 32 registers.
+inline constexpr int kTileVectors = kVecBytes == 64 ? 8 : 4;
+template <int Parts>
+inline constexpr int kTapVectors = kVecBytes == 64 || Parts == 1 ? 4 : 2;
+
+// Adds `columns` columns of pairs of taps to a tile. A column has Rows pairs, a vector of samples
+// apart: one load of samples meets all of them, each for another vector of results. Going from tap
+// to tap instead would take a load, most often across a cache line, for every multiply-add.
+template <int Parts, int Rows, int A, int B>
+[[gnu::always_inline]] inline void addColumns(Vec<Vlq32s, B> (&first)[A], Vec<Vlq32s, B> (&second)[A],
+                                              const Vlq16s* row, const Vlq16s* otherRow, const Vlq16s* x,
+                                              std::ptrdiff_t columns) {
+    using V = Vec<Vlq16s, B>;
+    constexpr int lanes = V::lanes;
+#pragma GCC unroll 1
+    for (; columns > 0; --columns, x += 2, row += 2, otherRow += 2) {
+        V tap[Rows], otherTap[Rows];
+#pragma GCC unroll 4
+        for (int i = 0; i < Rows; ++i) {
+            tap[i] = broadcastPair<B>(row + i * lanes);
+            otherTap[i] = Parts == 2 ? broadcastPair<B>(otherRow + i * lanes) : tap[i];
+        }
+#pragma GCC unroll 16
+        for (int b = 0; b < A + Rows - 1; ++b) {
+            const V samples = load<Vlq16s, B>(x + b * lanes);
+            const V otherSamples = Parts == 2 ? samples : load<Vlq16s, B>(x + b * lanes + 1);
+#pragma GCC unroll 4
+            for (int i = 0; i < Rows; ++i) {
+                const int a = b - i;
+                if (a < 0 || a >= A) continue;
+                first[a] += pairSums(tap[i], samples);
+                second[a] += pairSums(otherTap[i], otherSamples);
+            }
+        }
+    }
+}
+
+// A vectors of results; taps.words is even.
+template <int A, int B, int Parts>
+inline void tile(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, const Finish& finish) {
+    constexpr int lanes = Vec<Vlq16s, B>::lanes;
+    constexpr int most = kTapVectors<Parts>;
+    Vec<Vlq32s, B> first[A], second[A];
+#pragma GCC unroll 8
+    for (int a = 0; a < A; ++a) first[a] = second[a] = Vec<Vlq32s, B>::zero();
+
+    const Vlq16s* row = taps.row[0];
+    const Vlq16s* otherRow = taps.row[Parts - 1];
+    std::ptrdiff_t left = taps.words;
+    auto advance = [&](std::ptrdiff_t words) {
+        row += words;
+        otherRow += words;
+        x += words;
+        left -= words;
+    };
+    for (; left >= most * lanes; advance(most * lanes)) {
+        addColumns<Parts, most>(first, second, row, otherRow, x, lanes / 2);
+    }
+    if (most > 2 && left >= 2 * lanes) {
+        addColumns<Parts, 2>(first, second, row, otherRow, x, lanes / 2);
+        advance(2 * lanes);
+    }
+    addColumns<Parts, 1>(first, second, row, otherRow, x, left / 2);
+#pragma GCC unroll 8
+    for (int a = 0; a < A; ++a) store(dst + a * lanes, interleaveSat(finish(first[a]), finish(second[a])));
+}
+
+// n words of results, at least one vector. The last tile ends flush with them: it may make some
+// a second time.
+template <int A, int B, int Parts>
+inline void tiles(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
+    constexpr int lanes = Vec<Vlq16s, B>::lanes;
+    std::ptrdiff_t done = 0;
+    for (; n - done >= A * lanes; done += A * lanes) tile<A, B>(taps, x + done, dst + done, finish);
+    if (done == n) return;
+    if constexpr (A > 1) {
+        if (n - done >= lanes) return tiles<A / 2, B>(taps, x + done, dst + done, n - done, finish);
+    }
+    tile<1, B>(taps, x + n - lanes, dst + n - lanes, finish);
+}
+
+// n words of results of the windows that begin at x, x + Parts ...: no word behind the last window
+// is read, of a real filter the word before x may be. dst does not overlap the samples.
+template <int Parts>
+inline void filterWords(TapRows<Parts> taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
+    constexpr std::ptrdiff_t smallest = Vec<Vlq16s, 16>::lanes;
+    if (n < smallest) {
+        for (std::ptrdiff_t i = 0; i < n; i += Parts) {
+            const auto sums = dots(x + i, taps.row, taps.words);
+            for (int p = 0; p < Parts; ++p) {
+                const Vlq16s result = finish(sums.of[p]);
+                std::memcpy(dst + i + p, &result, sizeof result);
+            }
+        }
+        return;
+    }
+    if (Parts == 1 && taps.words % 2 != 0) {
+        // The zero before the taps makes the pairs whole.
+        --taps.row[0];
+        ++taps.words;
+        --x;
+    }
+    if (kVecBytes > 16 && n < Vec<Vlq16s>::lanes) tiles<4, 16>(taps, x, dst, n, finish);
+    else tiles<kTileVectors, kVecBytes>(taps, x, dst, n, finish);
+}
+
+}  // namespace vlq::fir::integer
