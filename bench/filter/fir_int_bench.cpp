@@ -53,13 +53,10 @@ int main(int argc, char** argv) {
         vlqsFIRInitAlloc32sc_16sc(&complexState, complexTaps.data(), taps, -15, nullptr);
         vlqsFIRInitAlloc_32f(&floatState, floats.data(), taps, nullptr);
         const std::string name = std::to_string(taps) + " taps";
-        // Calls below 512 samples keep the float filter on its direct path.
-        for (const int n : {32, 480, longest}) {
-            if (n < longest) {
+        // Up to 511 samples the float filter stays on its direct path.
+        for (const int n : {32, 511, longest}) {
+            if (n < 512) {
                 vlqbench::add({"FIR 32s_16s, " + name, n, 1.0 * n, "32f, direct", 0.5, [=] { vlqsFIR32s_16s_Sfs(src, dst, n, state, 0); },
-                               [=] { vlqsFIR_32f(floatSrc, floatDst, n, floatState); }});
-            } else {
-                vlqbench::add({"FIR 32s_16s, " + name, n, 1.0 * n, "32f", 0.5, [=] { vlqsFIR32s_16s_Sfs(src, dst, n, state, 0); },
                                [=] { vlqsFIR_32f(floatSrc, floatDst, n, floatState); }});
             }
             vlqbench::add({"FIR 32s_16s, in place, " + name, n, 1.0 * n, "plain loop", 1, [=] { vlqsFIR32s_16s_ISfs(dst, n, state, 0); },

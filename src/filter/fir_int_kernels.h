@@ -163,8 +163,9 @@ template <int Parts, int Rows, int A, int B>
             for (int i = 0; i < Rows; ++i) {
                 const int a = b - i;
                 if (a < 0 || a >= A) continue;
-                first[a] += pairSums(tap[i], samples);
-                second[a] += pairSums(otherTap[i], otherSamples);
+                // Opaque: regrouping the sums, as compilers do with integers, takes many registers.
+                first[a] = opaque(first[a] + pairSums(tap[i], samples));
+                second[a] = opaque(second[a] + pairSums(otherTap[i], otherSamples));
             }
         }
     }

@@ -114,7 +114,7 @@ inline Vec<To, B> bitCast(Vec<T, B> v) {
 // makes a call of the clear out of stores of zeros.
 template <class T, int B>
 inline Vec<T, B> opaque(Vec<T, B> v) {
-    asm("" : "+x"(v.raw));
+    asm("" : "+v"(v.raw));
     return v;
 }
 
