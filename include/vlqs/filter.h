@@ -289,11 +289,11 @@ VlqStatus vlqsFIROne64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, const Vlq64fc* taps, 
  *  The first type is that of the taps, the second that of the samples. A filter of integer taps may
  *  also be given its taps as floats: the last names stand for the same record.
  *  @{ */
-typedef struct VlqsFIRState_16s VlqsFIRState_16s;
-typedef struct VlqsFIRState32s_16s VlqsFIRState32s_16s;
-typedef struct VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc;
-typedef VlqsFIRState32s_16s VlqsFIRState32s_16s32f;
-typedef VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc32fc;
+typedef struct VlqsFIRState_16s VlqsFIRState_16s;           /**< 16-bit taps and samples */
+typedef struct VlqsFIRState32s_16s VlqsFIRState32s_16s;     /**< 32-bit taps, 16-bit samples */
+typedef struct VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc; /**< complex 32-bit taps, complex 16-bit samples */
+typedef VlqsFIRState32s_16s VlqsFIRState32s_16s32f;         /**< the same, taps given as floats */
+typedef VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc32fc;    /**< the same, taps given as complex floats */
 /** @} */
 
 /** @name FIR with integer arithmetic: records

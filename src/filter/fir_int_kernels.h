@@ -3,14 +3,15 @@
 //
 // Complex values are words in turn, real and imaginary part, and one kernel serves both: of a
 // vector of samples it forms two vectors of 32-bit sums that belong into every other word of the
-// result. These are the sums of the even and of the odd outputs of a real filter, which reads its
-// samples at two neighbouring words and meets them with one tap row; or the real and the
-// imaginary parts of a complex one, which reads once and has two tap rows.
+// result, each with a tap row of its own. These are the sums of the even and of the odd outputs of a
+// real filter, whose second row is the first one word later; or the real and the imaginary parts of
+// a complex one.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <utility>
 
 #include "frame/simd/ops.h"
 #include "frame/simd/pairs.h"
@@ -124,8 +125,8 @@ inline Sums<Rows> dots(const Vlq16s* x, const Vlq16s* const (&rows)[Rows], std::
 
 // ---- blocks ------------------------------------------------------------------------------------------
 
-// The impulse response reversed: one row of a real filter, with a zero before it, two of a complex
-// one. `words` is the length of a row.
+// The impulse response reversed: one row of a real filter, with two zeros before and one behind it;
+// two of a complex one. `words` is the length of a row.
 template <int Parts>
 struct TapRows {
     const Vlq16s* row[Parts];
@@ -133,92 +134,105 @@ struct TapRows {
 };
 
 // A tile is this many vectors of results, at most. Its sums, two vectors for each, and the taps of
-// kRows rows must fit into 16 or 32 registers.
-inline constexpr int kTileVectors = kVecBytes == 64 ? 8 : 4;
-template <int Parts>
-inline constexpr int kTapVectors = kVecBytes == 64 || Parts == 1 ? 4 : 2;
+// kRows rows, two as well, must fit into 16 or 32 registers.
+inline constexpr int kTileVectors = kVecBytes == 64 ? 8 : 5;
+inline constexpr int kRows = kVecBytes == 64 ? 4 : 2;
 
-// Adds `columns` columns of pairs of taps to a tile. A column has Rows pairs, a vector of samples
-// apart: one load of samples meets all of them, each for another vector of results. Going from tap
-// to tap instead would take a load, most often across a cache line, for every multiply-add.
-template <int Parts, int Rows, int A, int B>
+// Two rows, of an even number of words.
+struct Pairs {
+    const Vlq16s* first;
+    const Vlq16s* second;
+    std::ptrdiff_t words;
+};
+
+// Adds `columns` columns of pairs of taps to a tile. A column has Rows pairs of either row, a
+// vector of samples apart: one load of samples meets all of them, each for another vector of
+// results. Going from tap to tap instead would take a load, most often across a cache line, for
+// every other multiply-add.
+template <int Rows, int A, int B>
 [[gnu::always_inline]] inline void addColumns(Vec<Vlq32s, B> (&first)[A], Vec<Vlq32s, B> (&second)[A],
-                                              const Vlq16s* row, const Vlq16s* otherRow, const Vlq16s* x,
+                                              const Vlq16s* firstRow, const Vlq16s* secondRow, const Vlq16s* x,
                                               std::ptrdiff_t columns) {
     using V = Vec<Vlq16s, B>;
     constexpr int lanes = V::lanes;
 #pragma GCC unroll 1
-    for (; columns > 0; --columns, x += 2, row += 2, otherRow += 2) {
-        V tap[Rows], otherTap[Rows];
+    for (; columns > 0; --columns, x += 2, firstRow += 2, secondRow += 2) {
+        V firstTap[Rows], secondTap[Rows];
 #pragma GCC unroll 4
         for (int i = 0; i < Rows; ++i) {
-            tap[i] = broadcastPair<B>(row + i * lanes);
-            otherTap[i] = Parts == 2 ? broadcastPair<B>(otherRow + i * lanes) : tap[i];
+            firstTap[i] = broadcastPair<B>(firstRow + i * lanes);
+            secondTap[i] = broadcastPair<B>(secondRow + i * lanes);
         }
 #pragma GCC unroll 16
         for (int b = 0; b < A + Rows - 1; ++b) {
             const V samples = load<Vlq16s, B>(x + b * lanes);
-            const V otherSamples = Parts == 2 ? samples : load<Vlq16s, B>(x + b * lanes + 1);
 #pragma GCC unroll 4
             for (int i = 0; i < Rows; ++i) {
                 const int a = b - i;
                 if (a < 0 || a >= A) continue;
                 // Opaque: regrouping the sums, as compilers do with integers, takes many registers.
-                first[a] = opaque(first[a] + pairSums(tap[i], samples));
-                second[a] = opaque(second[a] + pairSums(otherTap[i], otherSamples));
+                first[a] = opaque(first[a] + pairSums(firstTap[i], samples));
+                second[a] = opaque(second[a] + pairSums(secondTap[i], samples));
             }
         }
     }
 }
 
-// A vectors of results; taps.words is even.
-template <int A, int B, int Parts>
-inline void tile(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, const Finish& finish) {
+// A vectors of results.
+template <int A, int B>
+inline void tile(Pairs taps, const Vlq16s* x, Vlq16s* dst, const Finish& finish) {
     constexpr int lanes = Vec<Vlq16s, B>::lanes;
-    constexpr int most = kTapVectors<Parts>;
     Vec<Vlq32s, B> first[A], second[A];
 #pragma GCC unroll 8
     for (int a = 0; a < A; ++a) first[a] = second[a] = Vec<Vlq32s, B>::zero();
 
-    const Vlq16s* row = taps.row[0];
-    const Vlq16s* otherRow = taps.row[Parts - 1];
-    std::ptrdiff_t left = taps.words;
     auto advance = [&](std::ptrdiff_t words) {
-        row += words;
-        otherRow += words;
+        taps.first += words;
+        taps.second += words;
+        taps.words -= words;
         x += words;
-        left -= words;
     };
-    for (; left >= most * lanes; advance(most * lanes)) {
-        addColumns<Parts, most>(first, second, row, otherRow, x, lanes / 2);
+    for (; taps.words >= kRows * lanes; advance(kRows * lanes)) {
+        addColumns<kRows>(first, second, taps.first, taps.second, x, lanes / 2);
     }
-    if (most > 2 && left >= 2 * lanes) {
-        addColumns<Parts, 2>(first, second, row, otherRow, x, lanes / 2);
+    if (kRows > 2 && taps.words >= 2 * lanes) {
+        addColumns<2>(first, second, taps.first, taps.second, x, lanes / 2);
         advance(2 * lanes);
     }
-    addColumns<Parts, 1>(first, second, row, otherRow, x, left / 2);
+    addColumns<1>(first, second, taps.first, taps.second, x, taps.words / 2);
 #pragma GCC unroll 8
     for (int a = 0; a < A; ++a) store(dst + a * lanes, interleaveSat(finish(first[a]), finish(second[a])));
 }
 
-// n words of results, at least one vector. The last tile ends flush with them: it may make some
-// a second time.
-template <int A, int B, int Parts>
-inline void tiles(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
+template <int B, int... Less>
+inline void tileOf(int vectors, const Pairs& taps, const Vlq16s* x, Vlq16s* dst, const Finish& finish,
+                   std::integer_sequence<int, Less...>) {
+    ((vectors == Less + 1 ? tile<Less + 1, B>(taps, x, dst, finish) : void()), ...);
+}
+
+// n words of results, at least one vector. What remains after whole tiles ends flush with the last
+// word: it may make some a second time.
+template <int A, int B>
+inline void tiles(const Pairs& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
     constexpr int lanes = Vec<Vlq16s, B>::lanes;
+    constexpr auto sizes = std::make_integer_sequence<int, A>();
     std::ptrdiff_t done = 0;
     for (; n - done >= A * lanes; done += A * lanes) tile<A, B>(taps, x + done, dst + done, finish);
     if (done == n) return;
-    if constexpr (A > 1) {
-        if (n - done >= lanes) return tiles<A / 2, B>(taps, x + done, dst + done, n - done, finish);
+    const int vectors = static_cast<int>((n - done + lanes - 1) / lanes);
+    if (vectors * lanes <= n) {
+        done = n - vectors * lanes;
+        tileOf<B>(vectors, taps, x + done, dst + done, finish, sizes);
+    } else {
+        tileOf<B>(vectors - 1, taps, x, dst, finish, sizes);
+        tile<1, B>(taps, x + n - lanes, dst + n - lanes, finish);
     }
-    tile<1, B>(taps, x + n - lanes, dst + n - lanes, finish);
 }
 
 // n words of results of the windows that begin at x, x + Parts ...: no word behind the last window
 // is read, of a real filter the word before x may be. dst does not overlap the samples.
 template <int Parts>
-inline void filterWords(TapRows<Parts> taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
+inline void filterWords(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
     constexpr std::ptrdiff_t smallest = Vec<Vlq16s, 16>::lanes;
     if (n < smallest) {
         for (std::ptrdiff_t i = 0; i < n; i += Parts) {
@@ -230,14 +244,18 @@ inline void filterWords(TapRows<Parts> taps, const Vlq16s* x, Vlq16s* dst, std::
         }
         return;
     }
-    if (Parts == 1 && taps.words % 2 != 0) {
-        // The zero before the taps makes the pairs whole.
-        --taps.row[0];
-        ++taps.words;
-        --x;
+    Pairs pairs;
+    if constexpr (Parts == 2) {
+        pairs = {taps.row[0], taps.row[1], taps.words};
+    } else {
+        // Odd outputs meet the same samples with the taps one word later. The zeros around the row
+        // make all pairs whole, and the last pair ends with the window of the odd output.
+        const std::ptrdiff_t before = taps.words % 2 == 0 ? 1 : 0;
+        x -= before;
+        pairs = {taps.row[0] - before, taps.row[0] - before - 1, taps.words + 1 + before};
     }
-    if (kVecBytes > 16 && n < Vec<Vlq16s>::lanes) tiles<4, 16>(taps, x, dst, n, finish);
-    else tiles<kTileVectors, kVecBytes>(taps, x, dst, n, finish);
+    if (kVecBytes > 16 && n < Vec<Vlq16s>::lanes) tiles<3, 16>(pairs, x, dst, n, finish);
+    else tiles<kTileVectors, kVecBytes>(pairs, x, dst, n, finish);
 }
 
 }  // namespace vlq::fir::integer

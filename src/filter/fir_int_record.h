@@ -70,7 +70,7 @@ static_assert(sizeof(RealRecord) == 80 && offsetof(RealRecord, ownsMemory) == 60
 template <int Parts>
 struct Layout;
 
-// A row has a zero before its taps and room for more behind them; the block has room for four.
+// A row has two zeros before its taps and some behind them; the block has room for four.
 template <>
 struct Layout<1> {
     static constexpr Vlq64s rowLen(Vlq64s tapsLen) { return (tapsLen + 11) & ~Vlq64s{7}; }
@@ -127,7 +127,6 @@ inline bool isFilter(const State& state) {
 
 // parts[i], i < count, as 16-bit integers times 2^exponent.
 struct Keep {
-    Vlq32s exponent = 0;
     template <class T>
     Vlq32s operator()(T part) const { return part; }
 };
@@ -184,9 +183,12 @@ inline Quantize quantized(const Vlq32f* parts, std::ptrdiff_t count, Vlq32s limi
 
 inline Vlq16s saturated(Vlq64s value) { return static_cast<Vlq16s>(std::clamp<Vlq64s>(value, -32768, 32767)); }
 
+// Before the taps of a real row.
+inline constexpr int kZeros = 2;
+
 template <class ListPart, int Parts>
 TapRows<Parts> rowsOf(const Record<ListPart, Parts>& record) {
-    if constexpr (Parts == 1) return {{record.tapRows + 1}, record.tapsLen};
+    if constexpr (Parts == 1) return {{record.tapRows + kZeros}, record.tapsLen};
     else return {{record.tapRows, record.tapRows + record.rowLen}, 2 * std::ptrdiff_t{record.tapsLen}};
 }
 
@@ -201,8 +203,8 @@ void writeTaps(Record<ListPart, Parts>& record, const T* parts, const Rule& rule
         }
     }
     if constexpr (Parts == 1) {
-        row[0] = 0;
-        for (std::ptrdiff_t i = 0; i < len; ++i) row[1 + i] = saturated(list[i]);
+        std::fill(row, row + record.rowLen, Vlq16s{0});
+        for (std::ptrdiff_t i = 0; i < len; ++i) row[kZeros + i] = saturated(list[i]);
     } else {
         Vlq16s* other = row + record.rowLen;
         for (std::ptrdiff_t i = 0; i < 2 * len; i += 2) {
