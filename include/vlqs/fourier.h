@@ -444,6 +444,36 @@ VlqStatus vlqsMulPerm_64f(const Vlq64f* srcA, const Vlq64f* srcB, Vlq64f* dst, V
 VlqStatus vlqsMulPerm_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
 /** @} */
 
+/** @name Scaled products of packed spectra in 16 bits
+ *  @{ */
+/**
+ * The products above of 16-bit spectra, times 2^-scaleFactor. Real terms and the sums of a complex
+ * value are exact in 32 bits, 2^31 taken as 2^31 - 1. A @p scaleFactor above 0 shifts right and drops
+ * the bits without rounding; one below 0 brings the value into 16 bits and then shifts left; at
+ * last the result is brought into 16 bits.
+ *
+ * **Shapes.** All vectors have @p len elements and any alignment. @p dst may be one of the sources;
+ * other overlaps are not allowed.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ *
+ * **Memory.** None.
+ *
+ * @arg @c srcA        first spectrum
+ * @arg @c srcB        second spectrum
+ * @arg @c src         first spectrum of the in-place forms
+ * @arg @c dst         product
+ * @arg @c srcDst      second spectrum and product of the in-place forms
+ * @arg @c len         number of elements
+ * @arg @c scaleFactor the products are multiplied by 2^-scaleFactor
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsMulPack_16s_Sfs(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulPack_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulPerm_16s_Sfs(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
+VlqStatus vlqsMulPerm_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
+/** @} */
+
 /** @name Product of a Pack spectrum with a conjugate
  *  @{ */
 /**
@@ -470,7 +500,7 @@ VlqStatus vlqsMulPackConj_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
  *  @{ */
 /**
  * All @p len complex values of the spectrum of a real signal from the half that a layout holds:
- * `dst[len - k] = conj(dst[k])`.
+ * `dst[len - k] = conj(dst[k])`. In 16 bits the conjugate of an imaginary part of -32768 has 32767.
  *
  * **Shapes.** A source has @p len elements in Pack and Perm, `2 (len / 2 + 1)` in CCS; the result
  * has @p len complex elements. Any alignment. In place, the source stands at the front of the
@@ -486,14 +516,20 @@ VlqStatus vlqsMulPackConj_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
  * @arg @c len    number of complex values
  * @return #vlqStsOk or an error above.
  */
+VlqStatus vlqsConjCcs_16sc(const Vlq16s* src, Vlq16sc* dst, Vlq32s len);
+VlqStatus vlqsConjCcs_16sc_I(Vlq16sc* srcDst, Vlq32s len);
 VlqStatus vlqsConjCcs_32fc(const Vlq32f* src, Vlq32fc* dst, Vlq32s len);
 VlqStatus vlqsConjCcs_32fc_I(Vlq32fc* srcDst, Vlq32s len);
 VlqStatus vlqsConjCcs_64fc(const Vlq64f* src, Vlq64fc* dst, Vlq32s len);
 VlqStatus vlqsConjCcs_64fc_I(Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsConjPack_16sc(const Vlq16s* src, Vlq16sc* dst, Vlq32s len);
+VlqStatus vlqsConjPack_16sc_I(Vlq16sc* srcDst, Vlq32s len);
 VlqStatus vlqsConjPack_32fc(const Vlq32f* src, Vlq32fc* dst, Vlq32s len);
 VlqStatus vlqsConjPack_32fc_I(Vlq32fc* srcDst, Vlq32s len);
 VlqStatus vlqsConjPack_64fc(const Vlq64f* src, Vlq64fc* dst, Vlq32s len);
 VlqStatus vlqsConjPack_64fc_I(Vlq64fc* srcDst, Vlq32s len);
+VlqStatus vlqsConjPerm_16sc(const Vlq16s* src, Vlq16sc* dst, Vlq32s len);
+VlqStatus vlqsConjPerm_16sc_I(Vlq16sc* srcDst, Vlq32s len);
 VlqStatus vlqsConjPerm_32fc(const Vlq32f* src, Vlq32fc* dst, Vlq32s len);
 VlqStatus vlqsConjPerm_32fc_I(Vlq32fc* srcDst, Vlq32s len);
 VlqStatus vlqsConjPerm_64fc(const Vlq64f* src, Vlq64fc* dst, Vlq32s len);

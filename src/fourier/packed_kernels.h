@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstring>
+#include <limits>
+#include <type_traits>
 
 #include "frame/simd/split.h"
 
@@ -89,23 +91,32 @@ inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
     }
 }
 
+// -v, as the nearest value of the type.
+template <class T>
+inline T negated(T v) {
+    if constexpr (std::is_floating_point_v<T>) return -v;
+    else return v == std::numeric_limits<T>::min() ? std::numeric_limits<T>::max() : static_cast<T>(-v);
+}
+
 // Spectrum value k, and its conjugate at len - k, for k = 1 to `pairs`; pair 1 stands at `src`. From
 // the top down, so that src may be the front of dst.
 template <class T>
 inline void expandPairs(const T* src, T* dst, std::ptrdiff_t pairs, std::ptrdiff_t len) {
-    constexpr int lanes = Split<T>::lanes;
     std::ptrdiff_t k = pairs + 1;
-    for (; k > lanes; k -= lanes) {
-        auto values = loadSplit<T>(src + 2 * (k - lanes - 1));
-        storeSplit(dst + 2 * (k - lanes), values);
-        values.im = -values.im;
-        storeSplitBackward(dst + 2 * (len - k + 1), values);
+    if constexpr (std::is_floating_point_v<T>) {
+        constexpr int lanes = Split<T>::lanes;
+        for (; k > lanes; k -= lanes) {
+            auto values = loadSplit<T>(src + 2 * (k - lanes - 1));
+            storeSplit(dst + 2 * (k - lanes), values);
+            values.im = -values.im;
+            storeSplitBackward(dst + 2 * (len - k + 1), values);
+        }
     }
     while (--k > 0) {
         T value[2];
         std::memcpy(value, src + 2 * (k - 1), sizeof value);
         std::memcpy(dst + 2 * k, value, sizeof value);
-        value[1] = -value[1];
+        value[1] = negated(value[1]);
         std::memcpy(dst + 2 * (len - k), value, sizeof value);
     }
 }

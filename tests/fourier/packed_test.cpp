@@ -85,7 +85,10 @@ template <class T, class Complex, class Ref>
 void checkExpansion(VlqStatus (*call)(const T*, Complex*, Vlq32s), VlqStatus (*inPlace)(Complex*, Vlq32s), Ref ref, bool ccs) {
     sweep(sizeof(Complex), {1021, 5004}, [&](Case& c) {
         const auto len = static_cast<std::size_t>(c.len);
-        const auto half = uniformVector<T>(ccs ? 2 * (len / 2 + 1) : len, -9, 9, c.rng);
+        const std::size_t count = ccs ? 2 * (len / 2 + 1) : len;
+        std::vector<T> half;
+        if constexpr (std::is_integral_v<T>) half = extremeVector<T>(count, c.rng);
+        else half = uniformVector<T>(count, -9, 9, c.rng);
         const std::vector<T> want = ref(half, len);
         const Buffer<T> src(half, c.place[1]);
         Buffer<T> dst(2 * len, c.place[0]);
@@ -107,16 +110,73 @@ void checkExpansion(VlqStatus (*call)(const T*, Complex*, Vlq32s), VlqStatus (*i
     EXPECT_EQ(0, v[4]);
 }
 TEST(ConjPack, Values) {
+    checkExpansion(vlqsConjPack_16sc, vlqsConjPack_16sc_I, conjPackRef<Vlq16s>, false);
     checkExpansion(vlqsConjPack_32fc, vlqsConjPack_32fc_I, conjPackRef<Vlq32f>, false);
     checkExpansion(vlqsConjPack_64fc, vlqsConjPack_64fc_I, conjPackRef<Vlq64f>, false);
 }
 TEST(ConjPerm, Values) {
+    checkExpansion(vlqsConjPerm_16sc, vlqsConjPerm_16sc_I, conjPermRef<Vlq16s>, false);
     checkExpansion(vlqsConjPerm_32fc, vlqsConjPerm_32fc_I, conjPermRef<Vlq32f>, false);
     checkExpansion(vlqsConjPerm_64fc, vlqsConjPerm_64fc_I, conjPermRef<Vlq64f>, false);
 }
 TEST(ConjCcs, Values) {
+    checkExpansion(vlqsConjCcs_16sc, vlqsConjCcs_16sc_I, conjCcsRef<Vlq16s>, true);
     checkExpansion(vlqsConjCcs_32fc, vlqsConjCcs_32fc_I, conjCcsRef<Vlq32f>, true);
     checkExpansion(vlqsConjCcs_64fc, vlqsConjCcs_64fc_I, conjCcsRef<Vlq64f>, true);
+}
+
+template <class Call, class InPlace>
+void checkScaledProduct(Call call, InPlace inPlace, bool perm) {
+    sweep(sizeof(Vlq16s), {1021, 5004}, [&](Case& c) {
+        const auto len = static_cast<std::size_t>(c.len);
+        const auto a = extremeVector<Vlq16s>(len, c.rng), b = extremeVector<Vlq16s>(len, c.rng);
+        const Buffer<Vlq16s> srcA(a, c.place[1]), srcB(b, c.place[2]);
+        Buffer<Vlq16s> dst(len, c.place[0]);
+        const Vlq32s scales[] = {0, 1, 15, 16, 30, 31, 33, -1, -7, -16, -1000};
+        const Vlq32s scale = scales[c.rng() % std::size(scales)];
+        const auto want = scaledPackedRef(a, b, perm, scale);
+        ASSERT_EQ(vlqStsOk, call(srcA.data(), srcB.data(), dst.data(), c.len, scale));
+        ASSERT_TRUE(same(dst, want)) << "scale " << scale;
+        dst.assign(a);
+        ASSERT_EQ(vlqStsOk, call(dst.data(), srcB.data(), dst.data(), c.len, scale));
+        ASSERT_TRUE(same(dst, want)) << "scale " << scale;
+        dst.assign(b);
+        ASSERT_EQ(vlqStsOk, inPlace(srcA.data(), dst.data(), c.len, scale));
+        ASSERT_TRUE(same(dst, want)) << "scale " << scale;
+        ASSERT_TRUE(same(srcA, a));
+        ASSERT_TRUE(same(srcB, b));
+    });
+    Vlq16s v[4] = {1, 2, 3, 4};
+    EXPECT_EQ(vlqStsNullPtr, call(nullptr, v, v, 0, 0));
+    EXPECT_EQ(vlqStsNullPtr, call(v, nullptr, v, 0, 0));
+    EXPECT_EQ(vlqStsNullPtr, call(v, v, nullptr, 0, 0));
+    EXPECT_EQ(vlqStsBadSize, call(v, v, v, 0, 0));
+    EXPECT_EQ(vlqStsNullPtr, inPlace(nullptr, v, 0, 0));
+    EXPECT_EQ(vlqStsNullPtr, inPlace(v, nullptr, 0, 0));
+    EXPECT_EQ(vlqStsBadSize, inPlace(v, v, -1, 0));
+    EXPECT_EQ(1, v[0]);
+}
+TEST(MulPacked, Scaled) {
+    checkScaledProduct(vlqsMulPack_16s_Sfs, vlqsMulPack_16s_ISfs, false);
+    checkScaledProduct(vlqsMulPerm_16s_Sfs, vlqsMulPerm_16s_ISfs, true);
+}
+
+// The one sum that leaves 32 bits, and terms that a left shift takes beyond 16.
+TEST(MulPacked, ScaledLimits) {
+    const Vlq16s low[3] = {-32768, -32768, -32768};
+    Vlq16s y[3];
+    ASSERT_EQ(vlqStsOk, vlqsMulPack_16s_Sfs(low, low, y, 3, 16));
+    EXPECT_EQ(16384, y[0]);
+    EXPECT_EQ(0, y[1]);
+    EXPECT_EQ(32767, y[2]);
+    const Vlq16s one[3] = {1, 3, -5};
+    ASSERT_EQ(vlqStsOk, vlqsMulPack_16s_Sfs(one, one, y, 3, 2));
+    EXPECT_EQ(0, y[0]);
+    EXPECT_EQ(-4, y[1]);
+    EXPECT_EQ(-8, y[2]);
+    ASSERT_EQ(vlqStsOk, vlqsMulPack_16s_Sfs(one, one, y, 3, -12));
+    EXPECT_EQ(4096, y[0]);
+    EXPECT_EQ(-32768, y[1]);
 }
 
 TEST(MulPacked, ShortLengths) {
