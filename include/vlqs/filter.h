@@ -20,6 +20,11 @@ typedef struct VlqsFIRState_64fc VlqsFIRState_64fc; /**< complex double taps and
 typedef struct VlqsFIRState64fc_32fc VlqsFIRState64fc_32fc; /**< complex double taps, complex float samples */
 typedef struct VlqsFIRState64fc_32sc VlqsFIRState64fc_32sc; /**< complex double taps, complex 32-bit samples */
 typedef struct VlqsFIRState64fc_16sc VlqsFIRState64fc_16sc; /**< complex double taps, complex 16-bit samples */
+typedef struct VlqsFIRState_64f VlqsFIRState_64f; /**< double taps, double samples */
+typedef struct VlqsFIRState64f_32f VlqsFIRState64f_32f; /**< double taps, float samples */
+typedef struct VlqsFIRState64f_32s VlqsFIRState64f_32s; /**< double taps, 32-bit samples */
+typedef VlqsFIRState64f_32s VlqsFIRState_32s; /**< integer taps, 32-bit samples */
+typedef struct VlqsFIRState64f_16s VlqsFIRState64f_16s; /**< double taps, 16-bit samples */
 /** @} */
 
 /** @name FIR: records
@@ -33,6 +38,9 @@ typedef struct VlqsFIRState64fc_16sc VlqsFIRState64fc_16sc; /**< complex double 
  * first; where it is null the filter starts from silence. Both are copied. @p buffer has the size
  * that `GetStateSize` tells and may begin at any address; the record lies somewhere inside and can
  * be neither copied nor moved. A record whose size would reach 2 GiB cannot be built.
+ *
+ * The `_32s` forms take integer taps and make a record of the kind 64f_32s, which never has a
+ * transform. All calls on that kind serve both; `GetTaps` cuts taps off to 32-bit integers.
  *
  * **Threads.** A record has room for as many threads as the core library allows when its size is
  * asked for and when it is built. That count must be the same for both calls, and must not be
@@ -66,6 +74,11 @@ VlqStatus vlqsFIRGetStateSize_64fc(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRGetStateSize64fc_32fc(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRGetStateSize64fc_32sc(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRGetStateSize64fc_16sc(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize_64f(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize64f_32f(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize64f_32s(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize_32s(Vlq32s tapsLen, Vlq32s* stateBytes);
+VlqStatus vlqsFIRGetStateSize64f_16s(Vlq32s tapsLen, Vlq32s* stateBytes);
 VlqStatus vlqsFIRInit_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInit32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInit_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine, Vlq8u* buffer);
@@ -74,6 +87,11 @@ VlqStatus vlqsFIRInit_64fc(VlqsFIRState_64fc** outState, const Vlq64fc* taps, Vl
 VlqStatus vlqsFIRInit64fc_32fc(VlqsFIRState64fc_32fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInit64fc_32sc(VlqsFIRState64fc_32sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32sc* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInit64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit_64f(VlqsFIRState_64f** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq64f* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit64f_32f(VlqsFIRState64f_32f** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit64f_32s(VlqsFIRState64f_32s** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq32s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit_32s(VlqsFIRState_32s** outState, const Vlq32s* taps, Vlq32s tapsLen, const Vlq32s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRInit64f_16s(VlqsFIRState64f_16s** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine, Vlq8u* buffer);
 VlqStatus vlqsFIRInitAlloc_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine);
 VlqStatus vlqsFIRInitAlloc32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine);
 VlqStatus vlqsFIRInitAlloc_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine);
@@ -82,6 +100,11 @@ VlqStatus vlqsFIRInitAlloc_64fc(VlqsFIRState_64fc** outState, const Vlq64fc* tap
 VlqStatus vlqsFIRInitAlloc64fc_32fc(VlqsFIRState64fc_32fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32fc* dlyLine);
 VlqStatus vlqsFIRInitAlloc64fc_32sc(VlqsFIRState64fc_32sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq32sc* dlyLine);
 VlqStatus vlqsFIRInitAlloc64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRInitAlloc_64f(VlqsFIRState_64f** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq64f* dlyLine);
+VlqStatus vlqsFIRInitAlloc64f_32f(VlqsFIRState64f_32f** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine);
+VlqStatus vlqsFIRInitAlloc64f_32s(VlqsFIRState64f_32s** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq32s* dlyLine);
+VlqStatus vlqsFIRInitAlloc_32s(VlqsFIRState_32s** outState, const Vlq32s* taps, Vlq32s tapsLen, const Vlq32s* dlyLine);
+VlqStatus vlqsFIRInitAlloc64f_16s(VlqsFIRState64f_16s** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine);
 VlqStatus vlqsFIRFree_32f(VlqsFIRState_32f* state);
 VlqStatus vlqsFIRFree32f_16s(VlqsFIRState32f_16s* state);
 VlqStatus vlqsFIRFree_32fc(VlqsFIRState_32fc* state);
@@ -90,6 +113,10 @@ VlqStatus vlqsFIRFree_64fc(VlqsFIRState_64fc* state);
 VlqStatus vlqsFIRFree64fc_32fc(VlqsFIRState64fc_32fc* state);
 VlqStatus vlqsFIRFree64fc_32sc(VlqsFIRState64fc_32sc* state);
 VlqStatus vlqsFIRFree64fc_16sc(VlqsFIRState64fc_16sc* state);
+VlqStatus vlqsFIRFree_64f(VlqsFIRState_64f* state);
+VlqStatus vlqsFIRFree64f_32f(VlqsFIRState64f_32f* state);
+VlqStatus vlqsFIRFree64f_32s(VlqsFIRState64f_32s* state);
+VlqStatus vlqsFIRFree64f_16s(VlqsFIRState64f_16s* state);
 /** @} */
 
 /** @name FIR: taps and delay line
@@ -121,6 +148,11 @@ VlqStatus vlqsFIRSetTaps_64fc(const Vlq64fc* taps, VlqsFIRState_64fc* state);
 VlqStatus vlqsFIRSetTaps64fc_32fc(const Vlq64fc* taps, VlqsFIRState64fc_32fc* state);
 VlqStatus vlqsFIRSetTaps64fc_32sc(const Vlq64fc* taps, VlqsFIRState64fc_32sc* state);
 VlqStatus vlqsFIRSetTaps64fc_16sc(const Vlq64fc* taps, VlqsFIRState64fc_16sc* state);
+VlqStatus vlqsFIRSetTaps_64f(const Vlq64f* taps, VlqsFIRState_64f* state);
+VlqStatus vlqsFIRSetTaps64f_32f(const Vlq64f* taps, VlqsFIRState64f_32f* state);
+VlqStatus vlqsFIRSetTaps64f_32s(const Vlq64f* taps, VlqsFIRState64f_32s* state);
+VlqStatus vlqsFIRSetTaps_32s(const Vlq32s* taps, VlqsFIRState_32s* state);
+VlqStatus vlqsFIRSetTaps64f_16s(const Vlq64f* taps, VlqsFIRState64f_16s* state);
 VlqStatus vlqsFIRGetTaps_32f(const VlqsFIRState_32f* state, Vlq32f* taps);
 VlqStatus vlqsFIRGetTaps32f_16s(const VlqsFIRState32f_16s* state, Vlq32f* taps);
 VlqStatus vlqsFIRGetTaps_32fc(const VlqsFIRState_32fc* state, Vlq32fc* taps);
@@ -129,6 +161,11 @@ VlqStatus vlqsFIRGetTaps_64fc(const VlqsFIRState_64fc* state, Vlq64fc* taps);
 VlqStatus vlqsFIRGetTaps64fc_32fc(const VlqsFIRState64fc_32fc* state, Vlq64fc* taps);
 VlqStatus vlqsFIRGetTaps64fc_32sc(const VlqsFIRState64fc_32sc* state, Vlq64fc* taps);
 VlqStatus vlqsFIRGetTaps64fc_16sc(const VlqsFIRState64fc_16sc* state, Vlq64fc* taps);
+VlqStatus vlqsFIRGetTaps_64f(const VlqsFIRState_64f* state, Vlq64f* taps);
+VlqStatus vlqsFIRGetTaps64f_32f(const VlqsFIRState64f_32f* state, Vlq64f* taps);
+VlqStatus vlqsFIRGetTaps64f_32s(const VlqsFIRState64f_32s* state, Vlq64f* taps);
+VlqStatus vlqsFIRGetTaps_32s(const VlqsFIRState_32s* state, Vlq32s* taps);
+VlqStatus vlqsFIRGetTaps64f_16s(const VlqsFIRState64f_16s* state, Vlq64f* taps);
 VlqStatus vlqsFIRSetDlyLine_32f(VlqsFIRState_32f* state, const Vlq32f* dlyLine);
 VlqStatus vlqsFIRSetDlyLine32f_16s(VlqsFIRState32f_16s* state, const Vlq16s* dlyLine);
 VlqStatus vlqsFIRSetDlyLine_32fc(VlqsFIRState_32fc* state, const Vlq32fc* dlyLine);
@@ -137,6 +174,10 @@ VlqStatus vlqsFIRSetDlyLine_64fc(VlqsFIRState_64fc* state, const Vlq64fc* dlyLin
 VlqStatus vlqsFIRSetDlyLine64fc_32fc(VlqsFIRState64fc_32fc* state, const Vlq32fc* dlyLine);
 VlqStatus vlqsFIRSetDlyLine64fc_32sc(VlqsFIRState64fc_32sc* state, const Vlq32sc* dlyLine);
 VlqStatus vlqsFIRSetDlyLine64fc_16sc(VlqsFIRState64fc_16sc* state, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRSetDlyLine_64f(VlqsFIRState_64f* state, const Vlq64f* dlyLine);
+VlqStatus vlqsFIRSetDlyLine64f_32f(VlqsFIRState64f_32f* state, const Vlq32f* dlyLine);
+VlqStatus vlqsFIRSetDlyLine64f_32s(VlqsFIRState64f_32s* state, const Vlq32s* dlyLine);
+VlqStatus vlqsFIRSetDlyLine64f_16s(VlqsFIRState64f_16s* state, const Vlq16s* dlyLine);
 VlqStatus vlqsFIRGetDlyLine_32f(const VlqsFIRState_32f* state, Vlq32f* dlyLine);
 VlqStatus vlqsFIRGetDlyLine32f_16s(const VlqsFIRState32f_16s* state, Vlq16s* dlyLine);
 VlqStatus vlqsFIRGetDlyLine_32fc(const VlqsFIRState_32fc* state, Vlq32fc* dlyLine);
@@ -145,6 +186,10 @@ VlqStatus vlqsFIRGetDlyLine_64fc(const VlqsFIRState_64fc* state, Vlq64fc* dlyLin
 VlqStatus vlqsFIRGetDlyLine64fc_32fc(const VlqsFIRState64fc_32fc* state, Vlq32fc* dlyLine);
 VlqStatus vlqsFIRGetDlyLine64fc_32sc(const VlqsFIRState64fc_32sc* state, Vlq32sc* dlyLine);
 VlqStatus vlqsFIRGetDlyLine64fc_16sc(const VlqsFIRState64fc_16sc* state, Vlq16sc* dlyLine);
+VlqStatus vlqsFIRGetDlyLine_64f(const VlqsFIRState_64f* state, Vlq64f* dlyLine);
+VlqStatus vlqsFIRGetDlyLine64f_32f(const VlqsFIRState64f_32f* state, Vlq32f* dlyLine);
+VlqStatus vlqsFIRGetDlyLine64f_32s(const VlqsFIRState64f_32s* state, Vlq32s* dlyLine);
+VlqStatus vlqsFIRGetDlyLine64f_16s(const VlqsFIRState64f_16s* state, Vlq16s* dlyLine);
 /** @} */
 
 /** @name FIR: filtering
@@ -199,6 +244,16 @@ VlqStatus vlqsFIR64fc_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, Vlq32s len, Vlq
 VlqStatus vlqsFIR64fc_32sc_ISfs(Vlq32sc* srcDst, Vlq32s len, VlqsFIRState64fc_32sc* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIR64fc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIR64fc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, VlqsFIRState_64f* state);
+VlqStatus vlqsFIR_64f_I(Vlq64f* srcDst, Vlq32s len, VlqsFIRState_64f* state);
+VlqStatus vlqsFIR64f_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, VlqsFIRState64f_32f* state);
+VlqStatus vlqsFIR64f_32f_I(Vlq32f* srcDst, Vlq32s len, VlqsFIRState64f_32f* state);
+VlqStatus vlqsFIR64f_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s len, VlqsFIRState64f_32s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64f_32s_ISfs(Vlq32s* srcDst, Vlq32s len, VlqsFIRState64f_32s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s len, VlqsFIRState_32s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_32s_ISfs(Vlq32s* srcDst, Vlq32s len, VlqsFIRState_32s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64f_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState64f_16s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64f_16s_ISfs(Vlq16s* srcDst, Vlq32s len, VlqsFIRState64f_16s* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne_32f(Vlq32f src, Vlq32f* dst, VlqsFIRState_32f* state);
 VlqStatus vlqsFIROne32f_16s_Sfs(Vlq16s src, Vlq16s* dst, VlqsFIRState32f_16s* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne_32fc(Vlq32fc src, Vlq32fc* dst, VlqsFIRState_32fc* state);
@@ -207,6 +262,11 @@ VlqStatus vlqsFIROne_64fc(Vlq64fc src, Vlq64fc* dst, VlqsFIRState_64fc* state);
 VlqStatus vlqsFIROne64fc_32fc(Vlq32fc src, Vlq32fc* dst, VlqsFIRState64fc_32fc* state);
 VlqStatus vlqsFIROne64fc_32sc_Sfs(Vlq32sc src, Vlq32sc* dst, VlqsFIRState64fc_32sc* state, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne64fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne_64f(Vlq64f src, Vlq64f* dst, VlqsFIRState_64f* state);
+VlqStatus vlqsFIROne64f_32f(Vlq32f src, Vlq32f* dst, VlqsFIRState64f_32f* state);
+VlqStatus vlqsFIROne64f_32s_Sfs(Vlq32s src, Vlq32s* dst, VlqsFIRState64f_32s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne_32s_Sfs(Vlq32s src, Vlq32s* dst, VlqsFIRState_32s* state, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64f_16s_Sfs(Vlq16s src, Vlq16s* dst, VlqsFIRState64f_16s* state, Vlq32s scaleFactor);
 /** @} */
 
 /** @name FIR: filtering with a delay line of the caller's
@@ -220,12 +280,13 @@ VlqStatus vlqsFIROne64fc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState64fc_16
  *
  * A single sample (`One`) is written at i and at i + tapsLen, and the index moves on by one, modulo
  * @p tapsLen. Blocks do so sample by sample, except where samples have the type of the taps:
- * - fewer than 64 taps (32fc: 32; 64fc: 16), not in place: if @p len is at least
+ * - fewer than 64 taps (32fc: 32; 64f: 32; 64fc: 16), not in place: if @p len is at least
  *   @p tapsLen, the index ends at `tapsLen - 1`;
  * - as many taps or more, and in place always: through a record made for the call, as the block
  *   forms above. The index stays, and the window at it is the new past.
  *
- * vlqsFIR64fc_Direct_32fc goes through such a record from 128 samples on. The `_Sfs` forms multiply by `2^-scaleFactor`, saturate, and then round to nearest, half
+ * vlqsFIR64fc_Direct_32fc goes through such a record from 128 samples on, vlqsFIR64f_Direct_32f from
+ * 256 on. The `_Sfs` forms multiply by `2^-scaleFactor`, saturate, and then round to nearest, half
  * away from zero, unlike the forms with a record; a sum that is not a number gives the top value.
  *
  * **Shapes.** @p taps has @p tapsLen elements, h[0] first, @p dlyLine twice as many. The index is at
@@ -283,6 +344,22 @@ VlqStatus vlqsFIR64fc_Direct_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, Vlq32s l
 VlqStatus vlqsFIR64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, Vlq32s len, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne64fc_Direct_32sc_Sfs(Vlq32sc src, Vlq32sc* dst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR_Direct_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq64f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR_Direct_64f_I(Vlq64f* srcDst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq64f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne_Direct_64f(Vlq64f src, Vlq64f* dst, const Vlq64f* taps, Vlq32s tapsLen, Vlq64f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne_Direct_64f_I(Vlq64f* srcDst, const Vlq64f* taps, Vlq32s tapsLen, Vlq64f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR64f_Direct_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR64f_Direct_32f_I(Vlq32f* srcDst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne64f_Direct_32f(Vlq32f src, Vlq32f* dst, const Vlq64f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIROne64f_Direct_32f_I(Vlq32f* srcDst, const Vlq64f* taps, Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
+VlqStatus vlqsFIR64f_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64f_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64f_Direct_16s_Sfs(Vlq16s src, Vlq16s* dst, const Vlq64f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64f_Direct_16s_ISfs(Vlq16s* srcDst, const Vlq64f* taps, Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64f_Direct_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIR64f_Direct_32s_ISfs(Vlq32s* srcDst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64f_Direct_32s_Sfs(Vlq32s src, Vlq32s* dst, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+VlqStatus vlqsFIROne64f_Direct_32s_ISfs(Vlq32s* srcDst, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 /** @} */
 
 /** @name Records of FIR filters with integer arithmetic, opaque

@@ -52,3 +52,28 @@ VlqStatus vlq::vlqsFIR64fc_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len
 VlqStatus vlq::vlqsFIR64fc_16sc_ISfs(Vlq16sc* srcDst, Vlq32s len, VlqsFIRState64fc_16sc* state, Vlq32s scaleFactor) {
     return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
 }
+
+VlqStatus vlq::vlqsFIR_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, VlqsFIRState_64f* state) {
+    return fir::filter(src, dst, len, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIR_64f_I(Vlq64f* srcDst, Vlq32s len, VlqsFIRState_64f* state) {
+    return fir::filterInPlace(srcDst, len, state);
+}
+VlqStatus vlq::vlqsFIR64f_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, VlqsFIRState64f_32f* state) {
+    return fir::filter(src, dst, len, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIR64f_32f_I(Vlq32f* srcDst, Vlq32s len, VlqsFIRState64f_32f* state) {
+    return fir::filterNarrowInPlace(srcDst, len, state, fir::Unscaled{});
+}
+VlqStatus vlq::vlqsFIR64f_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s len, VlqsFIRState64f_32s* state, Vlq32s scaleFactor) {
+    return fir::filter(src, dst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR64f_32s_ISfs(Vlq32s* srcDst, Vlq32s len, VlqsFIRState64f_32s* state, Vlq32s scaleFactor) {
+    return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR64f_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState64f_16s* state, Vlq32s scaleFactor) {
+    return fir::filter(src, dst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR64f_16s_ISfs(Vlq16s* srcDst, Vlq32s len, VlqsFIRState64f_16s* state, Vlq32s scaleFactor) {
+    return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
+}

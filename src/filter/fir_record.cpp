@@ -112,3 +112,54 @@ VlqStatus vlq::vlqsFIRSetTaps64fc_16sc(const Vlq64fc* taps, VlqsFIRState64fc_16s
 VlqStatus vlq::vlqsFIRGetTaps64fc_16sc(const VlqsFIRState64fc_16sc* state, Vlq64fc* taps) { return fir::getTaps(state, taps); }
 VlqStatus vlq::vlqsFIRSetDlyLine64fc_16sc(VlqsFIRState64fc_16sc* state, const Vlq16sc* dlyLine) { return fir::setDelayLine(state, dlyLine); }
 VlqStatus vlq::vlqsFIRGetDlyLine64fc_16sc(const VlqsFIRState64fc_16sc* state, Vlq16sc* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRGetStateSize_64f(Vlq32s tapsLen, Vlq32s* stateBytes) {
+    return fir::stateSize<Vlq64f>(tapsLen, stateBytes);
+}
+VlqStatus vlq::vlqsFIRInit_64f(VlqsFIRState_64f** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq64f* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc_64f(VlqsFIRState_64f** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq64f* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree_64f(VlqsFIRState_64f* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps_64f(const Vlq64f* taps, VlqsFIRState_64f* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps_64f(const VlqsFIRState_64f* state, Vlq64f* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine_64f(VlqsFIRState_64f* state, const Vlq64f* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine_64f(const VlqsFIRState_64f* state, Vlq64f* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRInit64f_32f(VlqsFIRState64f_32f** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc64f_32f(VlqsFIRState64f_32f** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq32f* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree64f_32f(VlqsFIRState64f_32f* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps64f_32f(const Vlq64f* taps, VlqsFIRState64f_32f* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps64f_32f(const VlqsFIRState64f_32f* state, Vlq64f* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine64f_32f(VlqsFIRState64f_32f* state, const Vlq32f* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine64f_32f(const VlqsFIRState64f_32f* state, Vlq32f* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRInit64f_32s(VlqsFIRState64f_32s** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq32s* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc64f_32s(VlqsFIRState64f_32s** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq32s* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree64f_32s(VlqsFIRState64f_32s* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps64f_32s(const Vlq64f* taps, VlqsFIRState64f_32s* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps64f_32s(const VlqsFIRState64f_32s* state, Vlq64f* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine64f_32s(VlqsFIRState64f_32s* state, const Vlq32s* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine64f_32s(const VlqsFIRState64f_32s* state, Vlq32s* dlyLine) { return fir::getDelayLine(state, dlyLine); }
+
+VlqStatus vlq::vlqsFIRInit64f_16s(VlqsFIRState64f_16s** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine, Vlq8u* buffer) {
+    return fir::init(outState, taps, tapsLen, dlyLine, buffer);
+}
+VlqStatus vlq::vlqsFIRInitAlloc64f_16s(VlqsFIRState64f_16s** outState, const Vlq64f* taps, Vlq32s tapsLen, const Vlq16s* dlyLine) {
+    return fir::initAlloc(outState, taps, tapsLen, dlyLine);
+}
+VlqStatus vlq::vlqsFIRFree64f_16s(VlqsFIRState64f_16s* state) { return fir::release(state); }
+VlqStatus vlq::vlqsFIRSetTaps64f_16s(const Vlq64f* taps, VlqsFIRState64f_16s* state) { return fir::setTaps(taps, state); }
+VlqStatus vlq::vlqsFIRGetTaps64f_16s(const VlqsFIRState64f_16s* state, Vlq64f* taps) { return fir::getTaps(state, taps); }
+VlqStatus vlq::vlqsFIRSetDlyLine64f_16s(VlqsFIRState64f_16s* state, const Vlq16s* dlyLine) { return fir::setDelayLine(state, dlyLine); }
+VlqStatus vlq::vlqsFIRGetDlyLine64f_16s(const VlqsFIRState64f_16s* state, Vlq16s* dlyLine) { return fir::getDelayLine(state, dlyLine); }

@@ -50,6 +50,7 @@ struct Record {
 static_assert(sizeof(Record<Vlq32f>) == Shape<Vlq32f>::kHeaderBytes);
 static_assert(sizeof(Record<Vlq32fc>) == Shape<Vlq32fc>::kHeaderBytes);
 static_assert(sizeof(Record<Vlq64fc>) == Shape<Vlq64fc>::kHeaderBytes);
+static_assert(sizeof(Record<Vlq64f>) == Shape<Vlq64f>::kHeaderBytes);
 static_assert(offsetof(Record<Vlq32f>, fftSpec) == 32 && offsetof(Record<Vlq32f>, ownsMemory) == 92);
 
 // Sizes of one record: functions of the tap count and of the thread count.
@@ -317,6 +318,10 @@ struct vlq::VlqsFIRState_64fc : vlq::fir::Record<Vlq64fc> {};
 struct vlq::VlqsFIRState64fc_32fc : vlq::fir::Record<Vlq64fc> {};
 struct vlq::VlqsFIRState64fc_32sc : vlq::fir::Record<Vlq64fc> {};
 struct vlq::VlqsFIRState64fc_16sc : vlq::fir::Record<Vlq64fc> {};
+struct vlq::VlqsFIRState_64f : vlq::fir::Record<Vlq64f> {};
+struct vlq::VlqsFIRState64f_32f : vlq::fir::Record<Vlq64f> {};
+struct vlq::VlqsFIRState64f_32s : vlq::fir::Record<Vlq64f> {};
+struct vlq::VlqsFIRState64f_16s : vlq::fir::Record<Vlq64f> {};
 
 namespace vlq::fir {
 
@@ -351,6 +356,22 @@ struct Kind<VlqsFIRState64fc_32sc> : Words<0x46493232, 0x46493234> {
 template <>
 struct Kind<VlqsFIRState64fc_16sc> : Words<0x46493236, 0x46493238> {
     using Sample = Vlq16sc;
+};
+template <>
+struct Kind<VlqsFIRState_64f> : Words<0x46493133, 0x46493135> {
+    using Sample = Vlq64f;
+};
+template <>
+struct Kind<VlqsFIRState64f_32f> : Words<0x46493137, 0x46493139> {
+    using Sample = Vlq32f;
+};
+template <>
+struct Kind<VlqsFIRState64f_32s> : Words<0x46493231, 0x46493233> {
+    using Sample = Vlq32s;
+};
+template <>
+struct Kind<VlqsFIRState64f_16s> : Words<0x46493235, 0x46493237> {
+    using Sample = Vlq16s;
 };
 
 }  // namespace vlq::fir

@@ -141,4 +141,35 @@ struct Shape<Vlq64fc> : ComplexShape, DoublePrecision {
     }
 };
 
+// Real double.
+template <>
+struct Shape<Vlq64f> : RealShape, DoublePrecision {
+    using Spec = VlqsFFTSpec_R_64f;
+
+    static constexpr Vlq32s kTransformTaps = 32;  // a transform is prepared from this many taps
+    static constexpr Vlq64s tapsWideBytes(Vlq64s tapBytes) { return 2 * tapBytes; }
+    static constexpr Vlq64s kAlignmentSlack = 16;
+
+    static VlqStatus transformSize(Vlq32s order, Vlq32s* spec, Vlq32s* init, Vlq32s* work) {
+        return vlqsFFTGetSize_R_64f(order, vlqNormInvByN, vlqHintNone, spec, init, work);
+    }
+    static VlqStatus makeTransform(Spec** spec, Vlq32s order, Vlq8u* memory, Vlq8u* scratch) {
+        return vlqsFFTInit_R_64f(spec, order, vlqNormInvByN, vlqHintNone, memory, scratch);
+    }
+    static VlqStatus allocateTransform(Spec** spec, Vlq32s order) {
+        return vlqsFFTInitAlloc_R_64f(spec, order, vlqNormInvByN, vlqHintNone);
+    }
+    static VlqStatus freeTransform(Spec* spec) { return vlqsFFTFree_R_64f(spec); }
+
+    static VlqStatus forward(const Vlq64f* src, Vlq64f* dst, const Spec* spec, Vlq8u* work) {
+        return vlqsFFTFwd_RToPerm_64f(src, dst, spec, work);
+    }
+    static VlqStatus inverse(const Vlq64f* src, Vlq64f* dst, const Spec* spec, Vlq8u* work) {
+        return vlqsFFTInv_PermToR_64f(src, dst, spec, work);
+    }
+    static VlqStatus multiplySpectra(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len) {
+        return vlqsMulPerm_64f_I(src, srcDst, len);
+    }
+};
+
 }  // namespace vlq::fir

@@ -172,6 +172,86 @@ struct Direct64fc_32fc {
     static constexpr int kDirectLen = 128;  // shorter: no record
     static constexpr int kTransformTaps = 16, kTransformLen = 256;
 };
+struct Direct64f {
+    using Tap = Vlq64f;
+    using Sample = Vlq64f;
+    static constexpr bool kScaled = false;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIR_Direct_64f(src, dst, len, taps, n, line, index);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIR_Direct_64f_I(srcDst, len, taps, n, line, index);
+    }
+    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIROne_Direct_64f(src, dst, taps, n, line, index);
+    }
+    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIROne_Direct_64f_I(srcDst, taps, n, line, index);
+    }
+    static constexpr int kDirectTaps = 32;  // fewer: no record
+    static constexpr int kDirectLen = 1 << 30;
+    static constexpr int kTransformTaps = 32, kTransformLen = 512;
+};
+struct Direct64f_16s {
+    using Tap = Vlq64f;
+    using Sample = Vlq16s;
+    static constexpr bool kScaled = true;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIR64f_Direct_16s_Sfs(src, dst, len, taps, n, line, index, scale);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIR64f_Direct_16s_ISfs(srcDst, len, taps, n, line, index, scale);
+    }
+    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIROne64f_Direct_16s_Sfs(src, dst, taps, n, line, index, scale);
+    }
+    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIROne64f_Direct_16s_ISfs(srcDst, taps, n, line, index, scale);
+    }
+    static constexpr int kDirectTaps = 1 << 30;
+    static constexpr int kDirectLen = 1 << 30;
+    static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
+};
+struct Direct64f_32s {
+    using Tap = Vlq64f;
+    using Sample = Vlq32s;
+    static constexpr bool kScaled = true;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIR64f_Direct_32s_Sfs(src, dst, len, taps, n, line, index, scale);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIR64f_Direct_32s_ISfs(srcDst, len, taps, n, line, index, scale);
+    }
+    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIROne64f_Direct_32s_Sfs(src, dst, taps, n, line, index, scale);
+    }
+    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
+        return vlqsFIROne64f_Direct_32s_ISfs(srcDst, taps, n, line, index, scale);
+    }
+    static constexpr int kDirectTaps = 1 << 30;
+    static constexpr int kDirectLen = 1 << 30;
+    static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
+};
+struct Direct64f_32f {
+    using Tap = Vlq64f;
+    using Sample = Vlq32f;
+    static constexpr bool kScaled = false;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIR64f_Direct_32f(src, dst, len, taps, n, line, index);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIR64f_Direct_32f_I(srcDst, len, taps, n, line, index);
+    }
+    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIROne64f_Direct_32f(src, dst, taps, n, line, index);
+    }
+    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
+        return vlqsFIROne64f_Direct_32f_I(srcDst, taps, n, line, index);
+    }
+    static constexpr int kDirectTaps = 1 << 30;
+    static constexpr int kDirectLen = 256;  // shorter: no record
+    static constexpr int kTransformTaps = 32, kTransformLen = 512;
+};
 
 // The caller's side of a filter, beside the definition.
 template <class K>
@@ -279,7 +359,7 @@ private:
     int outstanding_ = Core::outstanding();
 };
 
-using Kinds = ::testing::Types<Direct32f, Direct32fc, Direct32f_16s, Direct32fc_16sc, Direct64fc, Direct64fc_16sc, Direct64fc_32sc, Direct64fc_32fc>;
+using Kinds = ::testing::Types<Direct32f, Direct32fc, Direct32f_16s, Direct32fc_16sc, Direct64fc, Direct64fc_16sc, Direct64fc_32sc, Direct64fc_32fc, Direct64f, Direct64f_16s, Direct64f_32s, Direct64f_32f>;
 TYPED_TEST_SUITE(FirExternal, Kinds);
 
 TYPED_TEST(FirExternal, SingleSamples) {

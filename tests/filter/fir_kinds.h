@@ -168,6 +168,110 @@ struct Fir64fc_16sc {
         return vlqsFIROne64fc_16sc_Sfs(src, dst, state, scale);
     }
 };
+struct Fir64f {
+    using Tap = Vlq64f;
+    using Sample = Vlq64f;
+    using State = VlqsFIRState_64f;
+    static constexpr bool kScaled = false;
+    static constexpr Vlq32u kWord = 0x46493133, kMultiRateWord = 0x46493135;
+    static constexpr int kTransformTaps = 32;
+    static constexpr auto stateSize = vlqsFIRGetStateSize_64f;
+    static constexpr auto init = vlqsFIRInit_64f;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc_64f;
+    static constexpr auto free = vlqsFIRFree_64f;
+    static constexpr auto setTaps = vlqsFIRSetTaps_64f;
+    static constexpr auto getTaps = vlqsFIRGetTaps_64f;
+    static constexpr auto setLine = vlqsFIRSetDlyLine_64f;
+    static constexpr auto getLine = vlqsFIRGetDlyLine_64f;
+    static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
+        return vlqsFIR_64f(src, dst, len, state);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
+        return vlqsFIR_64f_I(srcDst, len, state);
+    }
+    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
+        return vlqsFIROne_64f(src, dst, state);
+    }
+};
+struct Fir64f_32f {
+    using Tap = Vlq64f;
+    using Sample = Vlq32f;
+    using State = VlqsFIRState64f_32f;
+    static constexpr bool kScaled = false;
+    static constexpr Vlq32u kWord = 0x46493137, kMultiRateWord = 0x46493139;
+    static constexpr int kTransformTaps = 32;
+    static constexpr auto stateSize = vlqsFIRGetStateSize64f_32f;
+    static constexpr auto init = vlqsFIRInit64f_32f;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc64f_32f;
+    static constexpr auto free = vlqsFIRFree64f_32f;
+    static constexpr auto setTaps = vlqsFIRSetTaps64f_32f;
+    static constexpr auto getTaps = vlqsFIRGetTaps64f_32f;
+    static constexpr auto setLine = vlqsFIRSetDlyLine64f_32f;
+    static constexpr auto getLine = vlqsFIRGetDlyLine64f_32f;
+    static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
+        return vlqsFIR64f_32f(src, dst, len, state);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
+        return vlqsFIR64f_32f_I(srcDst, len, state);
+    }
+    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
+        return vlqsFIROne64f_32f(src, dst, state);
+    }
+};
+struct Fir64f_32s {
+    using Tap = Vlq64f;
+    using Sample = Vlq32s;
+    using State = VlqsFIRState64f_32s;
+    static constexpr bool kScaled = true;
+    static constexpr Vlq32u kWord = 0x46493231, kMultiRateWord = 0x46493233;
+    static constexpr int kTransformTaps = 32;
+    static constexpr auto stateSize = vlqsFIRGetStateSize64f_32s;
+    static constexpr auto init = vlqsFIRInit64f_32s;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc64f_32s;
+    static constexpr auto free = vlqsFIRFree64f_32s;
+    static constexpr auto setTaps = vlqsFIRSetTaps64f_32s;
+    static constexpr auto getTaps = vlqsFIRGetTaps64f_32s;
+    static constexpr auto setLine = vlqsFIRSetDlyLine64f_32s;
+    static constexpr auto getLine = vlqsFIRGetDlyLine64f_32s;
+    static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
+        return vlqsFIR64f_32s_Sfs(src, dst, len, state, scale);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
+        return vlqsFIR64f_32s_ISfs(srcDst, len, state, scale);
+    }
+    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
+        return vlqsFIROne64f_32s_Sfs(src, dst, state, scale);
+    }
+};
+struct Fir64f_16s {
+    using Tap = Vlq64f;
+    using Sample = Vlq16s;
+    using State = VlqsFIRState64f_16s;
+    static constexpr bool kScaled = true;
+    static constexpr Vlq32u kWord = 0x46493235, kMultiRateWord = 0x46493237;
+    static constexpr int kTransformTaps = 32;
+    static constexpr auto stateSize = vlqsFIRGetStateSize64f_16s;
+    static constexpr auto init = vlqsFIRInit64f_16s;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc64f_16s;
+    static constexpr auto free = vlqsFIRFree64f_16s;
+    static constexpr auto setTaps = vlqsFIRSetTaps64f_16s;
+    static constexpr auto getTaps = vlqsFIRGetTaps64f_16s;
+    static constexpr auto setLine = vlqsFIRSetDlyLine64f_16s;
+    static constexpr auto getLine = vlqsFIRGetDlyLine64f_16s;
+    static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
+    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
+        return vlqsFIR64f_16s_Sfs(src, dst, len, state, scale);
+    }
+    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
+        return vlqsFIR64f_16s_ISfs(srcDst, len, state, scale);
+    }
+    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
+        return vlqsFIROne64f_16s_Sfs(src, dst, state, scale);
+    }
+};
 
 // ---- values of every type -------------------------------------------------------------------------
 

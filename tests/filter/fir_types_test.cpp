@@ -90,7 +90,7 @@ private:
     int outstanding_ = Core::outstanding();
 };
 
-using Kinds = ::testing::Types<Fir32fc, Fir32fc_16sc, Fir64fc, Fir64fc_32fc, Fir64fc_32sc, Fir64fc_16sc>;
+using Kinds = ::testing::Types<Fir32fc, Fir32fc_16sc, Fir64fc, Fir64fc_32fc, Fir64fc_32sc, Fir64fc_16sc, Fir64f, Fir64f_32f, Fir64f_32s, Fir64f_16s>;
 TYPED_TEST_SUITE(FirTypes, Kinds);
 
 // ---- records ---------------------------------------------------------------------------------------
