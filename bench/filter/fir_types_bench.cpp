@@ -2,6 +2,7 @@
 // and against plain compiled loops.
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <vector>
 
 #include "harness/bench.h"
@@ -49,6 +50,17 @@ std::vector<Vlq16s> x16(2 * kRoom, 1234), y16(2 * kRoom);
         }
     }
 }
+[[gnu::noinline]] void plainDouble(const double* __restrict x, const double* __restrict taps, double* __restrict y, int len, int count) {
+    constexpr int tile = 256;
+    for (int from = 0; from < len; from += tile) {
+        const int n = std::min(tile, len - from);
+        for (int i = 0; i < n; ++i) y[from + i] = 0;
+        for (int k = 0; k < count; ++k) {
+            for (int i = 0; i < n; ++i) y[from + i] += taps[k] * x[from + i + k];
+        }
+    }
+}
+
 template <class State, class Sample>
 auto blocks(VlqStatus (*filter)(const Sample*, Sample*, Vlq32s, State*), const Sample* src, Sample* dst, int len, int block, State* state) {
     return [=] {
@@ -71,10 +83,12 @@ int main(int argc, char** argv) {
     for (const int taps : {8, 32, 64, 256}) {
         const std::string name = ", " + std::to_string(taps) + " taps";
         VlqsFIRState_32f* real = nullptr;
+        VlqsFIRState_64f* realDouble = nullptr;
         VlqsFIRState_32fc* complex = nullptr;
         VlqsFIRState_64fc* complexDouble = nullptr;
         VlqsFIRState32fc_16sc* mixed = nullptr;
         vlqsFIRInitAlloc_32f(&real, x32, taps, nullptr);
+        vlqsFIRInitAlloc_64f(&realDouble, x64, taps, nullptr);
         vlqsFIRInitAlloc_32fc(&complex, xc32, taps, nullptr);
         vlqsFIRInitAlloc_64fc(&complexDouble, xc64, taps, nullptr);
         vlqsFIRInitAlloc32fc_16sc(&mixed, xc32, taps, nullptr);
@@ -85,6 +99,9 @@ int main(int argc, char** argv) {
             row("FIR 32fc direct" + name, len, "FIR 32f", kComplex, complexBlocks, realBlocks);
             row("FIR 32fc direct" + name, len, "plain loop", 1, complexBlocks, [=] { plainComplex(x32, x32 + 512, y32, len, taps); });
             row("FIR 64fc direct" + name, len, "FIR 32fc", kDouble, blocks(vlqsFIR_64fc, xc64, yc64, len, 240, complexDouble), complexBlocks);
+            const auto doubleBlocks = blocks(vlqsFIR_64f, static_cast<const Vlq64f*>(x64), y64, len, 240, realDouble);
+            row("FIR 64f direct" + name, len, "FIR 32f", kDouble, doubleBlocks, realBlocks);
+            row("FIR 64f direct" + name, len, "plain loop", 1, doubleBlocks, [=] { plainDouble(x64, x64 + 512, y64, len, taps); });
         }
         if (taps >= 64) {
             for (const int len : {4096, kMost}) {
@@ -92,6 +109,8 @@ int main(int argc, char** argv) {
                     [=] { vlqsFIR_32f(x32, y32, len, real); });
                 row("FIR 64fc overlap-save" + name, len, "FIR 32fc", kDouble, [=] { vlqsFIR_64fc(xc64, yc64, len, complexDouble); },
                     [=] { vlqsFIR_32fc(xc32, yc32, len, complex); });
+                row("FIR 64f overlap-save" + name, len, "FIR 32f", kDouble, [=] { vlqsFIR_64f(x64, y64, len, realDouble); },
+                    [=] { vlqsFIR_32f(x32, y32, len, real); });
             }
         }
         row("FIR 32fc 16sc direct" + name, 240, "FIR 32fc", 0,
@@ -101,16 +120,19 @@ int main(int argc, char** argv) {
         one("FIR one sample 64fc" + name, "32fc", [=] { vlqsFIROne_64fc({1, 2}, yc64, complexDouble); }, [=] { vlqsFIROne_32fc({1, 2}, yc32, complex); });
 
         // Without a record.
-        static Vlq32f line[1024];
-        static Vlq16s line16[1024];
-        static Vlq32s index = 0;
-        one("FIR one sample 32f, no record" + name, "record", [=] { vlqsFIROne_Direct_32f(1, y32, x32, taps, line, &index); },
+        struct Ring {
+            Vlq32f line[512];
+            Vlq16s line16[512];
+            Vlq32s index;
+        };
+        const auto ring = std::make_shared<Ring>();
+        one("FIR one sample 32f, no record" + name, "record", [=] { vlqsFIROne_Direct_32f(1, y32, x32, taps, ring->line, &ring->index); },
             [=] { vlqsFIROne_32f(1, y32, real); });
-        one("FIR one sample 32f 16s, no record" + name, "", [=] { vlqsFIROne32f_Direct_16s_Sfs(1, y16.data(), x32, taps, line16, &index, 0); }, nullptr);
+        one("FIR one sample 32f 16s, no record" + name, "", [=] { vlqsFIROne32f_Direct_16s_Sfs(1, y16.data(), x32, taps, ring->line16, &ring->index, 0); }, nullptr);
         row("FIR 32f, no record" + name, 240, "record", 0,
-            [=] { vlqsFIR_Direct_32f(x32, y32, 240, x32, taps, line, &index); }, [=] { vlqsFIR_32f(x32, y32, 240, real); });
+            [=] { vlqsFIR_Direct_32f(x32, y32, 240, x32, taps, ring->line, &ring->index); }, [=] { vlqsFIR_32f(x32, y32, 240, real); });
         row("FIR 32f 16s, no record" + name, 240, "", 0,
-            [=] { vlqsFIR32f_Direct_16s_Sfs(x16.data(), y16.data(), 240, x32, taps, line16, &index, 0); }, nullptr);
+            [=] { vlqsFIR32f_Direct_16s_Sfs(x16.data(), y16.data(), 240, x32, taps, ring->line16, &ring->index, 0); }, nullptr);
     }
     return vlqbench::run(argc, argv);
 }
