@@ -166,7 +166,7 @@ Block<State> layOut(void* memory, const Plan<typename State::Element>& plan) {
 
     state.taps = cursor.take<E>(len);
     state.dlyLine = reinterpret_cast<E*>(cursor.take<char>(plan.delayStoreBytes(), alignment));
-    state.tapsWide = reinterpret_cast<E*>(cursor.take<char>(Shape<E>::tapsWideBytes(len * sizeof(E)), 16));
+    state.tapsWide = reinterpret_cast<E*>(cursor.take<char>(Shape<E>::tapsWideBytes(len * Vlq64s{sizeof(E)}), 16));
     state.threadStatus = cursor.take<VlqStatus>(plan.threads, alignment);
     if (plan.order >= 0) {
         constexpr Vlq64s slack = 64;
