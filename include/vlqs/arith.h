@@ -313,11 +313,11 @@ VlqStatus vlqsMulC_Low_32f16s(const Vlq32f* src, Vlq32f val, Vlq16s* dst, Vlq32s
  *
  * **Memory.** None.
  *
- * @arg @c src1        first factor
- * @arg @c src2        second factor
- * @arg @c srcDst      sum so far, and the result
- * @arg @c len         number of elements
- * @arg @c scaleFactor power of two by which the sum is divided
+ * @param src1        first factor
+ * @param src2        second factor
+ * @param srcDst      sum so far, and the result
+ * @param len         number of elements
+ * @param scaleFactor power of two by which the sum is divided
  * @return #vlqStsOk or an error above.
  */
 VlqStatus vlqsAddProduct_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
