@@ -71,6 +71,13 @@ VlqStatus vlq::vlqsFIR64f_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s len, Vl
 VlqStatus vlq::vlqsFIR64f_32s_ISfs(Vlq32s* srcDst, Vlq32s len, VlqsFIRState64f_32s* state, Vlq32s scaleFactor) {
     return fir::filterNarrowInPlace(srcDst, len, state, scaleFactor);
 }
+// A filter built from integer taps is the same record.
+VlqStatus vlq::vlqsFIR_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s len, VlqsFIRState_32s* state, Vlq32s scaleFactor) {
+    return vlqsFIR64f_32s_Sfs(src, dst, len, state, scaleFactor);
+}
+VlqStatus vlq::vlqsFIR_32s_ISfs(Vlq32s* srcDst, Vlq32s len, VlqsFIRState_32s* state, Vlq32s scaleFactor) {
+    return vlqsFIR64f_32s_ISfs(srcDst, len, state, scaleFactor);
+}
 VlqStatus vlq::vlqsFIR64f_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState64f_16s* state, Vlq32s scaleFactor) {
     return fir::filter(src, dst, len, state, scaleFactor);
 }

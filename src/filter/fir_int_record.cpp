@@ -149,6 +149,12 @@ VlqStatus vlq::vlqsFIRGetStateSize32s_16s(Vlq32s tapsLen, Vlq32s* stateBytes) {
 VlqStatus vlq::vlqsFIRGetStateSize32sc_16sc(Vlq32s tapsLen, Vlq32s* stateBytes) {
     return stateSize<VlqsFIRState32sc_16sc>(tapsLen, stateBytes);
 }
+VlqStatus vlq::vlqsFIRGetStateSize32s_16s32f(Vlq32s tapsLen, Vlq32s* stateBytes) {
+    return vlqsFIRGetStateSize32s_16s(tapsLen, stateBytes);
+}
+VlqStatus vlq::vlqsFIRGetStateSize32sc_16sc32fc(Vlq32s tapsLen, Vlq32s* stateBytes) {
+    return vlqsFIRGetStateSize32sc_16sc(tapsLen, stateBytes);
+}
 
 VlqStatus vlq::vlqsFIRInit_16s(VlqsFIRState_16s** outState, const Vlq16s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const Vlq16s* dlyLine, Vlq8u* buffer) {
     return initInteger(outState, taps, tapsLen, tapsFactor, dlyLine, buffer);
