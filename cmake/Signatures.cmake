@@ -4,6 +4,7 @@ function(vlqs_write_signatures output)
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/vlqs/*.h)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${headers})
   set(table "")
+  set(parameter_lists "")
   foreach(header IN LISTS headers)
     file(STRINGS ${header} declarations REGEX "^VlqStatus vlqs[A-Za-z0-9_]+\\(.*\\);$")
     foreach(declaration IN LISTS declarations)
@@ -26,17 +27,26 @@ function(vlqs_write_signatures output)
         math(EXPR index "${index} + 1")
       endforeach()
       string(REGEX REPLACE "^, " "" passed "${passed}")
-      string(APPEND table "    {\"${name}\", {${described}},\n     [](Arguments& a) { return ${name}(${passed}); }},\n")
+      # Constants all of it: compilers choke on one initialiser that runs code for every function.
+      string(APPEND parameter_lists "constexpr Parameter ${name}Parameters[] = {${described}};\n")
+      string(APPEND table "    {\"${name}\", ${name}Parameters, [](Arguments& a) { return ${name}(${passed}); }},\n")
     endforeach()
   endforeach()
   file(CONFIGURE OUTPUT ${output} CONTENT [=[
 // Written by cmake/Signatures.cmake from the public headers.
 #include "harness/signatures.h"
 
-const std::vector<vlqtest::Signature>& vlqtest::signatures() {
-    static const std::vector<Signature> table = {
-@table@    };
-    return table;
-}
+namespace {
+
+using vlqtest::Arguments;
+using vlqtest::Parameter;
+
+@parameter_lists@
+constexpr vlqtest::Signature table[] = {
+@table@};
+
+}  // namespace
+
+std::span<const vlqtest::Signature> vlqtest::signatures() { return table; }
 ]=] @ONLY)
 endfunction()

@@ -42,7 +42,7 @@ run_program() {  # run_program PROGRAM LIBRARIES LABEL
     local name log
     name=$3-$(basename "$1")
     log=$logs/$name.log
-    ASAN_OPTIONS=allocator_may_return_null=1 LD_LIBRARY_PATH=$2 timeout 900 "$1" >"$log" 2>&1
+    ASAN_OPTIONS=allocator_may_return_null=1 LSAN_OPTIONS=suppressions=tests/harness/lsan.supp LD_LIBRARY_PATH=$2 timeout 900 "$1" >"$log" 2>&1
     local code=$? good bad
     good=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) test.*/\1/p' "$log" | tail -n 1)
     bad=$(sed -n 's/^\[  FAILED  \] \([0-9]*\) test.*/\1/p' "$log" | tail -n 1)

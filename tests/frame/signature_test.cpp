@@ -15,13 +15,13 @@ namespace {
 
 using namespace vlqtest;
 
-bool startsWith(const std::string& text, const char* prefix) { return text.rfind(prefix, 0) == 0; }
-bool endsWith(const std::string& text, const std::string& suffix) {
-    return text.size() >= suffix.size() && text.compare(text.size() - suffix.size(), suffix.size(), suffix) == 0;
+bool startsWith(std::string_view text, std::string_view prefix) { return text.substr(0, prefix.size()) == prefix; }
+bool endsWith(std::string_view text, std::string_view suffix) {
+    return text.size() >= suffix.size() && text.substr(text.size() - suffix.size()) == suffix;
 }
-bool contains(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
+bool contains(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
 
-bool isRecord(const Parameter& p) { return p.isPointer() && startsWith(p.type, "Vlqs") && p.type.find("**") == std::string::npos; }
+bool isRecord(const Parameter& p) { return p.isPointer() && startsWith(p.type, "Vlqs") && p.type.find("**") == std::string_view::npos; }
 bool isConstRecord(const Parameter& p) { return startsWith(p.type, "const Vlqs"); }
 
 bool isTransform(const Signature& s) { return startsWith(s.name, "vlqsFFTFwd") || startsWith(s.name, "vlqsFFTInv"); }
@@ -96,7 +96,7 @@ int lengthIndex(const Signature& s) {
 
 TEST(EveryFunction, StandsInTheTable) {
     std::set<std::string> known;
-    for (const Signature& s : signatures()) known.insert(s.name);
+    for (const Signature& s : signatures()) known.insert(std::string(s.name));
     std::ifstream file(VLQS_NAMES_FILE);
     for (std::string line; std::getline(file, line);) {
         const std::string name = line.substr(0, line.find(' '));
@@ -114,11 +114,11 @@ TEST(EveryFunction, NullPointers) {
             const bool dataOfTransform = isTransform(s) && !isRecord(p) && !isConstRecord(p);
             Call call(s);
             call.setPointer(i, nullptr);
-            call.expect(dataOfTransform ? vlqStsBadSpec : vlqStsNullPtr, p.name + " null");
+            call.expect(dataOfTransform ? vlqStsBadSpec : vlqStsNullPtr, std::string(p.name) + " null");
             const int len = lengthIndex(s);
             if (len < 0) continue;
             call.setValue(static_cast<std::size_t>(len), 0);
-            call.expect(testsLengthFirst(s) || isLookedAtAfterLength(s, p) ? vlqStsBadSize : vlqStsNullPtr, p.name + " null, len 0");
+            call.expect(testsLengthFirst(s) || isLookedAtAfterLength(s, p) ? vlqStsBadSize : vlqStsNullPtr, std::string(p.name) + " null, len 0");
         }
     }
 }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <cstring>
-#include <functional>
-#include <string>
+#include <span>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -32,17 +32,17 @@ struct Arguments {
 };
 
 struct Parameter {
-    std::string type;
-    std::string name;
-    bool isPointer() const { return type.find('*') != std::string::npos; }
+    std::string_view type;
+    std::string_view name;
+    bool isPointer() const { return type.find('*') != std::string_view::npos; }
 };
 
 struct Signature {
-    std::string name;
-    std::vector<Parameter> parameters;
-    std::function<VlqStatus(Arguments&)> call;
+    std::string_view name;
+    std::span<const Parameter> parameters;
+    VlqStatus (*call)(Arguments&);
 };
 
-const std::vector<Signature>& signatures();
+std::span<const Signature> signatures();
 
 }  // namespace vlqtest
