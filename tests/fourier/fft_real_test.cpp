@@ -41,7 +41,7 @@ struct Api;
 template <>
 struct Api<Vlq32f> {
     static constexpr Vlq32s word = 6;
-    static constexpr int largest = 29, straightLine = 4, twoLevel = 19;
+    static constexpr int largest = 29, twoLevel = 19;
     static constexpr long double unit = 0x1p-24L;
     static constexpr auto getSize = vlqsFFTGetSize_R_32f;
     static constexpr auto init = vlqsFFTInit_R_32f;
@@ -57,7 +57,7 @@ struct Api<Vlq32f> {
 template <>
 struct Api<Vlq64f> {
     static constexpr Vlq32s word = 9;
-    static constexpr int largest = 28, straightLine = 5, twoLevel = 18;
+    static constexpr int largest = 28, twoLevel = 18;
     static constexpr long double unit = 0x1p-53L;
     static constexpr auto getSize = vlqsFFTGetSize_R_64f;
     static constexpr auto init = vlqsFFTInit_R_64f;
