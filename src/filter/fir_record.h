@@ -75,7 +75,7 @@ struct Plan {
     Vlq64s blockBytes() const { return roundUp(fftLen() * element, 16); }
     Vlq64s tapBytes() const { return roundUp(tapsLen * element, 16); }
     // Room for two delay lines and the first chunk of a block, from a boundary to a boundary.
-    Vlq64s delayStoreBytes() const { return roundDown(delayStoreShare(), alignment); }
+    Vlq64s delayStoreBytes() const { return roundDown(delayStoreShare(), 16); }
 
     // Alignment of the record itself comes out of the rounding of the delay store's share, and of
     // the slack.
@@ -148,7 +148,8 @@ struct Block {
     Vlq8u* specScratch = nullptr;
 };
 
-// Lays a record and its arrays into memory of plan.bytes() bytes. The arrays of the transform stand
+// Lays a record and its arrays into memory of plan.bytes() bytes. The record's own boundary uses up
+// the size's slack; its arrays stand on 16-byte ones. The arrays of the transform stand
 // on 64-byte boundaries: the way to the first one comes out of the slack in the size of the
 // transform's record, and the last work buffer then does without its own.
 template <class State>
@@ -165,9 +166,9 @@ Block<State> layOut(void* memory, const Plan<typename State::Element>& plan) {
     state.idCtx = Kind<State>::kWord;
 
     state.taps = cursor.take<E>(len);
-    state.dlyLine = reinterpret_cast<E*>(cursor.take<char>(plan.delayStoreBytes(), alignment));
+    state.dlyLine = reinterpret_cast<E*>(cursor.take<char>(plan.delayStoreBytes(), 16));
     state.tapsWide = reinterpret_cast<E*>(cursor.take<char>(Shape<E>::tapsWideBytes(len * Vlq64s{sizeof(E)}), 16));
-    state.threadStatus = cursor.take<VlqStatus>(plan.threads, alignment);
+    state.threadStatus = cursor.take<VlqStatus>(plan.threads, 16);
     if (plan.order >= 0) {
         constexpr Vlq64s slack = 64;
         block.specMemory = cursor.take<Vlq8u>(plan.specBytes - slack, 64);
@@ -178,7 +179,7 @@ Block<State> layOut(void* memory, const Plan<typename State::Element>& plan) {
         state.fftBufSize = plan.workBytes;
         state.fftLen = static_cast<Vlq32s>(plan.fftLen());
     }
-    state.blockBuf = cursor.take<E>(Shape<E>::kBlockBuf, alignment);
+    state.blockBuf = cursor.take<E>(Shape<E>::kBlockBuf, 16);
     return block;
 }
 

@@ -28,9 +28,9 @@ void splitTransform(int order, const FloatingRecord<T>& record, const T* srcRe, 
     const Parts<const T> in{srcRe, srcIm};
     const Parts<T> out{dstRe, dstIm};
     T* const buffer = static_cast<T*>(work);
+    if (order <= ComplexLimits<T>::straightLine) return smallTransform<T>(order, record, in, out, scaled);
     const Planes<T> planes{buffer, buffer + (std::ptrdiff_t{1} << order)}, middle{dstRe, dstIm};
-    if (order <= ComplexLimits<T>::straightLine) smallTransform<T>(order, record, in, out, scaled);
-    else if (order <= ComplexLimits<T>::inCache) inCacheTransform<T>(order, record, in, planes, middle, out, scaled);
+    if (order <= ComplexLimits<T>::inCache) inCacheTransform<T>(order, record, in, planes, middle, out, scaled);
     else largeTransform<T>(order, record, in, middle, out, buffer, srcRe == dstRe || srcIm == dstIm, scaled);
 }
 
