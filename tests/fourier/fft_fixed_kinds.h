@@ -44,6 +44,12 @@ struct RealData {
         return forward ? realSpectrum(x, layout) : realSignal(x, layout, n);
     }
 };
+// The second array of a split signal; a null signal has two null arrays.
+template <class T>
+T* after(T* signal, std::ptrdiff_t n) {
+    return signal ? signal + n : nullptr;
+}
+
 struct C_16sc : InterleavedData {
     using Spec = VlqsFFTSpec_C_16sc;
     using Signal = Vlq16s;
@@ -81,13 +87,13 @@ struct C_16s : SplitData {
     static constexpr auto free = vlqsFFTFree_C_16s;
     static VlqStatus forward(const Signal* x, Signal* y, const Spec* spec, Vlq32s scale, Vlq8u* buf, int order, Layout) {
         const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
-        return x == y ? vlqsFFTFwd_CToC_16s_ISfs(y, y + n, spec, scale, buf)
-                      : vlqsFFTFwd_CToC_16s_Sfs(x, x + n, y, y + n, spec, scale, buf);
+        return x == y ? vlqsFFTFwd_CToC_16s_ISfs(y, after(y, n), spec, scale, buf)
+                      : vlqsFFTFwd_CToC_16s_Sfs(x, after(x, n), y, after(y, n), spec, scale, buf);
     }
     static VlqStatus inverse(const Signal* x, Signal* y, const Spec* spec, Vlq32s scale, Vlq8u* buf, int order, Layout) {
         const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
-        return x == y ? vlqsFFTInv_CToC_16s_ISfs(y, y + n, spec, scale, buf)
-                      : vlqsFFTInv_CToC_16s_Sfs(x, x + n, y, y + n, spec, scale, buf);
+        return x == y ? vlqsFFTInv_CToC_16s_ISfs(y, after(y, n), spec, scale, buf)
+                      : vlqsFFTInv_CToC_16s_Sfs(x, after(x, n), y, after(y, n), spec, scale, buf);
     }
 };
 struct R_16s : RealData {
@@ -160,13 +166,13 @@ struct C_32s : SplitData {
     static constexpr auto free = vlqsFFTFree_C_32s;
     static VlqStatus forward(const Signal* x, Signal* y, const Spec* spec, Vlq32s scale, Vlq8u* buf, int order, Layout) {
         const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
-        return x == y ? vlqsFFTFwd_CToC_32s_ISfs(y, y + n, spec, scale, buf)
-                      : vlqsFFTFwd_CToC_32s_Sfs(x, x + n, y, y + n, spec, scale, buf);
+        return x == y ? vlqsFFTFwd_CToC_32s_ISfs(y, after(y, n), spec, scale, buf)
+                      : vlqsFFTFwd_CToC_32s_Sfs(x, after(x, n), y, after(y, n), spec, scale, buf);
     }
     static VlqStatus inverse(const Signal* x, Signal* y, const Spec* spec, Vlq32s scale, Vlq8u* buf, int order, Layout) {
         const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
-        return x == y ? vlqsFFTInv_CToC_32s_ISfs(y, y + n, spec, scale, buf)
-                      : vlqsFFTInv_CToC_32s_Sfs(x, x + n, y, y + n, spec, scale, buf);
+        return x == y ? vlqsFFTInv_CToC_32s_ISfs(y, after(y, n), spec, scale, buf)
+                      : vlqsFFTInv_CToC_32s_Sfs(x, after(x, n), y, after(y, n), spec, scale, buf);
     }
 };
 struct R_32s : RealData {
