@@ -97,7 +97,7 @@ for stage in $stages; do
         sanitize) build sanitize && tags=s2 run_programs sanitize "$repo/build/sanitize/bin" "$repo/build/sanitize/lib" ;;
         tsan) run_script tests/tsan/run.sh "$repo" "$repo/build/tsan" ;;
         install) build release && run_script tests/install/run.sh "$repo" "$repo/build/release" ;;
-        names) run_script tests/names/run.sh "$repo" ;;
+        names) build release && run_script tests/names/run.sh "$repo" "$repo/build/release" ;;
         *) echo "no stage $stage" && exit 1 ;;
     esac
 done

@@ -29,16 +29,10 @@ inline std::vector<Extended> dftByDefinition(const std::vector<Extended>& x, int
     return result;
 }
 
-// By halving; roots holds the n-th roots of unity of the outermost call.
-inline void dftByHalves(const Extended* x, Extended* result, std::size_t n, std::size_t stride,
-                        const std::vector<Extended>& roots) {
-    if (n == 1) {
-        *result = *x;
-        return;
-    }
+// The last step of halving: joins the transforms of the even and of the odd samples, which stand
+// in the two halves of result. roots holds the roots of unity of a multiple of n.
+inline void joinHalves(Extended* result, std::size_t n, const std::vector<Extended>& roots) {
     const std::size_t half = n / 2;
-    dftByHalves(x, result, half, 2 * stride, roots);
-    dftByHalves(x + stride, result + half, half, 2 * stride, roots);
     for (std::size_t k = 0; k < half; ++k) {
         const Extended w = roots[k * (roots.size() / n)], a = result[k], b = result[k + half];
         const Extended t(w.real() * b.real() - w.imag() * b.imag(), w.real() * b.imag() + w.imag() * b.real());
@@ -46,10 +40,24 @@ inline void dftByHalves(const Extended* x, Extended* result, std::size_t n, std:
         result[k + half] = a - t;
     }
 }
+inline void dftByHalves(const Extended* x, Extended* result, std::size_t n, std::size_t stride,
+                        const std::vector<Extended>& roots) {
+    if (n == 1) {
+        *result = *x;
+        return;
+    }
+    dftByHalves(x, result, n / 2, 2 * stride, roots);
+    dftByHalves(x + stride, result + n / 2, n / 2, 2 * stride, roots);
+    joinHalves(result, n, roots);
+}
+inline std::vector<Extended> unitRoots(std::size_t n, int sign) {
+    std::vector<Extended> roots(n);
+    for (std::size_t k = 0; k < n; ++k) roots[k] = unitRoot(k, n, sign);
+    return roots;
+}
 inline std::vector<Extended> dft(const std::vector<Extended>& x, int sign) {
-    std::vector<Extended> roots(x.size()), result(x.size());
-    for (std::size_t k = 0; k < x.size(); ++k) roots[k] = unitRoot(k, x.size(), sign);
-    dftByHalves(x.data(), result.data(), x.size(), 1, roots);
+    std::vector<Extended> result(x.size());
+    dftByHalves(x.data(), result.data(), x.size(), 1, unitRoots(x.size(), sign));
     return result;
 }
 
