@@ -15,7 +15,7 @@ demo: ## Filters a voice recording, WAV=file for your own; results in build/demo
 	    "$$WAV" "build/demo/$$name-filtered.wav" "build/demo/$$name-spectrum.png"
 
 build_packages = build-essential cmake ninja-build pkg-config
-peers = libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev
+peers = libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev gnuplot-nox
 
 test: ## Builds and runs every test on every build; ends with "N passed, N failed".
 	@tools/install-packages.sh $(build_packages) binutils clang-14 libomp-14-dev llvm-14 libgtest-dev \
