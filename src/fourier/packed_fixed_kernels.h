@@ -5,6 +5,9 @@
 #include <cstddef>
 #include <cstring>
 
+#include "frame/loop/map.h"
+#include "frame/scale.h"
+#include "frame/simd/multiply.h"
 #include "vlqs/types.h"
 
 namespace vlq::packed {
@@ -29,19 +32,26 @@ struct ProductScale {
     }
 };
 
-// Reached only by the sum of two products of -32768 with itself, one below the limit of 32 bits.
-constexpr Vlq32s sumTo32(Vlq64s sum) { return static_cast<Vlq32s>(std::min<Vlq64s>(sum, 0x7FFFFFFF)); }
-
 inline void multiplyReal(const Vlq16s* a, const Vlq16s* b, Vlq16s* dst, ProductScale scale) {
     putSample(dst, scale(Vlq32s{sampleAt(a)} * sampleAt(b)));
 }
 
-// `pairs` complex values, interleaved; dst may be a or b.
+// `pairs` complex values, interleaved; dst may be a or b. A value is a lane of 32 bits.
 inline void multiplyPairs(const Vlq16s* a, const Vlq16s* b, Vlq16s* dst, std::ptrdiff_t pairs, ProductScale scale) {
-    for (std::ptrdiff_t i = 0; i < 2 * pairs; i += 2) {
-        const Vlq64s aRe = sampleAt(a + i), aIm = sampleAt(a + i + 1), bRe = sampleAt(b + i), bIm = sampleAt(b + i + 1);
-        putSample(dst + i, scale(sumTo32(aRe * bRe - aIm * bIm)));
-        putSample(dst + i + 1, scale(sumTo32(aRe * bIm + aIm * bRe)));
+    using V = Vec<std::int32_t>;
+    const auto multiply = [=](auto op) {
+        map(reinterpret_cast<std::int32_t*>(dst), pairs, op, reinterpret_cast<const std::int32_t*>(a),
+            reinterpret_cast<const std::int32_t*>(b));
+    };
+    if (scale.left == 0) {
+        multiply([right = scale.right](V x, V y) {
+            const auto e = productParts(x, y);
+            return joinParts({{shiftRight(e.part[0], right), shiftRight(e.part[1], right)}});
+        });
+    } else {
+        multiply([left = ScaleLeft<Vlq16s>(-scale.left)](V x, V y) {
+            return bitCast<std::int32_t>(left(bitCast<Vlq16s>(joinParts(productParts(x, y)))));
+        });
     }
 }
 

@@ -5,6 +5,9 @@
 #include <limits>
 #include <type_traits>
 
+#include "frame/simd/ops.h"
+#include "frame/simd/permute.h"
+#include "frame/simd/saturate.h"
 #include "frame/simd/split.h"
 
 namespace vlq::packed {
@@ -35,35 +38,43 @@ inline void multiplyReal(const T* a, const T* b, T* dst) {
     std::memcpy(dst, &x, sizeof x);
 }
 
+template <int B, class T, class Op>
+inline Split<T, B> multiplySplit(const T* a, const T* b, Op op) {
+    const auto x = loadSplit<T, B>(a), y = loadSplit<T, B>(b);
+    Split<T, B> product;
+    op(x.re, x.im, y.re, y.im, product.re, product.im);
+    return product;
+}
+
 // Whole vectors of B bytes each from pair i on; returns where they end.
 template <int B, class T, class Op>
 inline std::ptrdiff_t multiplyVectors(const T* a, const T* b, T* dst, std::ptrdiff_t i, std::ptrdiff_t pairs, Op op) {
     constexpr int lanes = Split<T, B>::lanes;
-    for (; i + lanes <= pairs; i += lanes) {
-        const auto x = loadSplit<T, B>(a + 2 * i), y = loadSplit<T, B>(b + 2 * i);
-        Split<T, B> product;
-        op(x.re, x.im, y.re, y.im, product.re, product.im);
-        storeSplit(dst + 2 * i, product);
-    }
+    for (; i + lanes <= pairs; i += lanes) storeSplit(dst + 2 * i, multiplySplit<B>(a + 2 * i, b + 2 * i, op));
     return i;
 }
 
-// `pairs` complex values, interleaved; dst may be a or b.
+// `pairs` complex values, interleaved; dst may be a or b. In vectors to the last one: of scalars
+// GCC 12 makes a fused multiply-add-subtract, contraction or not.
 template <class T, class Op>
 inline void multiplyPairs(const T* a, const T* b, T* dst, std::ptrdiff_t pairs, Op op) {
+    constexpr int lanes = Split<T, 16>::lanes;
+    if (pairs < lanes) {
+        T x[2 * lanes] = {}, y[2 * lanes] = {}, product[2 * lanes];
+        const std::size_t bytes = static_cast<std::size_t>(pairs) * 2 * sizeof(T);
+        std::memcpy(x, a, bytes);
+        std::memcpy(y, b, bytes);
+        storeSplit(product, multiplySplit<16>(x, y, op));
+        std::memcpy(dst, product, bytes);
+        return;
+    }
+    // The last vector overlaps the one before; it is read before dst is written, which may be a source.
+    const std::ptrdiff_t last = 2 * (pairs - lanes);
+    const auto ending = multiplySplit<16>(a + last, b + last, op);
     std::ptrdiff_t i = multiplyVectors<kVecBytes>(a, b, dst, 0, pairs, op);
     if constexpr (kVecBytes > 32) i = multiplyVectors<32>(a, b, dst, i, pairs, op);
     if constexpr (kVecBytes > 16) i = multiplyVectors<16>(a, b, dst, i, pairs, op);
-    if (i < pairs) {
-        // In vectors as well: of scalars GCC 12 makes a fused multiply-add-subtract, contraction or not.
-        constexpr int lanes = Split<T, 16>::lanes;
-        T x[2 * lanes] = {}, y[2 * lanes] = {}, product[2 * lanes];
-        const std::size_t bytes = static_cast<std::size_t>(pairs - i) * 2 * sizeof(T);
-        std::memcpy(x, a + 2 * i, bytes);
-        std::memcpy(y, b + 2 * i, bytes);
-        multiplyVectors<16>(x, y, product, 0, lanes, op);
-        std::memcpy(dst + 2 * i, product, bytes);
-    }
+    if (i < pairs) storeSplit(dst + last, ending);
 }
 
 // A Pack spectrum of len values: a real term at the front, one at the end of an even length.
@@ -91,33 +102,35 @@ inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
     }
 }
 
-// -v, as the nearest value of the type.
+// Complex values, real parts in the even lanes; an integer part is negated to the nearest value.
 template <class T>
-inline T negated(T v) {
-    if constexpr (std::is_floating_point_v<T>) return -v;
-    else return v == std::numeric_limits<T>::min() ? std::numeric_limits<T>::max() : static_cast<T>(-v);
+inline Vec<T> conjugated(Vec<T> values) {
+    if constexpr (std::is_same_v<T, float>) {
+        return values ^ bitCast<T>(Vec<std::uint64_t>::broadcast(std::uint64_t{1} << 63));
+    } else if constexpr (std::is_same_v<T, double>) {
+        return values ^ bitCast<T>(alternating(0, std::numeric_limits<std::int64_t>::min()));
+    } else {
+        static_assert(std::is_same_v<T, std::int16_t>);
+        const auto imaginary = bitCast<T>(Vec<std::uint32_t>::broadcast(0xFFFF0000u));
+        return (values & ~imaginary) | (subSat(Vec<T>::zero(), values) & imaginary);
+    }
 }
 
 // Spectrum value k, and its conjugate at len - k, for k = 1 to `pairs`; pair 1 stands at `src`. From
 // the top down, so that src may be the front of dst.
 template <class T>
 inline void expandPairs(const T* src, T* dst, std::ptrdiff_t pairs, std::ptrdiff_t len) {
+    constexpr int lanes = Vec<T>::lanes / 2;
     std::ptrdiff_t k = pairs + 1;
-    if constexpr (std::is_floating_point_v<T>) {
-        constexpr int lanes = Split<T>::lanes;
-        for (; k > lanes; k -= lanes) {
-            auto values = loadSplit<T>(src + 2 * (k - lanes - 1));
-            storeSplit(dst + 2 * (k - lanes), values);
-            values.im = -values.im;
-            storeSplitBackward(dst + 2 * (len - k + 1), values);
-        }
+    for (; k > lanes; k -= lanes) {
+        const auto values = load<T>(src + 2 * (k - lanes - 1));
+        store(dst + 2 * (k - lanes), values);
+        store(dst + 2 * (len - k + 1), reversed<2 * sizeof(T)>(conjugated(values)));
     }
     while (--k > 0) {
-        T value[2];
-        std::memcpy(value, src + 2 * (k - 1), sizeof value);
-        std::memcpy(dst + 2 * k, value, sizeof value);
-        value[1] = negated(value[1]);
-        std::memcpy(dst + 2 * (len - k), value, sizeof value);
+        const auto value = loadPartial<T>(src + 2 * (k - 1), 2);
+        storePartial(dst + 2 * k, value, 2);
+        storePartial(dst + 2 * (len - k), conjugated(value), 2);
     }
 }
 
