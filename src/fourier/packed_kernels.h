@@ -102,7 +102,14 @@ inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
     }
 }
 
-// Complex values, real parts in the even lanes; an integer part is negated to the nearest value.
+// -v, as the nearest value of the type.
+template <class T>
+inline T negated(T v) {
+    if constexpr (std::is_floating_point_v<T>) return -v;
+    else return v == std::numeric_limits<T>::min() ? std::numeric_limits<T>::max() : static_cast<T>(-v);
+}
+
+// The same for the odd lanes, which are the imaginary parts.
 template <class T>
 inline Vec<T> conjugated(Vec<T> values) {
     if constexpr (std::is_same_v<T, float>) {
@@ -128,9 +135,12 @@ inline void expandPairs(const T* src, T* dst, std::ptrdiff_t pairs, std::ptrdiff
         store(dst + 2 * (len - k + 1), reversed<2 * sizeof(T)>(conjugated(values)));
     }
     while (--k > 0) {
-        const auto value = loadPartial<T>(src + 2 * (k - 1), 2);
-        storePartial(dst + 2 * k, value, 2);
-        storePartial(dst + 2 * (len - k), conjugated(value), 2);
+        // Two scalars: a masked load waits for any store whose address looks alike.
+        T value[2];
+        std::memcpy(value, src + 2 * (k - 1), sizeof value);
+        std::memcpy(dst + 2 * k, value, sizeof value);
+        value[1] = negated(value[1]);
+        std::memcpy(dst + 2 * (len - k), value, sizeof value);
     }
 }
 
