@@ -95,9 +95,7 @@ VlqStatus overlapSave(Record<E>& record, const Sample* src, Sample* dst, Vlq32s 
         }
         if (outputs < step) std::fill(work + past + outputs, work + fftLen, E{});
 
-        VlqStatus status = Shape<E>::forward(samples, work, record.fftSpec, buffer);
-        if (status == vlqStsOk) status = Shape<E>::multiplySpectra(record.tapsSpectrum, work, fftLen);
-        if (status == vlqStsOk) status = Shape<E>::inverse(work, work, record.fftSpec, buffer);
+        const VlqStatus status = fft::applyFilter(samples, work, record.tapsSpectrum.get(), record.fftSpec, buffer);
         if (status != vlqStsOk) return status;
         narrow(work + past, dst + start, outputs, scale);
         if (start == 0 && outputs < len) widen(src + (len - tapsLen), line, tapsLen);

@@ -9,6 +9,7 @@
 #include "filter/fir_direct_kernels.h"
 #include "filter/fir_element.h"
 #include "filter/fir_shape.h"
+#include "fourier/filter.h"
 #include "frame/record.h"
 #include "vlqs/core.h"
 #include "vlqs/filter.h"
@@ -65,7 +66,7 @@ struct Plan {
         if (tapsLen < Shape<E>::kTransformTaps) return;
         Vlq32s covering = 2;
         while ((Vlq64s{1} << covering) <= tapsLen) ++covering;
-        if (Shape<E>::transformSize(covering + 1, &specBytes, &initBytes, &workBytes) == vlqStsOk) {
+        if (Shape<E>::transformSize(covering + 1, vlqNormInvByN, vlqHintNone, &specBytes, &initBytes, &workBytes) == vlqStsOk) {
             order = covering + 1;
         } else {
             specBytes = initBytes = workBytes = 0;
@@ -120,15 +121,15 @@ void writeTaps(Record<E>& record, const Tap* taps) {
     }
 }
 
-// Transform of the taps, zero-extended.
+// Transform of the taps, zero-extended, in the form that the filter wants.
 template <class E>
 VlqStatus writeSpectrum(Record<E>& record) {
     const Vlq32s len = record.tapsLen;
     const E* reversed = record.taps;
-    E* spectrum = record.tapsSpectrum;
-    for (Vlq32s k = 0; k < len; ++k) spectrum[k] = reversed[len - 1 - k];
-    std::fill(spectrum + len, spectrum + record.fftLen, E{});
-    return Shape<E>::forward(spectrum, spectrum, record.fftSpec, record.fftBuf);
+    E* work = record.fftWork;
+    for (Vlq32s k = 0; k < len; ++k) work[k] = reversed[len - 1 - k];
+    std::fill(work + len, work + record.fftLen, E{});
+    return fft::makeFilter(work, record.tapsSpectrum, record.fftSpec, record.fftBuf);
 }
 
 // dlyLine: newest sample first; null for silence.
@@ -219,7 +220,7 @@ VlqStatus init(State** outState, const Tap* taps, Vlq32s tapsLen, const SampleOf
     const Plan<E> plan(tapsLen);
     const Block<State> block = layOut<State>(buffer, plan);
     build(block, taps, dlyLine, [&](typename State::Spec** spec) {
-        return Shape<E>::makeTransform(spec, plan.order, block.specMemory, block.specScratch);
+        return Shape<E>::makeTransform(spec, plan.order, vlqNormInvByN, vlqHintNone, block.specMemory, block.specScratch);
     });
     *outState = block.state;
     return vlqStsOk;
@@ -236,7 +237,7 @@ VlqStatus initAlloc(State** outState, const Tap* taps, Vlq32s tapsLen, const Sam
     if (!memory) return vlqStsNoMemory;
     const Block<State> block = layOut<State>(memory, plan);
     build(block, taps, dlyLine,
-          [&](typename State::Spec** spec) { return Shape<E>::allocateTransform(spec, plan.order); });
+          [&](typename State::Spec** spec) { return Shape<E>::allocateTransform(spec, plan.order, vlqNormInvByN, vlqHintNone); });
     block.state->ownsMemory = 1;
     *outState = block.state;
     return vlqStsOk;

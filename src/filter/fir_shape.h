@@ -56,26 +56,10 @@ struct Shape<Vlq32f> : RealShape, SinglePrecision {
     static constexpr Vlq64s tapsWideBytes(Vlq64s tapBytes) { return 4 * tapBytes; }
     static constexpr Vlq64s kAlignmentSlack = 0;
 
-    static VlqStatus transformSize(Vlq32s order, Vlq32s* spec, Vlq32s* init, Vlq32s* work) {
-        return vlqsFFTGetSize_R_32f(order, vlqNormInvByN, vlqHintNone, spec, init, work);
-    }
-    static VlqStatus makeTransform(Spec** spec, Vlq32s order, Vlq8u* memory, Vlq8u* scratch) {
-        return vlqsFFTInit_R_32f(spec, order, vlqNormInvByN, vlqHintNone, memory, scratch);
-    }
-    static VlqStatus allocateTransform(Spec** spec, Vlq32s order) {
-        return vlqsFFTInitAlloc_R_32f(spec, order, vlqNormInvByN, vlqHintNone);
-    }
-    static VlqStatus freeTransform(Spec* spec) { return vlqsFFTFree_R_32f(spec); }
-
-    static VlqStatus forward(const Vlq32f* src, Vlq32f* dst, const Spec* spec, Vlq8u* work) {
-        return vlqsFFTFwd_RToPerm_32f(src, dst, spec, work);
-    }
-    static VlqStatus inverse(const Vlq32f* src, Vlq32f* dst, const Spec* spec, Vlq8u* work) {
-        return vlqsFFTInv_PermToR_32f(src, dst, spec, work);
-    }
-    static VlqStatus multiplySpectra(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len) {
-        return vlqsMulPerm_32f_I(src, srcDst, len);
-    }
+    static constexpr auto transformSize = vlqsFFTGetSize_R_32f;
+    static constexpr auto makeTransform = vlqsFFTInit_R_32f;
+    static constexpr auto allocateTransform = vlqsFFTInitAlloc_R_32f;
+    static constexpr auto freeTransform = vlqsFFTFree_R_32f;
 };
 
 // Complex float.
@@ -88,26 +72,10 @@ struct Shape<Vlq32fc> : ComplexShape, SinglePrecision {
     static constexpr Vlq64s tapsWideBytes(Vlq64s tapBytes) { return 6 * tapBytes + 48; }
     static constexpr Vlq64s kAlignmentSlack = 0;
 
-    static VlqStatus transformSize(Vlq32s order, Vlq32s* spec, Vlq32s* init, Vlq32s* work) {
-        return vlqsFFTGetSize_C_32fc(order, vlqNormInvByN, vlqHintNone, spec, init, work);
-    }
-    static VlqStatus makeTransform(Spec** spec, Vlq32s order, Vlq8u* memory, Vlq8u* scratch) {
-        return vlqsFFTInit_C_32fc(spec, order, vlqNormInvByN, vlqHintNone, memory, scratch);
-    }
-    static VlqStatus allocateTransform(Spec** spec, Vlq32s order) {
-        return vlqsFFTInitAlloc_C_32fc(spec, order, vlqNormInvByN, vlqHintNone);
-    }
-    static VlqStatus freeTransform(Spec* spec) { return vlqsFFTFree_C_32fc(spec); }
-
-    static VlqStatus forward(const Vlq32fc* src, Vlq32fc* dst, const Spec* spec, Vlq8u* work) {
-        return vlqsFFTFwd_CToC_32fc(src, dst, spec, work);
-    }
-    static VlqStatus inverse(const Vlq32fc* src, Vlq32fc* dst, const Spec* spec, Vlq8u* work) {
-        return vlqsFFTInv_CToC_32fc(src, dst, spec, work);
-    }
-    static VlqStatus multiplySpectra(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len) {
-        return vlqsMul_32fc_I(src, srcDst, len);
-    }
+    static constexpr auto transformSize = vlqsFFTGetSize_C_32fc;
+    static constexpr auto makeTransform = vlqsFFTInit_C_32fc;
+    static constexpr auto allocateTransform = vlqsFFTInitAlloc_C_32fc;
+    static constexpr auto freeTransform = vlqsFFTFree_C_32fc;
 };
 
 // Complex double.
@@ -119,26 +87,10 @@ struct Shape<Vlq64fc> : ComplexShape, DoublePrecision {
     static constexpr Vlq64s tapsWideBytes(Vlq64s tapBytes) { return 2 * tapBytes; }
     static constexpr Vlq64s kAlignmentSlack = 32;
 
-    static VlqStatus transformSize(Vlq32s order, Vlq32s* spec, Vlq32s* init, Vlq32s* work) {
-        return vlqsFFTGetSize_C_64fc(order, vlqNormInvByN, vlqHintNone, spec, init, work);
-    }
-    static VlqStatus makeTransform(Spec** spec, Vlq32s order, Vlq8u* memory, Vlq8u* scratch) {
-        return vlqsFFTInit_C_64fc(spec, order, vlqNormInvByN, vlqHintNone, memory, scratch);
-    }
-    static VlqStatus allocateTransform(Spec** spec, Vlq32s order) {
-        return vlqsFFTInitAlloc_C_64fc(spec, order, vlqNormInvByN, vlqHintNone);
-    }
-    static VlqStatus freeTransform(Spec* spec) { return vlqsFFTFree_C_64fc(spec); }
-
-    static VlqStatus forward(const Vlq64fc* src, Vlq64fc* dst, const Spec* spec, Vlq8u* work) {
-        return vlqsFFTFwd_CToC_64fc(src, dst, spec, work);
-    }
-    static VlqStatus inverse(const Vlq64fc* src, Vlq64fc* dst, const Spec* spec, Vlq8u* work) {
-        return vlqsFFTInv_CToC_64fc(src, dst, spec, work);
-    }
-    static VlqStatus multiplySpectra(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len) {
-        return vlqsMul_64fc_I(src, srcDst, len);
-    }
+    static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
+    static constexpr auto makeTransform = vlqsFFTInit_C_64fc;
+    static constexpr auto allocateTransform = vlqsFFTInitAlloc_C_64fc;
+    static constexpr auto freeTransform = vlqsFFTFree_C_64fc;
 };
 
 // Real double.
@@ -150,26 +102,10 @@ struct Shape<Vlq64f> : RealShape, DoublePrecision {
     static constexpr Vlq64s tapsWideBytes(Vlq64s tapBytes) { return 2 * tapBytes; }
     static constexpr Vlq64s kAlignmentSlack = 16;
 
-    static VlqStatus transformSize(Vlq32s order, Vlq32s* spec, Vlq32s* init, Vlq32s* work) {
-        return vlqsFFTGetSize_R_64f(order, vlqNormInvByN, vlqHintNone, spec, init, work);
-    }
-    static VlqStatus makeTransform(Spec** spec, Vlq32s order, Vlq8u* memory, Vlq8u* scratch) {
-        return vlqsFFTInit_R_64f(spec, order, vlqNormInvByN, vlqHintNone, memory, scratch);
-    }
-    static VlqStatus allocateTransform(Spec** spec, Vlq32s order) {
-        return vlqsFFTInitAlloc_R_64f(spec, order, vlqNormInvByN, vlqHintNone);
-    }
-    static VlqStatus freeTransform(Spec* spec) { return vlqsFFTFree_R_64f(spec); }
-
-    static VlqStatus forward(const Vlq64f* src, Vlq64f* dst, const Spec* spec, Vlq8u* work) {
-        return vlqsFFTFwd_RToPerm_64f(src, dst, spec, work);
-    }
-    static VlqStatus inverse(const Vlq64f* src, Vlq64f* dst, const Spec* spec, Vlq8u* work) {
-        return vlqsFFTInv_PermToR_64f(src, dst, spec, work);
-    }
-    static VlqStatus multiplySpectra(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len) {
-        return vlqsMulPerm_64f_I(src, srcDst, len);
-    }
+    static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
+    static constexpr auto makeTransform = vlqsFFTInit_R_64f;
+    static constexpr auto allocateTransform = vlqsFFTInitAlloc_R_64f;
+    static constexpr auto freeTransform = vlqsFFTFree_R_64f;
 };
 
 }  // namespace vlq::fir

@@ -1,34 +1,28 @@
 #include "fourier/kernel/complex.h"
 #include "fourier/plan/complex_plan.h"
+#include "fourier/plan/floating_specs.h"
 #include "fourier/plan/lifecycle.h"
-#include "vlqs/fourier.h"
-
-// The split kinds have the interleaved record under a word of their own.
-struct vlq::VlqsFFTSpec_C_32fc : vlq::fft::FloatingRecord<Vlq32f> {};
-struct vlq::VlqsFFTSpec_C_32f : vlq::fft::FloatingRecord<Vlq32f> {};
-struct vlq::VlqsFFTSpec_C_64fc : vlq::fft::FloatingRecord<Vlq64f> {};
-struct vlq::VlqsFFTSpec_C_64f : vlq::fft::FloatingRecord<Vlq64f> {};
 
 namespace {
 
 using namespace vlq;
 using namespace vlq::fft;
 
-template <class SpecType, class T, Vlq32s word>
+template <class SpecType, class T>
 struct ComplexKind {
     using Spec = SpecType;
     using Element = T;
-    static constexpr Vlq32s ident = word;
+    static constexpr Vlq32s ident = kWord<SpecType>;
     static constexpr int largestOrder = ComplexLimits<T>::largest;
     static PlanSizes sizes(int order) { return complexSizes<T>(order); }
     static void build(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
         buildComplexTables<T>(record, order, sine, cursor);
     }
 };
-using C_32fc = ComplexKind<VlqsFFTSpec_C_32fc, Vlq32f, 4>;
-using C_32f = ComplexKind<VlqsFFTSpec_C_32f, Vlq32f, 5>;
-using C_64fc = ComplexKind<VlqsFFTSpec_C_64fc, Vlq64f, 7>;
-using C_64f = ComplexKind<VlqsFFTSpec_C_64f, Vlq64f, 8>;
+using C_32fc = ComplexKind<VlqsFFTSpec_C_32fc, Vlq32f>;
+using C_32f = ComplexKind<VlqsFFTSpec_C_32f, Vlq32f>;
+using C_64fc = ComplexKind<VlqsFFTSpec_C_64fc, Vlq64f>;
+using C_64f = ComplexKind<VlqsFFTSpec_C_64f, Vlq64f>;
 
 constexpr bool isScaled(const auto& spec, Direction direction) {
     return (direction == Direction::forward ? spec.doFwdScale : spec.doInvScale) != 0;

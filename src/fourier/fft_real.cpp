@@ -1,29 +1,26 @@
 #include "fourier/kernel/real.h"
+#include "fourier/plan/floating_specs.h"
 #include "fourier/plan/lifecycle.h"
 #include "fourier/plan/real_plan.h"
-#include "vlqs/fourier.h"
-
-struct vlq::VlqsFFTSpec_R_32f : vlq::fft::FloatingRecord<Vlq32f> {};
-struct vlq::VlqsFFTSpec_R_64f : vlq::fft::FloatingRecord<Vlq64f> {};
 
 namespace {
 
 using namespace vlq;
 using namespace vlq::fft;
 
-template <class SpecType, class T, Vlq32s word>
+template <class SpecType, class T>
 struct RealKind {
     using Spec = SpecType;
     using Element = T;
-    static constexpr Vlq32s ident = word;
+    static constexpr Vlq32s ident = kWord<SpecType>;
     static constexpr int largestOrder = RealLimits<T>::largest;
     static PlanSizes sizes(int order) { return realSizes<T>(order); }
     static void build(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
         buildRealTables<T>(record, order, sine, cursor);
     }
 };
-using R_32f = RealKind<VlqsFFTSpec_R_32f, Vlq32f, 6>;
-using R_64f = RealKind<VlqsFFTSpec_R_64f, Vlq64f, 9>;
+using R_32f = RealKind<VlqsFFTSpec_R_32f, Vlq32f>;
+using R_64f = RealKind<VlqsFFTSpec_R_64f, Vlq64f>;
 
 template <class Kind, Direction direction, Layout layout, class T>
 VlqStatus transform(const T* src, T* dst, const typename Kind::Spec* spec, Vlq8u* buf) {
