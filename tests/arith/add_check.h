@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "arith/add_ref.h"
+#include "arith/digest.h"
 #include "harness/sweep.h"
 #include "vlqs/arith.h"
 
@@ -37,6 +38,21 @@ std::vector<T> corners() {
         }
     }
     return values;
+}
+
+// Adds all pairs of corners of two types.
+template <class A, class B>
+void appendCornerPairs(std::vector<A>& a, std::vector<B>& b) {
+    for (const A x : corners<A>()) {
+        for (const B y : corners<B>()) {
+            a.push_back(x);
+            b.push_back(y);
+        }
+    }
+}
+template <class T>
+void appendRandom(std::vector<T>& values, std::size_t count, Rng& rng) {
+    for (std::size_t i = 0; i < count; ++i) values.push_back(extremeValue<T>(rng));
 }
 
 // ---- two vectors -------------------------------------------------------------------------------
@@ -79,8 +95,8 @@ std::vector<T> wanted(const std::vector<T>& a, const std::vector<T>& b, Element<
     return want;
 }
 
-// Lengths, offsets and guard pages, with the scale factors in turn; in place and over the first
-// source. Either form may be absent.
+// Lengths, offsets and guard pages, with the scale factors in turn; in place, over the first and over the
+// second source, and of one vector alone. Either form may be absent.
 template <class T>
 void checkPlaces(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T> ref, const std::vector<int>& factors,
                  std::size_t unit = 1) {
@@ -99,6 +115,13 @@ void checkPlaces(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T
             dst.assign(a);
             ASSERT_EQ(vlqStsOk, call(dst.data(), src2.data(), dst.data(), c.len, scaleFactor));
             ASSERT_TRUE(same(dst, want)) << "over the first, scale factor " << scaleFactor;
+            dst.assign(b);
+            ASSERT_EQ(vlqStsOk, call(src1.data(), dst.data(), dst.data(), c.len, scaleFactor));
+            ASSERT_TRUE(same(dst, want)) << "over the second, scale factor " << scaleFactor;
+            dst.assign(a);
+            const auto ofItself = wanted<T>(a, a, ref, scaleFactor);
+            ASSERT_EQ(vlqStsOk, call(dst.data(), dst.data(), dst.data(), c.len, scaleFactor));
+            ASSERT_TRUE(same(dst, ofItself)) << "of itself over itself, scale factor " << scaleFactor;
         }
         if (inPlace) {
             dst.assign(b);
@@ -108,30 +131,45 @@ void checkPlaces(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T
     });
 }
 
+// A form in place as one of two vectors.
 template <class T>
-void checkPairs(const TwoVectors<T>& call, Element<T> ref, const std::vector<T>& a, const std::vector<T>& b, int scaleFactor) {
-    std::vector<T> dst(a.size());
-    ASSERT_EQ(vlqStsOk, call(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), scaleFactor));
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        ASSERT_EQ(ref(a[i], b[i], scaleFactor), dst[i]) << +a[i] << " and " << +b[i] << " at scale factor " << scaleFactor;
+TwoVectors<T> asTwo(const InPlace<T>& call) {
+    return [call](const T* a, const T* b, T* d, int len, int s) {
+        std::memcpy(d, b, static_cast<std::size_t>(len) * sizeof(T));
+        return call(a, d, len, s);
+    };
+}
+// A form of complex values as one of twice as many reals.
+template <class T>
+TwoVectors<T> asReals(const TwoVectors<T>& call) {
+    return [call](const T* a, const T* b, T* d, int len, int s) { return call(a, b, d, len / 2, s); };
+}
+template <class T>
+InPlace<T> asReals(const InPlace<T>& call) {
+    return [call](const T* a, T* d, int len, int s) { return call(a, d, len / 2, s); };
+}
+
+template <class T>
+void checkPairs(const std::vector<TwoVectors<T>>& forms, Element<T> ref, const std::vector<T>& a, const std::vector<T>& b, int scaleFactor) {
+    const auto want = wanted<T>(a, b, ref, scaleFactor);
+    for (std::size_t form = 0; form < forms.size(); ++form) {
+        std::vector<T> dst(a.size());
+        ASSERT_EQ(vlqStsOk, forms[form](a.data(), b.data(), dst.data(), static_cast<int>(a.size()), scaleFactor));
+        for (std::size_t i = 0; i < a.size(); ++i) {
+            ASSERT_EQ(want[i], dst[i]) << +a[i] << " and " << +b[i] << " at scale factor " << scaleFactor << ", form " << form;
+        }
     }
 }
 
-// All pairs of corners, and random ones, at every scale factor.
+// All pairs of corners, and random ones, at every scale factor given. An even number of each.
 template <class T>
-void checkValues(const TwoVectors<T>& call, Element<T> ref, std::size_t randomPairs) {
-    const std::vector<T> some = corners<T>();
+void checkValues(const std::vector<TwoVectors<T>>& forms, Element<T> ref, std::size_t randomPairs, const std::vector<int>& factors = scaleFactors()) {
     std::vector<T> a, b;
-    for (const T x : some) {
-        for (const T y : some) {
-            a.push_back(x);
-            b.push_back(y);
-        }
-    }
+    appendCornerPairs(a, b);
     Rng rng(seed());
-    for (const int scaleFactor : scaleFactors()) {
-        checkPairs<T>(call, ref, a, b, scaleFactor);
-        checkPairs<T>(call, ref, extremeVector<T>(randomPairs, rng), extremeVector<T>(randomPairs, rng), scaleFactor);
+    for (const int scaleFactor : factors) {
+        checkPairs<T>(forms, ref, a, b, scaleFactor);
+        checkPairs<T>(forms, ref, extremeVector<T>(randomPairs, rng), extremeVector<T>(randomPairs, rng), scaleFactor);
         if (::testing::Test::HasFailure()) return;
     }
 }
@@ -220,35 +258,6 @@ template <class T>
 std::vector<T> everyValue() {
     std::vector<T> values(std::size_t{1} << (8 * sizeof(T)));
     for (std::size_t i = 0; i < values.size(); ++i) values[i] = static_cast<T>(i);
-    return values;
-}
-
-// ---- one number for many results -------------------------------------------------------------------
-// The same in every build and under every compiler: inputs and hash depend on nothing else.
-class Digest {
-public:
-    template <class T>
-    void add(const std::vector<T>& values) {
-        for (const T v : values) {
-            hash_ ^= static_cast<std::uint64_t>(v);
-            hash_ *= 0x100000001B3u;
-            hash_ ^= hash_ >> 29;
-        }
-    }
-    std::uint64_t value() const { return hash_; }
-
-private:
-    std::uint64_t hash_ = 0xCBF29CE484222325u;
-};
-
-template <class T>
-std::vector<T> fixedVector(std::size_t count, std::uint64_t state) {
-    std::vector<T> values(count);
-    for (T& v : values) {
-        state = state * 6364136223846793005u + 1442695040888963407u;
-        const std::uint64_t bits = state >> 32 ^ state << 21;
-        v = static_cast<T>(bits >> (state >> 59) % (8 * sizeof(T)));  // magnitudes of all sizes
-    }
     return values;
 }
 
