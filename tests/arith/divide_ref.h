@@ -13,12 +13,12 @@ __extension__ typedef __int128 Exact;
 __extension__ typedef unsigned __int128 ExactMagnitude;
 
 template <class T>
-T clampFloatRef(long double v) {
-    constexpr long double low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+T clampFloatRef(double v) {
+    constexpr double low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
     return static_cast<T>(v < low ? low : v > high ? high : v);
 }
 
-inline long double roundRef(long double v, int mode) {
+inline double roundRef(double v, int mode) {
     if (mode == vlqRndZero) return std::trunc(v);
     if (mode == vlqRndNear) return std::nearbyint(v);
     return std::round(v);
@@ -37,11 +37,11 @@ T quotientRef(N numerator, D divisor, int mode, std::int32_t scaleFactor) {
     if (divisor == 0) return overZeroRef<T>(numerator);
     const F quotient = static_cast<F>(numerator) / static_cast<F>(divisor);
     const int scale = scaleFactor > 500 ? 500 : scaleFactor < -500 ? -500 : scaleFactor;
-    return clampFloatRef<T>(roundRef(std::ldexp(static_cast<long double>(quotient), -scale), mode));
+    return clampFloatRef<T>(roundRef(std::ldexp(static_cast<double>(quotient), -scale), mode));  // the scale is exact
 }
 
 // The same quotient rounded exactly: numerator * 2^-scaleFactor / divisor to the nearest, ties to even,
-// stopped at the ends of T. Long division, a bit at a time.
+// stopped at the ends of T.
 template <class T>
 T exactQuotientRef(Exact numerator, Exact divisor, std::int32_t scaleFactor) {
     const bool negative = (numerator < 0) != (divisor < 0);
@@ -54,9 +54,12 @@ T exactQuotientRef(Exact numerator, Exact divisor, std::int32_t scaleFactor) {
         d <<= scaleFactor;
     }
     ExactMagnitude quotient = n / d, rest = n % d;
-    for (std::int64_t left = -std::int64_t{scaleFactor}; left > 0 && quotient <= limit && (quotient != 0 || rest != 0); --left) {
-        quotient = 2 * quotient + (2 * rest >= d);
-        rest = 2 * rest >= d ? 2 * rest - d : 2 * rest;
+    // The bits that a negative scale brings up, 60 at a time: divisors have up to 64.
+    for (std::int64_t left = -std::int64_t{scaleFactor}; left > 0 && quotient <= limit && (quotient != 0 || rest != 0);) {
+        const int step = left < 60 ? static_cast<int>(left) : 60;
+        quotient = (quotient << step) + (rest << step) / d;
+        rest = (rest << step) % d;
+        left -= step;
     }
     if (2 * rest > d || (2 * rest == d && quotient % 2 == 1)) ++quotient;
     if (quotient > limit) quotient = limit;
@@ -71,6 +74,14 @@ T timesReciprocalRef(T numerator, T divisor, std::int32_t scaleFactor) {
     const float reciprocal = std::ldexp(1.0f, -scaleFactor) / static_cast<float>(divisor);
     const float product = static_cast<float>(numerator) * reciprocal;
     return clampFloatRef<T>(std::nearbyint(product));
+}
+
+// The same for complex values, in double precision: the reciprocal's parts are rounded once each.
+inline Vlq16sc timesComplexReciprocalRef(Vlq16sc numerator, Vlq16sc divisor, std::int32_t scaleFactor) {
+    const double a = divisor.re, b = divisor.im, c = numerator.re, d = numerator.im;
+    const double factor = std::ldexp(1.0, scaleFactor > 120 ? -120 : scaleFactor < -120 ? 120 : -scaleFactor) / (a * a + b * b);
+    const double re = a * factor, im = -b * factor;
+    return {clampFloatRef<Vlq16s>(std::nearbyint(c * re - d * im)), clampFloatRef<Vlq16s>(std::nearbyint(c * im + d * re))};
 }
 
 // (c + di) / (a + bi), each part rounded exactly.

@@ -53,6 +53,9 @@ void checkPlacesOfQuotients(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, E
             dst.assign(b);
             ASSERT_EQ(status, inPlace(src1.data(), dst.data(), c.len, scaleFactor));
             ASSERT_TRUE(same(dst, want)) << "in place, scale factor " << scaleFactor;
+            dst.assign(b);
+            ASSERT_EQ(status, call(src1.data(), dst.data(), dst.data(), c.len, scaleFactor));
+            ASSERT_TRUE(same(dst, want)) << "over the numerators, scale factor " << scaleFactor;
         }
         if constexpr (std::is_same_v<A, D>) {
             dst.assign(a);
@@ -62,56 +65,24 @@ void checkPlacesOfQuotients(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, E
     });
 }
 
-// Random and corner pairs over all scale factors, zeros among them.
-template <class A, class B, class D>
-void checkQuotientValues(Scaled<A, B, D> call, ElementRef<A, B, D> ref, std::size_t total = 10'000'000) {
-    const auto first = cornerValues<A>();
-    const auto second = cornerValues<B>();
-    const auto factors = scaleFactors();
-    Rng rng(seed());
-    for (const int scaleFactor : factors) {
-        std::vector<A> a;
-        std::vector<B> b;
-        for (const A x : first) {
-            for (const B y : second) {
-                a.push_back(x);
-                b.push_back(y);
-            }
-        }
-        for (std::size_t i = 0; i < total / factors.size() + 1; ++i) {
-            a.push_back(extremeElement<A>(rng));
-            b.push_back(extremeElement<B>(rng));
-        }
-        checkPairs(call, ref, a, b, scaleFactor, vlqStsWarnDivByZero);
-        if (::testing::Test::HasFatalFailure()) return;
-    }
-}
-
 template <class T>
 T inFloat(T divisor, T numerator, Vlq32s scaleFactor) { return quotientRef<T, float>(numerator, divisor, vlqRndNear, scaleFactor); }
 Vlq32s inDouble(Vlq32s divisor, Vlq32s numerator, Vlq32s scaleFactor) { return quotientRef<Vlq32s, double>(numerator, divisor, vlqRndNear, scaleFactor); }
 Vlq16s inDouble16s(Vlq16s divisor, Vlq32s numerator, Vlq32s scaleFactor) { return quotientRef<Vlq16s, double>(numerator, divisor, vlqRndNear, scaleFactor); }
 
-void allBytePairs(std::vector<Vlq8u>& a, std::vector<Vlq8u>& b) {
-    for (int x = 0; x < 256; ++x) {
-        for (int y = 0; y < 256; ++y) {
-            a.push_back(static_cast<Vlq8u>(x));
-            b.push_back(static_cast<Vlq8u>(y));
-        }
-    }
-}
-std::vector<int> byteScales() {
-    std::vector<int> factors{INT32_MIN, INT32_MAX};
-    for (int s = -40; s <= 40; ++s) factors.push_back(s);
-    return factors;
+// Corner and random pairs have zeros among the divisors.
+template <class A, class B, class D>
+void check(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref) {
+    checkPlacesOfQuotients<A, B, D>(call, inPlace, ref);
+    checkValues<A, B, D>(call, inPlace, ref, vlqStsWarnDivByZero);
 }
 
 TEST(Div, Scaled8u) {
     checkPlacesOfQuotients<Vlq8u, Vlq8u, Vlq8u>(vlqsDiv_8u_Sfs, vlqsDiv_8u_ISfs, inFloat<Vlq8u>);
+    checkAllBytes(vlqsDiv_8u_Sfs, vlqsDiv_8u_ISfs, inFloat<Vlq8u>, vlqStsWarnDivByZero);
     std::vector<Vlq8u> a, b;
-    allBytePairs(a, b);
-    for (const int s : byteScales()) {
-        checkPairs<Vlq8u, Vlq8u, Vlq8u>(vlqsDiv_8u_Sfs, inFloat<Vlq8u>, a, b, s, vlqStsWarnDivByZero);
+    appendAllBytePairs(a, b);
+    for (const int s : byteScaleFactors()) {
         for (std::size_t i = 0; i < a.size(); ++i) {
             // Of bytes single precision finds every exact result.
             if (a[i] == 0) continue;
@@ -119,26 +90,11 @@ TEST(Div, Scaled8u) {
         }
     }
 }
-TEST(Div, Scaled16s) {
-    checkPlacesOfQuotients<Vlq16s, Vlq16s, Vlq16s>(vlqsDiv_16s_Sfs, vlqsDiv_16s_ISfs, inFloat<Vlq16s>);
-    checkQuotientValues<Vlq16s, Vlq16s, Vlq16s>(vlqsDiv_16s_Sfs, inFloat<Vlq16s>);
-}
-TEST(Div, Scaled16u) {
-    checkPlacesOfQuotients<Vlq16u, Vlq16u, Vlq16u>(vlqsDiv_16u_Sfs, vlqsDiv_16u_ISfs, inFloat<Vlq16u>);
-    checkQuotientValues<Vlq16u, Vlq16u, Vlq16u>(vlqsDiv_16u_Sfs, inFloat<Vlq16u>);
-}
-TEST(Div, Scaled32s) {
-    checkPlacesOfQuotients<Vlq32s, Vlq32s, Vlq32s>(vlqsDiv_32s_Sfs, vlqsDiv_32s_ISfs, inDouble);
-    checkQuotientValues<Vlq32s, Vlq32s, Vlq32s>(vlqsDiv_32s_Sfs, inDouble);
-}
-TEST(Div, Scaled32s16s) {
-    checkPlacesOfQuotients<Vlq16s, Vlq32s, Vlq16s>(vlqsDiv_32s16s_Sfs, nullptr, inDouble16s);
-    checkQuotientValues<Vlq16s, Vlq32s, Vlq16s>(vlqsDiv_32s16s_Sfs, inDouble16s);
-}
-TEST(Div, Scaled16sc) {
-    checkPlacesOfQuotients<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsDiv_16sc_Sfs, vlqsDiv_16sc_ISfs, complexQuotientRef);
-    checkQuotientValues<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsDiv_16sc_Sfs, complexQuotientRef, 4'000'000);
-}
+TEST(Div, Scaled16s) { check<Vlq16s, Vlq16s, Vlq16s>(vlqsDiv_16s_Sfs, vlqsDiv_16s_ISfs, inFloat<Vlq16s>); }
+TEST(Div, Scaled16u) { check<Vlq16u, Vlq16u, Vlq16u>(vlqsDiv_16u_Sfs, vlqsDiv_16u_ISfs, inFloat<Vlq16u>); }
+TEST(Div, Scaled32s) { check<Vlq32s, Vlq32s, Vlq32s>(vlqsDiv_32s_Sfs, vlqsDiv_32s_ISfs, inDouble); }
+TEST(Div, Scaled32s16s) { check<Vlq16s, Vlq32s, Vlq16s>(vlqsDiv_32s16s_Sfs, nullptr, inDouble16s); }
+TEST(Div, Scaled16sc) { check<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsDiv_16sc_Sfs, vlqsDiv_16sc_ISfs, complexQuotientRef); }
 
 // Without a negative scale the quotient in single precision rounds as the exact one; with one it
 // stays within a step or within the precision.
@@ -179,6 +135,12 @@ void checkRounded(Rounded<T> call, RoundedInPlace<T> inPlace) {
         Buffer<T> dst(n, c.place[0]);
         ASSERT_EQ(expectedStatus(a), call(src1.data(), src2.data(), dst.data(), c.len, mode, scaleFactor));
         ASSERT_TRUE(same(dst, want)) << "scale factor " << scaleFactor << ", mode " << mode;
+        dst.assign(a);
+        ASSERT_EQ(expectedStatus(a), call(dst.data(), src2.data(), dst.data(), c.len, mode, scaleFactor));
+        ASSERT_TRUE(same(dst, want)) << "over the divisors, scale factor " << scaleFactor << ", mode " << mode;
+        dst.assign(b);
+        ASSERT_EQ(expectedStatus(a), call(src1.data(), dst.data(), dst.data(), c.len, mode, scaleFactor));
+        ASSERT_TRUE(same(dst, want)) << "over the numerators, scale factor " << scaleFactor << ", mode " << mode;
         dst.assign(b);
         ASSERT_EQ(expectedStatus(a), inPlace(src1.data(), dst.data(), c.len, mode, scaleFactor));
         ASSERT_TRUE(same(dst, want)) << "in place, scale factor " << scaleFactor << ", mode " << mode;
@@ -186,15 +148,18 @@ void checkRounded(Rounded<T> call, RoundedInPlace<T> inPlace) {
     Rng rng(seed());
     for (const int scaleFactor : scaleFactors()) {
         for (const int mode : {vlqRndZero, vlqRndNear, vlqRndFinancial}) {
-            auto a = cornerValues<T>(), b = cornerValues<T>();
-            for (int i = 0; i < 25000; ++i) {
-                a.push_back(extremeValue<T>(rng));
-                b.push_back(extremeValue<T>(rng));
-            }
-            std::vector<T> dst(a.size());
-            ASSERT_EQ(vlqStsWarnDivByZero, call(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), mode, scaleFactor));
+            std::vector<T> a, b;
+            appendCornerPairs(a, b);
+            appendRandom(a, 25500, rng);
+            appendRandom(b, 25500, rng);
+            const int len = static_cast<int>(a.size());
+            auto dst = a, dstInPlace = b;
+            ASSERT_EQ(vlqStsWarnDivByZero, call(a.data(), b.data(), dst.data(), len, mode, scaleFactor));
+            ASSERT_EQ(vlqStsWarnDivByZero, inPlace(a.data(), dstInPlace.data(), len, mode, scaleFactor));
             for (std::size_t i = 0; i < a.size(); ++i) {
-                ASSERT_EQ(byModeRef(a[i], b[i], mode, scaleFactor), dst[i]) << +b[i] << " / " << +a[i] << " at " << scaleFactor << ", mode " << mode;
+                const T want = byModeRef(a[i], b[i], mode, scaleFactor);
+                ASSERT_EQ(want, dst[i]) << +b[i] << " / " << +a[i] << " at " << scaleFactor << ", mode " << mode;
+                ASSERT_EQ(want, dstInPlace[i]) << +b[i] << " / " << +a[i] << " at " << scaleFactor << ", mode " << mode << ", in place";
             }
         }
     }
@@ -202,8 +167,8 @@ void checkRounded(Rounded<T> call, RoundedInPlace<T> inPlace) {
 TEST(DivRound, Values8u) {
     checkRounded<Vlq8u>(vlqsDiv_Round_8u_Sfs, vlqsDiv_Round_8u_ISfs);
     std::vector<Vlq8u> a, b;
-    allBytePairs(a, b);
-    for (const int s : byteScales()) {
+    appendAllBytePairs(a, b);
+    for (const int s : byteScaleFactors()) {
         for (const int mode : {0, 1, 2}) {
             std::vector<Vlq8u> dst(a.size());
             ASSERT_EQ(vlqStsWarnDivByZero, vlqsDiv_Round_8u_Sfs(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), mode, s));
@@ -247,7 +212,7 @@ void checkDivisors(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace, std
         ASSERT_EQ(vlqStsOk, call(src.data(), val, dst.data(), c.len, scaleFactor));
         ASSERT_TRUE(same(dst, want)) << "constant " << +val << ", scale factor " << scaleFactor;
     });
-    checkConstants<T>(inPlace, [](T a, T val, Vlq32s s) { return timesReciprocalRef(a, val == 0 ? T{1} : val, s); }, constants, 0);
+    checkConstants<T>(nullptr, inPlace, [](T a, T val, Vlq32s s) { return timesReciprocalRef(a, val == 0 ? T{1} : val, s); }, constants, 0);
 }
 template <class T, VlqStatus (*inPlace)(T, T*, Vlq32s, Vlq32s)>
 VlqStatus nonZero(T val, T* v, Vlq32s len, Vlq32s scaleFactor) { return inPlace(val == 0 ? T{1} : val, v, len, scaleFactor); }
@@ -264,7 +229,7 @@ TEST(DivC, Scaled16u) { checkDivisors<Vlq16u>(vlqsDivC_16u_Sfs, nonZero<Vlq16u, 
 TEST(DivC, Scaled16sc) {
     Rng rng(seed());
     auto source = cornerValues<Vlq16sc>();
-    for (int i = 0; i < 3000; ++i) source.push_back(extremeElement<Vlq16sc>(rng));
+    for (int i = 0; i < 7500; ++i) source.push_back(extremeElement<Vlq16sc>(rng));
     auto constants = cornerValues<Vlq16sc>();
     for (int i = 0; i < 40; ++i) constants.push_back(extremeElement<Vlq16sc>(rng));
     const auto check = [](Vlq16s got, Exact n, Exact d, int s) {
@@ -309,9 +274,9 @@ TEST(DivC, Exact64s) {
     auto constants = cornerValues<Vlq64s>();
     std::erase(constants, 0);
     Rng rng(seed());
-    for (int i = 0; i < 20; ++i) constants.push_back(extremeValue<Vlq64s>(rng) | 1);
+    for (int i = 0; i < 90; ++i) constants.push_back(extremeValue<Vlq64s>(rng) | 1);
     auto source = cornerValues<Vlq64s>();
-    for (int i = 0; i < 50; ++i) source.push_back(extremeValue<Vlq64s>(rng));
+    for (int i = 0; i < 900; ++i) source.push_back(extremeValue<Vlq64s>(rng));
     for (const Vlq64s val : constants) {
         for (const int s : {0, 1, 2, 5, 31, 32, 61, 62, 65, INT32_MAX, -1, -2, -31, -32, -62, -63, -64, -65, -100, -125, -126, -127, -200, INT32_MIN}) {
             auto dst = source;
@@ -373,10 +338,14 @@ TEST(DivCRev, Values16u) {
         ASSERT_EQ(expectedStatus(a), vlqsDivCRev_16u_I(val, dst.data(), c.len));
         ASSERT_TRUE(same(dst, want));
     });
-    for (const int val : {1, 2, 3, 255, 10007, 32767, 32768, 65535}) {
+    // Every divisor under corners and random constants.
+    auto constants = cornerValues<Vlq16u>();
+    Rng rng(seed());
+    appendRandom(constants, 120, rng);
+    for (const Vlq16u val : constants) {
         std::vector<Vlq16u> v;
         for (int x = 1; x < 65536; ++x) v.push_back(static_cast<Vlq16u>(x));
-        ASSERT_EQ(vlqStsOk, vlqsDivCRev_16u_I(static_cast<Vlq16u>(val), v.data(), static_cast<int>(v.size())));
+        ASSERT_EQ(vlqStsOk, vlqsDivCRev_16u_I(val, v.data(), static_cast<int>(v.size())));
         for (int x = 1; x < 65536; ++x) ASSERT_EQ(exactQuotientRef<Vlq16u>(val, x, 0), v[static_cast<std::size_t>(x - 1)]) << val << " / " << x;
     }
 }
@@ -406,6 +375,59 @@ TEST(Div, OverZero) {
     Vlq16u revDst[3] = {1, 1, 1};
     EXPECT_EQ(vlqStsOk, vlqsDivCRev_16u(none, 0, revDst, 3));
     EXPECT_EQ(0, revDst[0] | revDst[1] | revDst[2]);
+}
+
+// ---- digests ------------------------------------------------------------------------------------------
+template <class T>
+void checkRoundedDigest(Rounded<T> call, std::uint64_t expected) {
+    auto a = fixedVector<T>(2000, 1);
+    const auto b = fixedVector<T>(2000, 2);
+    a[0] = 0;
+    Digest got, want;
+    std::vector<T> dst(a.size()), ref(a.size());
+    for (int s = -70; s <= 70; ++s) {
+        for (const int mode : {vlqRndZero, vlqRndNear, vlqRndFinancial}) {
+            ASSERT_EQ(vlqStsWarnDivByZero, call(a.data(), b.data(), dst.data(), 2000, mode, s));
+            for (std::size_t i = 0; i < a.size(); ++i) ref[i] = byModeRef(a[i], b[i], mode, s);
+            got.add(dst);
+            want.add(ref);
+        }
+    }
+    expectDigest(expected, got, want);
+}
+TEST(Div, Digests) {
+    checkDigest<Vlq8u, Vlq8u, Vlq8u>(vlqsDiv_8u_Sfs, inFloat<Vlq8u>, 0xa3b9a42d2ee3c5df, vlqStsWarnDivByZero);
+    checkDigest<Vlq16s, Vlq16s, Vlq16s>(vlqsDiv_16s_Sfs, inFloat<Vlq16s>, 0x77ddccce13e423aa, vlqStsWarnDivByZero);
+    checkDigest<Vlq16u, Vlq16u, Vlq16u>(vlqsDiv_16u_Sfs, inFloat<Vlq16u>, 0x9a2aaae5a5c93d29, vlqStsWarnDivByZero);
+    checkDigest<Vlq32s, Vlq32s, Vlq32s>(vlqsDiv_32s_Sfs, inDouble, 0x26e70421d79bd1b7, vlqStsWarnDivByZero);
+    checkDigest<Vlq16s, Vlq32s, Vlq16s>(vlqsDiv_32s16s_Sfs, inDouble16s, 0x1df4f38e745b0d7f, vlqStsWarnDivByZero);
+    checkDigest<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsDiv_16sc_Sfs, complexQuotientRef, 0x754c4ab51011586e, vlqStsWarnDivByZero);
+}
+TEST(DivRound, Digests) {
+    checkRoundedDigest<Vlq8u>(vlqsDiv_Round_8u_Sfs, 0x75da43665c1425ed);
+    checkRoundedDigest<Vlq16s>(vlqsDiv_Round_16s_Sfs, 0x796ed50698346ef3);
+    checkRoundedDigest<Vlq16u>(vlqsDiv_Round_16u_Sfs, 0x52dcc73ccda3f224);
+}
+TEST(DivC, Digests) {
+    checkConstantDigest<Vlq8u>(vlqsDivC_8u_ISfs, timesReciprocalRef<Vlq8u>, 0xe4b454922ec7b936);
+    checkConstantDigest<Vlq16s>(vlqsDivC_16s_ISfs, timesReciprocalRef<Vlq16s>, 0xdc1eb770d2e1c51c);
+    checkConstantDigest<Vlq16u>(vlqsDivC_16u_ISfs, timesReciprocalRef<Vlq16u>, 0x829dcda3e7ce21c9);
+    checkConstantDigest<Vlq16sc>(vlqsDivC_16sc_ISfs, timesComplexReciprocalRef, 0xba16efbfa0f1f976);
+    checkConstantDigest<Vlq64s>(vlqsDivC_64s_ISfs, [](Vlq64s a, Vlq64s val, Vlq32s s) { return exactQuotientRef<Vlq64s>(a, val, s); }, 0xaecb7905737bdc66);
+}
+TEST(DivCRev, Digest) {
+    auto src = fixedVector<Vlq16u>(2000, 3);
+    const auto constants = fixedVector<Vlq16u>(141, 4);
+    src[0] = 0;
+    Digest got, want;
+    std::vector<Vlq16u> dst(src.size()), ref(src.size());
+    for (const Vlq16u val : constants) {
+        ASSERT_EQ(vlqStsWarnDivByZero, vlqsDivCRev_16u(src.data(), val, dst.data(), 2000));
+        for (std::size_t i = 0; i < src.size(); ++i) ref[i] = inFloat<Vlq16u>(src[i], val, 0);
+        got.add(dst);
+        want.add(ref);
+    }
+    expectDigest(0xdc579ff8c347612e, got, want);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ using namespace vlqtest;
 template <class A, class B, class D>
 void check(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref) {
     checkPlaces<A, B, D>(call, inPlace, ref);
-    checkValues<A, B, D>(call, ref);
+    checkValues<A, B, D>(call, inPlace, ref);
 }
 
 Vlq32sc realByComplexRef(Vlq32s a, Vlq32sc b, Vlq32s scaleFactor) {
@@ -24,15 +24,15 @@ TEST(Mul, Scaled32sc) { check<Vlq32sc, Vlq32sc, Vlq32sc>(vlqsMul_32sc_Sfs, vlqsM
 
 TEST(MulC, Scaled32s) {
     checkConstantPlaces<Vlq32s>(vlqsMulC_32s_Sfs, vlqsMulC_32s_ISfs, productRef);
-    checkConstants<Vlq32s>(vlqsMulC_32s_ISfs, productRef, cornerValues<Vlq32s>(), 500);
+    checkConstants<Vlq32s>(vlqsMulC_32s_Sfs, vlqsMulC_32s_ISfs, productRef, cornerValues<Vlq32s>(), 500);
 }
 TEST(MulC, Scaled32sc) {
     checkConstantPlaces<Vlq32sc>(vlqsMulC_32sc_Sfs, vlqsMulC_32sc_ISfs, complexProductRef);
-    checkConstants<Vlq32sc>(vlqsMulC_32sc_ISfs, complexProductRef, cornerValues<Vlq32sc>(), 500);
+    checkConstants<Vlq32sc>(vlqsMulC_32sc_Sfs, vlqsMulC_32sc_ISfs, complexProductRef, cornerValues<Vlq32sc>(), 1000);
 }
 TEST(MulC, Scaled64s) {
     checkConstantPlaces<Vlq64s>(nullptr, vlqsMulC_64s_ISfs, productRef);
-    checkConstants<Vlq64s>(vlqsMulC_64s_ISfs, productRef, cornerValues<Vlq64s>(), 200);
+    checkConstants<Vlq64s>(nullptr, vlqsMulC_64s_ISfs, productRef, cornerValues<Vlq64s>(), 200);
 }
 
 TEST(Mul, LargestParts32sc) {
@@ -65,13 +65,8 @@ TEST(AddProduct, Scaled32s) {
     const auto corners = cornerValues<Vlq32s>();
     for (const int scaleFactor : scaleFactors()) {
         std::vector<Vlq32s> a, b, acc;
-        for (const Vlq32s x : corners) {
-            for (const Vlq32s y : corners) {
-                a.push_back(x);
-                b.push_back(y);
-                acc.push_back(corners[rng() % corners.size()]);
-            }
-        }
+        appendCornerPairs(a, b);
+        while (acc.size() < a.size()) acc.push_back(corners[rng() % corners.size()]);
         for (int i = 0; i < 80000; ++i) {
             a.push_back(extremeElement<Vlq32s>(rng));
             b.push_back(extremeElement<Vlq32s>(rng));
@@ -102,7 +97,7 @@ TEST(MulC, Scaled64f64s) {
                                   0x1p63, -0x1p63, 1e10, 3.14159, -2.71828e-5};
     for (int i = 0; i < 20; ++i) constants.push_back(extremeValue<double>(rng));
     auto source = cornerValues<Vlq64s>();
-    for (int i = 0; i < 1500; ++i) source.push_back(extremeValue<Vlq64s>(rng));
+    for (int i = 0; i < 2000; ++i) source.push_back(extremeValue<Vlq64s>(rng));
     for (const double val : constants) {
         for (const int scaleFactor : scaleFactors()) {
             auto dst = source;
@@ -144,11 +139,66 @@ TEST(MulC, Scaled32f16s) {
         check(a, val, factors[turn++ % factors.size()], src.data(), dst);
     });
     Rng rng(seed());
-    for (int round = 0; round < 60; ++round) {
+    for (int round = 0; round < 200; ++round) {
         const auto a = uniformVector<Vlq32f>(50000, -40000, 40000, rng);
         Buffer<Vlq16s> dst(a.size());
         check(a, uniformVector<Vlq32f>(1, -2, 2, rng)[0], round % 6 - 2, a.data(), dst);
     }
+}
+
+// ---- digests ------------------------------------------------------------------------------------------
+TEST(Mul, WideDigests) {
+    checkDigest<Vlq32s, Vlq32s, Vlq32s>(vlqsMul_32s_Sfs, productRef, 0x512e37c33cbf5e2f);
+    checkDigest<Vlq32s, Vlq32s, Vlq32s>(vlqsMul_Low_32s_Sfs, productRef, 0x512e37c33cbf5e2f);
+    checkDigest<Vlq32s, Vlq32sc, Vlq32sc>(vlqsMul_32s32sc_Sfs, realByComplexRef, 0xbf7451ccc3168477);
+    checkDigest<Vlq32sc, Vlq32sc, Vlq32sc>(vlqsMul_32sc_Sfs, complexProductRef, 0x198fa146882d4a2e);
+}
+TEST(MulC, WideDigests) {
+    checkConstantDigest<Vlq32s>(vlqsMulC_32s_ISfs, productRef, 0xba35a1fcb63a3a8a);
+    checkConstantDigest<Vlq32sc>(vlqsMulC_32sc_ISfs, complexProductRef, 0x26d3fa68e4a18230);
+    checkConstantDigest<Vlq64s>(vlqsMulC_64s_ISfs, productRef, 0x228ffce1c81fe39f);
+}
+TEST(AddProduct, WideDigest) {
+    const auto a = fixedVector<Vlq32s>(2000, 1), b = fixedVector<Vlq32s>(2000, 2), acc = fixedVector<Vlq32s>(2000, 3);
+    Digest got, want;
+    for (int s = -70; s <= 70; ++s) {
+        auto dst = acc, ref = acc;
+        ASSERT_EQ(vlqStsOk, vlqsAddProduct_32s_Sfs(a.data(), b.data(), dst.data(), 2000, s));
+        for (std::size_t i = 0; i < ref.size(); ++i) ref[i] = sumOfProductRef(acc[i], a[i], b[i], s);
+        got.add(dst);
+        want.add(ref);
+    }
+    expectDigest(0x84e5c72518aaa7c9, got, want);
+}
+TEST(MulC, FloatConstantDigests) {
+    const auto src = fixedVector<Vlq64s>(2000, 3), constants = fixedVector<Vlq64s>(141, 4);
+    const auto samples = fixedVector<Vlq32s>(2000, 5);
+    Digest got, want, got16, want16, gotLow, wantLow;
+    for (int s = -70; s <= 70; ++s) {
+        const double val = static_cast<double>(constants[static_cast<std::size_t>(s + 70)]) * 0x1p-20;
+        auto dst = src, ref = src;
+        ASSERT_EQ(vlqStsOk, vlqsMulC_64f64s_ISfs(val, dst.data(), 2000, s));
+        std::vector<Vlq32f> floats(2000);
+        std::vector<Vlq16s> dst16(2000), low16(2000), ref16(2000), refLow(2000);
+        const auto constant = static_cast<Vlq32f>(val);
+        for (std::size_t i = 0; i < src.size(); ++i) {
+            ref[i] = floatProductRef(src[i], val, s);
+            floats[i] = static_cast<Vlq32f>(samples[i]) * 0x1p-10f;
+            ref16[i] = store16(scaledBy(static_cast<long double>(floats[i]) * static_cast<long double>(constant), s));
+            refLow[i] = store16(static_cast<long double>(floats[i] * constant));
+        }
+        ASSERT_EQ(vlqStsOk, vlqsMulC_32f16s_Sfs(floats.data(), constant, dst16.data(), 2000, s));
+        ASSERT_EQ(vlqStsOk, vlqsMulC_Low_32f16s(floats.data(), constant, low16.data(), 2000));
+        got.add(dst);
+        want.add(ref);
+        got16.add(dst16);
+        want16.add(ref16);
+        gotLow.add(low16);
+        wantLow.add(refLow);
+    }
+    expectDigest(0xcfb7650f6c3340bf, got, want);
+    expectDigest(0x7eada3579c6c914a, got16, want16);
+    expectDigest(0xf1ce2e6197c665a, gotLow, wantLow);
 }
 
 }  // namespace

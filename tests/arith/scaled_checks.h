@@ -1,6 +1,7 @@
 // Checks of element-wise calls with a scale factor against a function of one element pair.
 #pragma once
 
+#include "arith/digest.h"
 #include "arith/element.h"
 #include "vlqs/arith.h"
 
@@ -65,12 +66,25 @@ void checkPlaces(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A
         Buffer<D> dst(n, c.place[0]);
         ASSERT_EQ(vlqStsOk, call(src1.data(), src2.data(), dst.data(), c.len, scaleFactor));
         ASSERT_TRUE(same(dst, want)) << "scale factor " << scaleFactor;
+        if constexpr (std::is_same_v<A, D>) {
+            dst.assign(a);
+            ASSERT_EQ(vlqStsOk, call(dst.data(), src2.data(), dst.data(), c.len, scaleFactor));
+            ASSERT_TRUE(same(dst, want)) << "over the first, scale factor " << scaleFactor;
+        }
         if constexpr (std::is_same_v<B, D>) {
+            dst.assign(b);
+            ASSERT_EQ(vlqStsOk, call(src1.data(), dst.data(), dst.data(), c.len, scaleFactor));
+            ASSERT_TRUE(same(dst, want)) << "over the second, scale factor " << scaleFactor;
             if (inPlace) {
                 dst.assign(b);
                 ASSERT_EQ(vlqStsOk, inPlace(src1.data(), dst.data(), c.len, scaleFactor));
                 ASSERT_TRUE(same(dst, want)) << "in place, scale factor " << scaleFactor;
             }
+        }
+        if constexpr (std::is_same_v<A, D> && std::is_same_v<B, D>) {
+            dst.assign(a);
+            ASSERT_EQ(vlqStsOk, call(dst.data(), dst.data(), dst.data(), c.len, scaleFactor));
+            ASSERT_TRUE(same(dst, wanted<A, B, D>(a, a, ref, scaleFactor))) << "of itself over itself, scale factor " << scaleFactor;
         }
     });
 }
@@ -120,63 +134,125 @@ std::vector<C> cornerValues() {
     return values;
 }
 
-// Given pairs at one scale factor.
+// Given pairs at one scale factor, out of place and in place.
 template <class A, class B, class D>
-void checkPairs(Scaled<A, B, D> call, ElementRef<A, B, D> ref, const std::vector<A>& a, const std::vector<B>& b, int scaleFactor, VlqStatus status = vlqStsOk) {
+void checkPairs(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref, const std::vector<A>& a, const std::vector<B>& b, int scaleFactor,
+                VlqStatus status = vlqStsOk) {
+    const auto want = wanted<A, B, D>(a, b, ref, scaleFactor);
+    const auto compare = [&](const std::vector<D>& dst) {
+        for (std::size_t i = 0; i < a.size(); ++i) {
+            ASSERT_TRUE(equalElements(want[i], dst[i])) << showInteger(a[i]) << " with " << showInteger(b[i]) << " at scale factor " << scaleFactor
+                                                        << ": " << showInteger(dst[i]) << ", expected " << showInteger(want[i]);
+        }
+    };
+    const int len = static_cast<int>(a.size());
     std::vector<D> dst(a.size());
-    ASSERT_EQ(status, call(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), scaleFactor));
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        const D want = ref(a[i], b[i], scaleFactor);
-        ASSERT_TRUE(equalElements(want, dst[i])) << showInteger(a[i]) << " with " << showInteger(b[i]) << " at scale factor " << scaleFactor
-                                                 << ": " << showInteger(dst[i]) << ", expected " << showInteger(want);
+    ASSERT_EQ(status, call(a.data(), b.data(), dst.data(), len, scaleFactor));
+    compare(dst);
+    if constexpr (std::is_same_v<B, D>) {
+        if (!inPlace) return;
+        dst = b;
+        ASSERT_EQ(status, inPlace(a.data(), dst.data(), len, scaleFactor));
+        compare(dst);
     }
 }
 
+// All pairs of corners of two types.
+template <class A, class B>
+void appendCornerPairs(std::vector<A>& a, std::vector<B>& b) {
+    for (const A x : cornerValues<A>()) {
+        for (const B y : cornerValues<B>()) {
+            a.push_back(x);
+            b.push_back(y);
+        }
+    }
+}
+template <class T>
+void appendRandom(std::vector<T>& values, std::size_t count, Rng& rng) {
+    for (std::size_t i = 0; i < count; ++i) values.push_back(extremeElement<T>(rng));
+}
+
 // Corner pairs, and ten million random pairs over all scale factors.
+inline constexpr std::size_t kRandomPairs = 10'000'000;
 template <class A, class B, class D>
-void checkValues(Scaled<A, B, D> call, ElementRef<A, B, D> ref, std::size_t total = 10'000'000) {
-    const auto first = cornerValues<A>();
-    const auto second = cornerValues<B>();
-    const auto factors = scaleFactors();
+void checkValues(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref, VlqStatus status = vlqStsOk,
+                 const std::vector<int>& factors = scaleFactors()) {
     Rng rng(seed());
     for (const int scaleFactor : factors) {
         std::vector<A> a;
         std::vector<B> b;
-        for (const A x : first) {
-            for (const B y : second) {
-                a.push_back(x);
-                b.push_back(y);
-            }
-        }
-        for (std::size_t i = 0; i < total / factors.size() + 1; ++i) {
-            a.push_back(extremeElement<A>(rng));
-            b.push_back(extremeElement<B>(rng));
-        }
-        checkPairs(call, ref, a, b, scaleFactor);
+        appendCornerPairs(a, b);
+        appendRandom(a, kRandomPairs / factors.size() + 1, rng);
+        appendRandom(b, kRandomPairs / factors.size() + 1, rng);
+        checkPairs(call, inPlace, ref, a, b, scaleFactor, status);
         if (::testing::Test::HasFatalFailure()) return;
     }
 }
 
-// All pairs of 8-bit values.
-inline void checkAllBytes(Scaled<Vlq8u, Vlq8u, Vlq8u> call, ElementRef<Vlq8u, Vlq8u, Vlq8u> ref) {
-    std::vector<Vlq8u> a, b;
+// All pairs of 8-bit values, with the scale factors to go through.
+inline void appendAllBytePairs(std::vector<Vlq8u>& a, std::vector<Vlq8u>& b) {
     for (int x = 0; x < 256; ++x) {
         for (int y = 0; y < 256; ++y) {
             a.push_back(static_cast<Vlq8u>(x));
             b.push_back(static_cast<Vlq8u>(y));
         }
     }
+}
+inline std::vector<int> byteScaleFactors() {
     std::vector<int> factors{INT32_MIN, INT32_MAX};
     for (int s = -40; s <= 40; ++s) factors.push_back(s);
-    for (const int s : factors) {
-        checkPairs(call, ref, a, b, s);
+    return factors;
+}
+inline void checkAllBytes(Scaled<Vlq8u, Vlq8u, Vlq8u> call, ScaledInPlace<Vlq8u, Vlq8u> inPlace, ElementRef<Vlq8u, Vlq8u, Vlq8u> ref,
+                          VlqStatus status = vlqStsOk) {
+    std::vector<Vlq8u> a, b;
+    appendAllBytePairs(a, b);
+    for (const int s : byteScaleFactors()) {
+        checkPairs(call, inPlace, ref, a, b, s, status);
         if (::testing::Test::HasFatalFailure()) return;
     }
 }
 
-// A constant against corner and random vectors; `everyOther` adds all 16-bit values as sources.
+// ---- digests ---------------------------------------------------------------------------------------
+// Results of fixed vectors over scale factors of every range.
+template <class A, class B, class D>
+void checkDigest(Scaled<A, B, D> call, ElementRef<A, B, D> ref, std::uint64_t expected, VlqStatus status = vlqStsOk) {
+    auto a = fixedVector<A>(2000, 1);
+    const auto b = fixedVector<B>(2000, 2);
+    if (status == vlqStsWarnDivByZero) a[0] = A{};
+    Digest got, want;
+    std::vector<D> dst(a.size());
+    for (int s = -70; s <= 70; ++s) {
+        ASSERT_EQ(status, call(a.data(), b.data(), dst.data(), 2000, s));
+        got.add(dst);
+        want.add(wanted<A, B, D>(a, b, ref, s));
+    }
+    expectDigest(expected, got, want);
+}
 template <class T>
-void checkConstants(ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> ref, std::vector<T> constants, std::size_t randoms) {
+void checkConstantDigest(ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> ref, std::uint64_t expected) {
+    const auto src = fixedVector<T>(2000, 3);
+    auto constants = fixedVector<T>(141, 4);
+    Digest got, want;
+    for (int s = -70; s <= 70; ++s) {
+        T val = constants[static_cast<std::size_t>(s + 70)];
+        if constexpr (!ComplexElement<T>) {
+            if (val == 0) val = 1;  // a divisor
+        } else {
+            if (val.re == 0 && val.im == 0) val.re = 1;
+        }
+        auto dst = src;
+        ASSERT_EQ(vlqStsOk, inPlace(val, dst.data(), 2000, s));
+        got.add(dst);
+        want.add(wanted<T, T, T>(src, std::vector<T>(src.size(), val), ref, s));
+    }
+    expectDigest(expected, got, want);
+}
+
+// Constants, and a few random ones, against all values of up to 16 bits or corners and random values of
+// wider types. The call out of place may be absent.
+template <class T>
+void checkConstants(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> ref, std::vector<T> constants, std::size_t randoms) {
     Rng rng(seed());
     for (int i = 0; i < (sizeof(T) <= 2 ? 2 : 12); ++i) constants.push_back(extremeElement<T>(rng));
     std::vector<T> source;
@@ -190,6 +266,11 @@ void checkConstants(ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> ref, s
         for (const int scaleFactor : scaleFactors()) {
             auto dst = source;
             ASSERT_EQ(vlqStsOk, inPlace(val, dst.data(), static_cast<int>(dst.size()), scaleFactor));
+            if (call) {
+                std::vector<T> apart(source.size());
+                ASSERT_EQ(vlqStsOk, call(source.data(), val, apart.data(), static_cast<int>(dst.size()), scaleFactor));
+                ASSERT_EQ(0, std::memcmp(apart.data(), dst.data(), dst.size() * sizeof(T))) << "constant " << showInteger(val) << " at " << scaleFactor;
+            }
             for (std::size_t i = 0; i < source.size(); ++i) {
                 const T want = ref(source[i], val, scaleFactor);
                 ASSERT_TRUE(equalElements(want, dst[i])) << showInteger(source[i]) << " with constant " << showInteger(val) << " at scale factor "
