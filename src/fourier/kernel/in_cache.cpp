@@ -12,7 +12,8 @@ void later(int radix, In in, Out out, std::ptrdiff_t n, std::ptrdiff_t span, con
     switch (radix) {
         case 4: return laterPass<T, B, 4, scaled>(in, out, n, span, table, scale);
         case 8: return laterPass<T, B, 8, scaled>(in, out, n, span, table, scale);
-        default: return laterPass<T, B, 16, scaled>(in, out, n, span, table, scale);
+        default:
+            if constexpr (B > 16) laterPass<T, B, 16, scaled>(in, out, n, span, table, scale);
     }
 }
 
@@ -27,7 +28,9 @@ void runPasses(const PassPlan& plan, int order, const T* table, In src, Middle w
     if constexpr (lanes <= 8) {
         if (plan.first == 8) firstPass<T, B, 8>(src, work, n, eighth);
     }
-    if (plan.first == 16) firstPass<T, B, 16>(src, work, n, eighth);
+    if constexpr (B > 16) {
+        if (plan.first == 16) firstPass<T, B, 16>(src, work, n, eighth);
+    }
     std::ptrdiff_t span = plan.first;
     Middle from = work, to = middle;
     for (int i = 0; i + 1 < plan.count; ++i) {

@@ -106,8 +106,11 @@ void firstPass(In in, Out out, std::ptrdiff_t n, T eighth) {
 
 template <class T, int B>
 [[gnu::always_inline]] inline Split<T, B> tableTwiddle(const T* table, int index) {
-    return {loadAligned<T, B>(table + 2 * index * Vec<T, B>::lanes),
-            loadAligned<T, B>(table + (2 * index + 1) * Vec<T, B>::lanes)};
+    const Split<T, B> w{loadAligned<T, B>(table + 2 * index * Vec<T, B>::lanes),
+                        loadAligned<T, B>(table + (2 * index + 1) * Vec<T, B>::lanes)};
+    // Instructions that overwrite an operand are better off with factors from memory.
+    if constexpr (B == 16) return w;
+    else return {opaque(w.re), opaque(w.im)};
 }
 
 // A later pass: R * lanes values from in(i + p * stride) to out(o + q * span), R - 1 twiddles.

@@ -49,13 +49,14 @@ struct Interleaved {
     }
 };
 
-// Between passes: a vector of real parts, then one of imaginary parts.
+// Between passes: a vector of real parts, then one of imaginary parts. Opaque: each is loaded once,
+// where the compiler would load it again for each use and run out of loads a cycle.
 template <class T>
 struct Blocks {
     T* p;
     template <int B>
     [[gnu::always_inline]] Split<T, B> get(std::ptrdiff_t i) const {
-        return {load<T, B>(p + 2 * i), load<T, B>(p + 2 * i + Vec<T, B>::lanes)};
+        return {opaque(load<T, B>(p + 2 * i)), opaque(load<T, B>(p + 2 * i + Vec<T, B>::lanes))};
     }
     template <int B>
     [[gnu::always_inline]] void put(std::ptrdiff_t i, Split<T, B> v) const {
@@ -93,7 +94,7 @@ struct Planes {
     T* im;
     template <int B>
     [[gnu::always_inline]] Split<T, B> get(std::ptrdiff_t i) const {
-        return {load<T, B>(re + i), load<T, B>(im + i)};
+        return {opaque(load<T, B>(re + i)), opaque(load<T, B>(im + i))};
     }
     template <int B>
     [[gnu::always_inline]] void put(std::ptrdiff_t i, Split<T, B> v) const {

@@ -10,42 +10,47 @@ struct PassPlan {
     int bytes;  // of a vector
     int first;  // radix of the first pass: a multiple of a vector's lanes
     int count;  // of the passes after it
-    int radix[4];
+    int radix[5];
 };
 
-// The passes after the first, for `bits` of the order: at most radix 2^widest, even shares.
-constexpr PassPlan planOf(int bytes, int first, int bits, int widest) {
-    PassPlan plan{bytes, first, 0, {}};
-    for (const int last = (bits + widest - 1) / widest; plan.count < last; ++plan.count) {
-        const int share = bits / (last - plan.count);
-        plan.radix[plan.count] = 1 << share;
-        bits -= share;
+inline constexpr int kFirstPlanned = 6, kLastPlanned = 15;  // orders
+
+// Radices by order from 6, as measured. Radix 16 saves passes over the data where a vector's lanes
+// and the number of registers allow; vectors of 16 bytes are better off without.
+template <class T, int bytes>
+inline constexpr signed char kRadices[10][6] = {
+    {8, 8}, {8, 4, 4}, {8, 8, 4}, {8, 8, 8}, {8, 4, 8, 4}, {8, 8, 8, 4}, {8, 4, 4, 8, 4}, {8, 8, 8, 4, 4}, {8, 4, 8, 8, 8}, {8, 8, 4, 8, 4, 4}};
+template <>
+inline constexpr signed char kRadices<Vlq32f, 32>[10][6] = {
+    {8, 8}, {16, 8}, {16, 4, 4}, {16, 8, 4}, {16, 4, 4, 4}, {16, 4, 8, 4}, {16, 16, 16}, {8, 4, 8, 8, 4}, {8, 4, 8, 16, 4}, {8, 4, 8, 16, 8}};
+template <>
+inline constexpr signed char kRadices<Vlq64f, 32>[10][6] = {
+    {16, 4}, {8, 4, 4}, {16, 4, 4}, {16, 8, 4}, {8, 4, 8, 4}, {16, 8, 16}, {8, 8, 8, 8}, {8, 4, 8, 8, 4}};
+template <>
+inline constexpr signed char kRadices<Vlq32f, 64>[10][6] = {
+    {}, {}, {16, 16}, {16, 8, 4}, {16, 16, 4}, {16, 8, 4, 4}, {16, 16, 16}, {16, 8, 16, 4}, {16, 8, 16, 8}, {16, 8, 16, 4, 4}};
+template <>
+inline constexpr signed char kRadices<Vlq64f, 64>[10][6] = {
+    {8, 8}, {16, 8}, {16, 16}, {8, 16, 4}, {16, 4, 16}, {16, 16, 8}, {8, 8, 16, 4}, {8, 8, 16, 8}};
+
+template <class T, int bytes>
+constexpr PassPlan planOf(int order) {
+    const signed char* radices = kRadices<T, bytes>[order - kFirstPlanned];
+    PassPlan plan{bytes, *radices, 0, {}};
+    for (int product = plan.first; product < 1 << order; product *= plan.radix[plan.count++]) {
+        plan.radix[plan.count] = radices[plan.count + 1];
     }
     return plan;
 }
 
-// Radix 16 saves passes over the data, at the price of much straight-line code. Vectors of 16 bytes
-// need the most of it: at short lengths, where each piece runs but a few times, forward and inverse
-// in turn then drive each other out of the processor's decoded instructions; at long ones the
-// sixteen streams meet in too few ways of the first cache.
-constexpr int widestPass(int bytes, int order) {
-    if (bytes == 64) return 4;
-    if (order > 12) return 3;
-    if (bytes == 32) return 4;
-    return order <= 7 ? 2 : order == 8 ? 3 : 4;
-}
-
 template <class T>
 constexpr PassPlan passPlan(int order) {
-    constexpr int size = sizeof(T);
     // The first pass fills a square of lanes from the whole length.
-    int bytes = kVecBytes;
-    while ((bytes / size) * (bytes / size) > 1 << order) bytes /= 2;
-    const int lanes = bytes / size;
-    int firstBits = order % 2 ? 3 : 4;
-    if (lanes == 16) firstBits = 4;
-    if (lanes == 8 && (order == 6 || order % 4 == 2)) firstBits = 3;
-    return planOf(bytes, 1 << firstBits, order - firstBits, widestPass(bytes, order));
+    constexpr int lanes = kVecBytes / static_cast<int>(sizeof(T));
+    if constexpr (lanes == 16) {
+        if (lanes * lanes > 1 << order) return planOf<T, kVecBytes / 2>(order);
+    }
+    return planOf<T, kVecBytes>(order);
 }
 
 }  // namespace vlq::fft
