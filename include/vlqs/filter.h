@@ -560,6 +560,118 @@ VlqStatus vlqsFIROne32sc_Direct_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, const Vlq32s
 VlqStatus vlqsFIROne32sc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq32sc* taps, Vlq32s tapsLen, Vlq16sc* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 /** @} */
 
+/** @name FIR with integer arithmetic and a change of rate: records
+ *  @{ */
+/**
+ * A multi-rate filter takes U times the sample rate of its input, filters there, and keeps every D-th
+ * result, U = @p upFactor, D = @p downFactor, without a multiplication by the zeros in between or one for
+ * a result that is dropped. Of every D samples come U results:
+ *
+ * `y[n] = sum over i of g[p + i * U] * x[q - i]`, where `downPhase - upPhase + n * D = q * U + p`,
+ * 0 <= p < U.
+ *
+ * So at the high rate samples arrive at the steps `upPhase + k * U`, and results leave at the steps
+ * `downPhase + k * D`.
+ *
+ * **Use.** The calls for filters of the same kind without a change of rate serve these records as well:
+ * vlqsFIR_16s_Sfs, vlqsFIR32s_16s_Sfs, vlqsFIR32sc_16sc_Sfs and their forms in place to filter, with the
+ * same arithmetic; `SetTaps`, `GetTaps`, `SetDlyLine`, `GetDlyLine`; vlqsFIRFree_16s,
+ * vlqsFIRFree32s_16s, vlqsFIRFree32sc_16sc. In a call that filters @c len counts periods: it reads
+ * `len * D` samples and writes `len * U`. In place a vector has as many elements as the greater of the
+ * two, and the call allocates a copy of its input: #vlqStsNoMemory. Single samples (`One`) cannot be
+ * filtered: #vlqStsBadSpec. A factor of 1 is legal, for U and D alike too; such a record is a
+ * multi-rate one all the same.
+ *
+ * **Taps** are brought to 16 bits as without a change of rate, all phases with one factor.
+ *
+ * **Shapes.** @p taps has @p tapsLen elements, g[0] first. The delay line has `(tapsLen + U - 1) / U`
+ * samples, the newest first, here and in the calls that set and read it; where @p dlyLine is null the
+ * filter starts from silence. Both are copied. @p buffer has the size that `GetStateSize` tells and may
+ * begin at any address; the record lies somewhere inside and can be neither copied nor moved.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer other than @p dlyLine,
+ * #vlqStsBadTapCount for @p tapsLen below 1, #vlqStsBadRateFactor for a factor below 1,
+ * #vlqStsBadRatePhase for a phase that is negative or not below its factor, #vlqStsNoMemory, also of
+ * `Init` for a record that would reach 2 GiB; its told size is the greatest of the type.
+ *
+ * **Memory.** `InitAlloc` allocates the record. A record of `Init` may be abandoned.
+ *
+ * **Source.** R. E. Crochiere, L. R. Rabiner, Multirate Digital Signal Processing, chapter 3:
+ * polyphase structures.
+ *
+ * @arg @c tapsLen    number of taps, at least 1
+ * @arg @c upFactor   U, at least 1
+ * @arg @c upPhase    steps before the first sample, below U
+ * @arg @c downFactor D, at least 1
+ * @arg @c downPhase  steps before the first result, below D
+ * @arg @c stateBytes receives the size of a record
+ * @arg @c outState   receives the record's address
+ * @arg @c taps       impulse response, at the high rate
+ * @arg @c tapsFactor exponent of the factor of the taps
+ * @arg @c dlyLine    past samples, or null
+ * @arg @c buffer     memory for the record
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIRMRGetStateSize_16s(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize32s_16s(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize32sc_16sc(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize32s_16s32f(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize32sc_16sc32fc(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRInit_16s(VlqsFIRState_16s** outState, const Vlq16s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit32s_16s(VlqsFIRState32s_16s** outState, const Vlq32s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit32sc_16sc(VlqsFIRState32sc_16sc** outState, const Vlq32sc* taps, Vlq32s tapsLen, Vlq32s tapsFactor, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit32s_16s32f(VlqsFIRState32s_16s32f** outState, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit32sc_16sc32fc(VlqsFIRState32sc_16sc32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInitAlloc_16s(VlqsFIRState_16s** outState, const Vlq16s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc32s_16s(VlqsFIRState32s_16s** outState, const Vlq32s* taps, Vlq32s tapsLen, Vlq32s tapsFactor, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc32sc_16sc(VlqsFIRState32sc_16sc** outState, const Vlq32sc* taps, Vlq32s tapsLen, Vlq32s tapsFactor, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc32s_16s32f(VlqsFIRState32s_16s32f** outState, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc32sc_16sc32fc(VlqsFIRState32sc_16sc32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16sc* dlyLine);
+/** @} */
+
+/** @name FIR with integer arithmetic and a change of rate: without a record
+ *  @{ */
+/**
+ * The same filters with the caller's taps, which stand for themselves: there is no factor, and they are
+ * not reduced. Stored is `saturate(round(y[n] * 2^-scaleFactor))`, with sums of 32 bits that wrap and the
+ * rounding of the filters with a record. @p numIters periods: `numIters * D` samples give `numIters * U`
+ * results.
+ *
+ * **Shapes.** @p taps has @p tapsLen elements, g[0] first. @p dlyLine has `(tapsLen + U - 1) / U`
+ * samples, the newest first, and is moved on by the samples of the call. @p src and @p dst do not
+ * overlap; @p srcDst has as many elements as the longer of the two. Any alignment.
+ *
+ * **Threads.** One.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for null samples, #vlqStsBadSize for @p numIters below 1,
+ * #vlqStsNullPtr for null @p taps, #vlqStsBadTapCount for @p tapsLen below 1, #vlqStsBadRateFactor for a
+ * factor below 1, #vlqStsBadRatePhase for a phase that is negative or not below its factor,
+ * #vlqStsNullPtr for a null @p dlyLine, #vlqStsNoMemory, which changes nothing.
+ *
+ * **Memory.** In place a copy of the input, otherwise none.
+ *
+ * @arg @c src         samples
+ * @arg @c dst         result
+ * @arg @c srcDst      samples and result of the in-place forms
+ * @arg @c numIters    number of periods
+ * @arg @c taps        impulse response, at the high rate
+ * @arg @c tapsLen     number of taps, at least 1
+ * @arg @c upFactor    U, at least 1
+ * @arg @c upPhase     steps before the first sample, below U
+ * @arg @c downFactor  D, at least 1
+ * @arg @c downPhase   steps before the first result, below D
+ * @arg @c dlyLine     past samples
+ * @arg @c scaleFactor negated exponent of the factor of the result
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIRMR_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s numIters, const Vlq16s* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s numIters, const Vlq16s* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR32s_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s numIters, const Vlq32s* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR32s_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s numIters, const Vlq32s* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR32sc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s numIters, const Vlq32sc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16sc* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR32sc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s numIters, const Vlq32sc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16sc* dlyLine, Vlq32s scaleFactor);
+/** @} */
+
 VLQS_END_DECLS
 
 #endif

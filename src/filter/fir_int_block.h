@@ -13,10 +13,6 @@ Finish finishOf(const State& state, Vlq32s scaleFactor) {
     return Finish(Vlq64s{state.tapsFactor} - scaleFactor);
 }
 
-inline void moveWords(const Vlq16s* src, Vlq16s* dst, std::ptrdiff_t words) {
-    std::memmove(dst, src, static_cast<std::size_t>(words) * sizeof(Vlq16s));
-}
-
 // Only the outputs at the seam of two calls are made from the delay store; the others read src
 // where it lies. len counts samples, everything else words.
 template <class ListPart, int Parts>

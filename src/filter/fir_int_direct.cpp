@@ -102,7 +102,8 @@ VlqStatus blockQ15(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq16s* tap
     if (!isIndex(index, tapsLen)) return vlqStsBadDlyIndex;
     auto* record = fir::allocate<vlq::VlqsFIRState32s_16s>(tapsLen);
     if (!record) return vlqStsNoMemory;
-    fir::writeTaps(*record, taps, fir::Keep{});
+    fir::writeList(*record, taps, fir::Keep{});
+    fir::writeRows(*record);
     record->tapsFactor = kQ15;
     fir::writeDelayLine(*record, dlyLine + index);
     const fir::Finish finish = fir::finishOf(*record, scaleFactor);

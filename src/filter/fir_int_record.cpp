@@ -1,11 +1,8 @@
-#include "filter/fir_int_record.h"
+#include "filter/fir_int_taps.h"
 
 namespace fir = vlq::fir::integer;
 
 namespace {
-
-// Float taps get their factor from their size, and the limits of that differ a little.
-constexpr Vlq32s kInitLimit = 33, kSetTapsLimit = 32;
 
 template <class State>
 VlqStatus stateSize(Vlq32s tapsLen, Vlq32s* stateBytes) {
@@ -13,23 +10,6 @@ VlqStatus stateSize(Vlq32s tapsLen, Vlq32s* stateBytes) {
     if (tapsLen < 1) return vlqStsBadTapCount;
     *stateBytes = static_cast<Vlq32s>(fir::recordBytes<State>(tapsLen));
     return vlqStsOk;
-}
-
-// The rule that brings taps to 16 bits, and the factor of the record.
-template <class State, class Rule>
-void takeTaps(State& state, const auto* parts, const Rule& rule, Vlq32s tapsFactor) {
-    fir::writeTaps(state, parts, rule);
-    state.tapsFactor = fir::effectiveFactor(tapsFactor, rule.exponent);
-}
-template <class State>
-void takeIntegerTaps(State& state, const auto* taps, Vlq32s tapsFactor) {
-    const auto* parts = fir::reals(taps);
-    takeTaps(state, parts, fir::fitted(parts, std::ptrdiff_t{state.tapsLen} * State::kParts), tapsFactor);
-}
-template <class State>
-void takeFloatTaps(State& state, const auto* taps, Vlq32s limit) {
-    const auto* parts = fir::reals(taps);
-    takeTaps(state, parts, fir::quantized(parts, std::ptrdiff_t{state.tapsLen} * State::kParts, limit), 0);
 }
 
 template <class State, class Take>
@@ -44,11 +24,11 @@ VlqStatus init(State** outState, const auto* taps, Vlq32s tapsLen, const typenam
 }
 template <class State>
 VlqStatus initInteger(State** outState, const auto* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const typename State::Sample* dlyLine, Vlq8u* buffer) {
-    return init(outState, taps, tapsLen, dlyLine, buffer, [=](State& state, const auto* t) { takeIntegerTaps(state, t, tapsFactor); });
+    return init(outState, taps, tapsLen, dlyLine, buffer, [=](State& state, const auto* t) { fir::takeIntegerTaps(state, t, tapsFactor); });
 }
 template <class State>
 VlqStatus initFloat(State** outState, const auto* taps, Vlq32s tapsLen, const typename State::Sample* dlyLine, Vlq8u* buffer) {
-    return init(outState, taps, tapsLen, dlyLine, buffer, [](State& state, const auto* t) { takeFloatTaps(state, t, kInitLimit); });
+    return init(outState, taps, tapsLen, dlyLine, buffer, [](State& state, const auto* t) { fir::takeFloatTaps(state, t, fir::kInitLimit); });
 }
 
 template <class State, class Take>
@@ -64,11 +44,11 @@ VlqStatus initAlloc(State** outState, const auto* taps, Vlq32s tapsLen, const ty
 }
 template <class State>
 VlqStatus initAllocInteger(State** outState, const auto* taps, Vlq32s tapsLen, Vlq32s tapsFactor, const typename State::Sample* dlyLine) {
-    return initAlloc(outState, taps, tapsLen, dlyLine, [=](State& state, const auto* t) { takeIntegerTaps(state, t, tapsFactor); });
+    return initAlloc(outState, taps, tapsLen, dlyLine, [=](State& state, const auto* t) { fir::takeIntegerTaps(state, t, tapsFactor); });
 }
 template <class State>
 VlqStatus initAllocFloat(State** outState, const auto* taps, Vlq32s tapsLen, const typename State::Sample* dlyLine) {
-    return initAlloc(outState, taps, tapsLen, dlyLine, [](State& state, const auto* t) { takeFloatTaps(state, t, kInitLimit); });
+    return initAlloc(outState, taps, tapsLen, dlyLine, [](State& state, const auto* t) { fir::takeFloatTaps(state, t, fir::kInitLimit); });
 }
 
 template <class State>
@@ -82,15 +62,15 @@ VlqStatus release(State* state) {
 template <class State>
 VlqStatus setIntegerTaps(const auto* taps, State* state, Vlq32s tapsFactor) {
     if (!taps || !state) return vlqStsNullPtr;
-    if (!fir::isSingleRate(*state)) return vlqStsBadSpec;
-    takeIntegerTaps(*state, taps, tapsFactor);
+    if (!fir::isFilter(*state)) return vlqStsBadSpec;
+    fir::takeIntegerTaps(*state, taps, tapsFactor);
     return vlqStsOk;
 }
 template <class State>
 VlqStatus setFloatTaps(const auto* taps, State* state) {
     if (!taps || !state) return vlqStsNullPtr;
-    if (!fir::isSingleRate(*state)) return vlqStsBadSpec;
-    takeFloatTaps(*state, taps, kSetTapsLimit);
+    if (!fir::isFilter(*state)) return vlqStsBadSpec;
+    fir::takeFloatTaps(*state, taps, fir::kSetTapsLimit);
     return vlqStsOk;
 }
 

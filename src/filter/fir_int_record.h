@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstring>
 #include <limits>
 #include <new>
 
@@ -37,6 +38,8 @@ struct PartsOf<2> {
     using Sample = Vlq16sc;
 };
 
+struct RowPair;  // of multi-rate filters
+
 // ListPart is a part of a tap in the list that is read back.
 template <class ListPart, int Parts>
 struct Record {
@@ -46,21 +49,24 @@ struct Record {
 
     Vlq32u idCtx;
     RelPtr<ListPart> taps;   // reversed: taps[i] = h[tapsLen - 1 - i]
-    RelPtr<Vlq16s> dlyLine;  // store; the live window of tapsLen samples starts at dlyIndex, oldest first
+    RelPtr<Vlq16s> dlyLine;  // store; the live window of dlyLen samples starts at dlyIndex, oldest first
     Vlq32s tapsLen;
-    Vlq32s upFactor;  // multi-rate only
+    Vlq32s upFactor;    // multi-rate only
     Vlq32s firstChunk;  // parts of samples that go into the store at the seam of two blocks
     Vlq32s downFactor;  // multi-rate only
-    Vlq32s mrDlyLen;    // multi-rate only
+    Vlq32s tapsStride;  // multi-rate only: outputs of the first chunk
     Vlq32s tapsFactor;
     RelPtr<Vlq16s> tapRows;
     Vlq32s dlyIndex;
-    Vlq32s mrSamples;  // multi-rate only
-    Vlq32s rowLen;     // words
-    Vlq32s mrSteps;    // multi-rate only
-    RelPtr<Vlq16s> blockBuf;  // kBlock samples
+    RelPtr<RowPair> rowPairs;  // multi-rate only
+    Vlq32s rowLen;             // words
+    Vlq32s dlyLen;             // samples in the delay line
+    RelPtr<Vlq16s> blockBuf;   // kBlock samples; multi-rate: the streams
     Vlq32s ownsMemory;
-    Vlq32s spare[4];
+    Vlq32s upPhase;      // multi-rate only, as those that follow
+    Vlq32s downPhase;
+    Vlq32s mrSamples;    // taps of a phase, room for the decimator's steps included
+    Vlq32s streamStride;
 };
 using RealRecord = Record<Vlq32s, 1>;
 static_assert(sizeof(RealRecord) == 80 && offsetof(RealRecord, ownsMemory) == 60);
@@ -105,6 +111,7 @@ constexpr Vlq64s recordBytes(Vlq64s tapsLen) {
 template <Vlq32u word, Vlq32u multiRateWord, Vlq32u... streamWord>
 struct Words {
     static constexpr Vlq32u kWord = word;
+    static constexpr Vlq32u kMultiRateWord = multiRateWord;
     static constexpr bool isFilter(Vlq32u id) { return id == word || id == multiRateWord; }
     // Streaming records are released as plain ones.
     static constexpr bool isFreeable(Vlq32u id) { return isFilter(id) || ((id == streamWord) || ...); }
@@ -116,6 +123,10 @@ struct Kind;
 template <class State>
 inline bool isSingleRate(const State& state) {
     return state.idCtx == Kind<State>::kWord;
+}
+template <class State>
+inline bool isMultiRate(const State& state) {
+    return state.idCtx == Kind<State>::kMultiRateWord;
 }
 // The accessors serve single-rate and multi-rate records alike.
 template <class State>
@@ -192,26 +203,37 @@ TapRows<Parts> rowsOf(const Record<ListPart, Parts>& record) {
     else return {{record.tapRows, record.tapRows + record.rowLen}, 2 * std::ptrdiff_t{record.tapsLen}};
 }
 
+// The list that is read back, from taps in natural order.
 template <class ListPart, int Parts, class T, class Rule>
-void writeTaps(Record<ListPart, Parts>& record, const T* parts, const Rule& rule) {
+void writeList(Record<ListPart, Parts>& record, const T* parts, const Rule& rule) {
     const std::ptrdiff_t len = record.tapsLen;
     ListPart* list = record.taps;
-    Vlq16s* row = record.tapRows;
     for (std::ptrdiff_t i = 0; i < len; ++i) {
         for (int p = 0; p < Parts; ++p) {
             list[i * Parts + p] = static_cast<ListPart>(rule(loadScalar(parts + (len - 1 - i) * Parts + p)));
         }
     }
+}
+
+// A tap of the list as a pair of words in the rows for the real and for the imaginary part.
+template <class ListPart>
+void writeComplexTap(const ListPart* tap, Vlq16s* re, Vlq16s* im) {
+    re[0] = im[1] = saturated(tap[0]);
+    re[1] = saturated(-Vlq64s{tap[1]});
+    im[0] = saturated(tap[1]);
+}
+
+// The rows of a single-rate filter, from the list.
+template <class ListPart, int Parts>
+void writeRows(Record<ListPart, Parts>& record) {
+    const std::ptrdiff_t len = record.tapsLen;
+    const ListPart* list = record.taps;
+    Vlq16s* row = record.tapRows;
     if constexpr (Parts == 1) {
         std::fill(row, row + record.rowLen, Vlq16s{0});
         for (std::ptrdiff_t i = 0; i < len; ++i) row[kZeros + i] = saturated(list[i]);
     } else {
-        Vlq16s* other = row + record.rowLen;
-        for (std::ptrdiff_t i = 0; i < 2 * len; i += 2) {
-            row[i] = other[i + 1] = saturated(list[i]);
-            row[i + 1] = saturated(-Vlq64s{list[i + 1]});
-            other[i] = saturated(list[i + 1]);
-        }
+        for (std::ptrdiff_t i = 0; i < 2 * len; i += 2) writeComplexTap(list + i, row + i, row + record.rowLen + i);
     }
 }
 
@@ -221,10 +243,14 @@ inline Vlq32s effectiveFactor(Vlq32s tapsFactor, Vlq32s exponent) {
     return static_cast<Vlq32s>(std::min<Vlq64s>(Vlq64s{tapsFactor} + exponent, Limits::max()));
 }
 
+inline void moveWords(const Vlq16s* src, Vlq16s* dst, std::ptrdiff_t words) {
+    std::memmove(dst, src, static_cast<std::size_t>(words) * sizeof(Vlq16s));
+}
+
 // dlyLine: newest sample first; null for silence.
 template <class ListPart, int Parts>
 void writeDelayLine(Record<ListPart, Parts>& record, const Vlq16s* dlyLine) {
-    const std::ptrdiff_t len = record.tapsLen;
+    const std::ptrdiff_t len = record.dlyLen;
     Vlq16s* oldest = record.dlyLine;
     record.dlyIndex = 0;
     for (std::ptrdiff_t i = 0; i < len; ++i) {
@@ -235,7 +261,7 @@ void writeDelayLine(Record<ListPart, Parts>& record, const Vlq16s* dlyLine) {
 }
 template <class ListPart, int Parts>
 void readDelayLine(const Record<ListPart, Parts>& record, Vlq16s* dlyLine) {
-    const std::ptrdiff_t len = record.tapsLen;
+    const std::ptrdiff_t len = record.dlyLen;
     const Vlq16s* oldest = record.dlyLine + std::ptrdiff_t{record.dlyIndex} * Parts;
     for (std::ptrdiff_t i = 0; i < len; ++i) {
         std::memcpy(dlyLine + i * Parts, oldest + (len - 1 - i) * Parts, Parts * sizeof(Vlq16s));
@@ -249,7 +275,7 @@ State* layOut(void* memory, Vlq32s tapsLen) {
     const Vlq64s len = tapsLen;
     Cursor cursor(memory, recordBytes<State>(len));
     auto* state = ::new (static_cast<void*>(cursor.take<State>(1, alignment))) State{};
-    state->tapsLen = tapsLen;
+    state->tapsLen = state->dlyLen = tapsLen;
     state->firstChunk = static_cast<Vlq32s>(L::firstChunk(len));
     state->rowLen = static_cast<Vlq32s>(L::rowLen(len));
     state->idCtx = Kind<State>::kWord;

@@ -60,8 +60,7 @@ public:
     std::int64_t factor;
     std::vector<Sample> line;  // newest first
 
-private:
-    static std::uint32_t product(std::int64_t a, std::int64_t b) { return static_cast<std::uint32_t>(a * b); }
+    // One result; x may be longer than h.
     template <class T>
     static Vlq16s sumAll(const std::vector<Vlq16s>& x, const std::vector<T>& h, std::int64_t exponent) {
         std::uint32_t sum = 0;
@@ -76,6 +75,9 @@ private:
         }
         return {finished(static_cast<std::int32_t>(re), exponent), finished(static_cast<std::int32_t>(im), exponent)};
     }
+
+private:
+    static std::uint32_t product(std::int64_t a, std::int64_t b) { return static_cast<std::uint32_t>(a * b); }
 };
 
 // ---- taps as a record holds them ---------------------------------------------------------------------

@@ -49,7 +49,8 @@ public:
         for (const Parameter& p : s.parameters) {
             buffers_.emplace_back(std::make_unique<Buffer<std::uint8_t>>(4096));
             arguments_.pointers.push_back(p.isPointer() ? buffers_.back()->data() : nullptr);
-            arguments_.values.push_back(3);
+            // A phase must be below its factor.
+            arguments_.values.push_back(endsWith(p.name, "Phase") ? 0 : 3);
             if (contains(p.type, "* const") || contains(p.type, "**")) fillRows(*buffers_.back());
         }
     }
@@ -89,7 +90,7 @@ bool isLookedAtAfterLength(const Signature& s, const Parameter& p) {
 
 int lengthIndex(const Signature& s) {
     for (std::size_t i = 0; i < s.parameters.size(); ++i) {
-        if (s.parameters[i].name == "len") return static_cast<int>(i);
+        if (s.parameters[i].name == "len" || s.parameters[i].name == "numIters") return static_cast<int>(i);
     }
     return -1;
 }

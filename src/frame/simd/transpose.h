@@ -48,6 +48,52 @@ inline void transpose(Vec<float, 32> (&m)[8]) {
 }
 #endif
 
+// Each block of 16 bytes by itself: lane 4 b + i of row j becomes lane 4 b + j of row i.
+inline void transposeBlocks(Vec<std::int32_t, 16> (&m)[4]) {
+    const __m128i a = _mm_unpacklo_epi32(asInt(m[0]), asInt(m[1])), b = _mm_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
+    const __m128i c = _mm_unpacklo_epi32(asInt(m[2]), asInt(m[3])), d = _mm_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
+    m[0] = fromRegister<std::int32_t>(_mm_unpacklo_epi64(a, c));
+    m[1] = fromRegister<std::int32_t>(_mm_unpackhi_epi64(a, c));
+    m[2] = fromRegister<std::int32_t>(_mm_unpacklo_epi64(b, d));
+    m[3] = fromRegister<std::int32_t>(_mm_unpackhi_epi64(b, d));
+}
+#if VLQ_SIMD_BYTES >= 32
+inline void transposeBlocks(Vec<std::int32_t, 32> (&m)[4]) {
+    const __m256i a = _mm256_unpacklo_epi32(asInt(m[0]), asInt(m[1])), b = _mm256_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
+    const __m256i c = _mm256_unpacklo_epi32(asInt(m[2]), asInt(m[3])), d = _mm256_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
+    m[0] = fromRegister<std::int32_t>(_mm256_unpacklo_epi64(a, c));
+    m[1] = fromRegister<std::int32_t>(_mm256_unpackhi_epi64(a, c));
+    m[2] = fromRegister<std::int32_t>(_mm256_unpacklo_epi64(b, d));
+    m[3] = fromRegister<std::int32_t>(_mm256_unpackhi_epi64(b, d));
+}
+#endif
+#if VLQ_SIMD_BYTES >= 64
+inline void transposeBlocks(Vec<std::int32_t, 64> (&m)[4]) {
+    const __m512i a = _mm512_unpacklo_epi32(asInt(m[0]), asInt(m[1])), b = _mm512_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
+    const __m512i c = _mm512_unpacklo_epi32(asInt(m[2]), asInt(m[3])), d = _mm512_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
+    m[0] = fromRegister<std::int32_t>(_mm512_unpacklo_epi64(a, c));
+    m[1] = fromRegister<std::int32_t>(_mm512_unpackhi_epi64(a, c));
+    m[2] = fromRegister<std::int32_t>(_mm512_unpacklo_epi64(b, d));
+    m[3] = fromRegister<std::int32_t>(_mm512_unpackhi_epi64(b, d));
+}
+#endif
+
+// The blocks of a vector, `stride` elements apart in memory.
+template <int B, class T>
+inline Vec<T, B> loadBlocks(const T* p, std::ptrdiff_t stride) {
+    if constexpr (B == 16) return load<T, 16>(p);
+    else return joinHalves(loadBlocks<B / 2>(p, stride), loadBlocks<B / 2>(p + B / 32 * stride, stride));
+}
+template <int B, class T>
+inline void storeBlocks(T* p, std::ptrdiff_t stride, Vec<T, B> v) {
+    if constexpr (B == 16) {
+        store(p, v);
+    } else {
+        storeBlocks(p, stride, lowHalf(v));
+        storeBlocks(p + B / 32 * stride, stride, highHalf(v));
+    }
+}
+
 #if VLQ_SIMD_BYTES >= 64
 inline void transpose(Vec<double, 64> (&m)[8]) {
     __m512d t[8], u[8];

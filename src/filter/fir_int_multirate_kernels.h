@@ -1,0 +1,225 @@
+// The kernels of integer multi-rate filters. An output of a period is a plain filter of its own, and
+// so are all outputs in the same place of their periods: the windows of such a row of outputs lie
+// one period's input apart.
+//
+// Samples go two words at a time, as in the single-rate kernels: an element is two neighbouring
+// samples of a real filter or one of a complex one. A cycle is as many periods, one or two, as make
+// its inputs and its outputs whole elements. The input is taken asunder into streams, element c of
+// every cycle into stream c, and then lanes are cycles: each load of a stream meets two taps of two
+// filters, and their sums are one output element of as many cycles as there are lanes.
+#pragma once
+
+#include "filter/fir_int_kernels.h"
+#include "frame/simd/transpose.h"
+
+namespace vlq::fir::integer {
+
+// The taps of one output element: `pairs` pairs of either row. They begin `start` elements into the
+// input of a cycle, counted from `reach` words before it.
+struct RowPair {
+    Vlq32s start;
+    Vlq32s pairs;
+};
+
+struct Cycle {
+    const RowPair* rowPairs;
+    const Vlq16s* rows;  // two for each output element
+    std::ptrdiff_t rowLen;
+    std::ptrdiff_t outputs, inputs;  // elements
+    std::ptrdiff_t reach;            // words, whole cycles
+    Vlq16s* streams;
+    std::ptrdiff_t streamStride;  // elements, more than are reached by a vector at least
+
+    const Vlq16s* row(std::ptrdiff_t element, int which) const { return rows + (2 * element + which) * rowLen; }
+    std::ptrdiff_t reachedCycles() const { return reach / (2 * inputs); }
+};
+
+// ---- few cycles --------------------------------------------------------------------------------------
+
+// The outputs of one period of a real filter, or of a complex one, from its own windows. What lies
+// behind the period is not read; there the taps are zeros.
+template <int Parts>
+inline void onePeriod(const Cycle& cycle, const Vlq16s* x, std::ptrdiff_t inputWords, Vlq16s* dst, std::ptrdiff_t outputWords,
+                      const Finish& finish) {
+    for (std::ptrdiff_t i = 0; i < outputWords; i += 2) {
+        const RowPair& taps = cycle.rowPairs[i / 2];
+        const std::ptrdiff_t start = 2 * std::ptrdiff_t{taps.start} - cycle.reach;
+        const std::ptrdiff_t words = std::min<std::ptrdiff_t>(2 * std::ptrdiff_t{taps.pairs}, inputWords - start);
+        const Vlq16s *first = cycle.row(i / 2, 0), *second = cycle.row(i / 2, 1);
+        if (Parts == 2 || i + 1 < outputWords) {
+            const auto sums = dots<2>(x + start, {first, second}, words);
+            const Vlq16s results[2] = {finish(sums.of[0]), finish(sums.of[1])};
+            std::memcpy(dst + i, results, sizeof results);
+        } else {
+            const Vlq16s result = finish(dots<1>(x + start, {first}, words).of[0]);
+            std::memcpy(dst + i, &result, sizeof result);
+        }
+    }
+}
+
+// ---- streams -----------------------------------------------------------------------------------------
+
+inline void copyElement(const Vlq16s* src, Vlq16s* dst) { std::memcpy(dst, src, 2 * sizeof(Vlq16s)); }
+
+// Takes `count` cycles of `width` elements asunder: element c of cycle q to dst[c * stride + q].
+template <int B>
+inline void takeAsunder(const Vlq16s* src, std::ptrdiff_t width, std::ptrdiff_t count, Vlq16s* dst, std::ptrdiff_t stride) {
+    constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes, block = 4;
+    std::ptrdiff_t q = 0;
+    // A narrow cycle is read on into the next ones.
+    for (; q + lanes <= count && (count - q - lanes + 1) * width >= block; q += lanes) {
+        for (std::ptrdiff_t c = 0;;) {
+            Vec<Vlq32s, B> columns[block];
+            for (int k = 0; k < block; ++k) columns[k] = bitCast<Vlq32s>(loadBlocks<B>(src + 2 * ((q + k) * width + c), 2 * block * width));
+            transposeBlocks(columns);
+            for (int k = 0; k < block; ++k) {
+                if (c + k < width) store(dst + 2 * ((c + k) * stride + q), bitCast<Vlq16s>(columns[k]));
+            }
+            if (c + block >= width) break;
+            c = std::min(c + block, width - block);
+        }
+    }
+    for (; q < count; ++q) {
+        for (std::ptrdiff_t c = 0; c < width; ++c) copyElement(src + 2 * (q * width + c), dst + 2 * (c * stride + q));
+    }
+}
+
+// A vectors of cycles of one output element, from streams; x is the first of them at the cycle
+// `reach` words before the one that is first in the result.
+template <int A, int B>
+inline void streamTile(const RowPair& taps, const Vlq16s* firstRow, const Vlq16s* secondRow, const Vlq16s* x, std::ptrdiff_t inputs,
+                       std::ptrdiff_t stride, Vlq16s* dst, const Finish& finish) {
+    constexpr int lanes = Vec<Vlq16s, B>::lanes;
+    Vec<Vlq32s, B> first[A], second[A];
+#pragma GCC unroll 8
+    for (int a = 0; a < A; ++a) first[a] = second[a] = Vec<Vlq32s, B>::zero();
+    std::ptrdiff_t stream = taps.start % inputs;
+    x += 2 * (taps.start / inputs);
+    for (std::ptrdiff_t left = taps.pairs; left > 0; stream = 0, x += 2) {
+        const std::ptrdiff_t run = std::min(left, inputs - stream);
+        const Vlq16s* samples = x + 2 * stream * stride;
+        left -= run;
+#pragma GCC unroll 1
+        for (std::ptrdiff_t i = 0; i < run; ++i, samples += 2 * stride, firstRow += 2, secondRow += 2) {
+            const auto firstTap = broadcastPair<B>(firstRow), secondTap = broadcastPair<B>(secondRow);
+#pragma GCC unroll 8
+            for (int a = 0; a < A; ++a) {
+                const auto v = load<Vlq16s, B>(samples + a * lanes);
+                first[a] = opaque(first[a] + pairSums(firstTap, v));
+                second[a] = opaque(second[a] + pairSums(secondTap, v));
+            }
+        }
+    }
+#pragma GCC unroll 8
+    for (int a = 0; a < A; ++a) store(dst + a * lanes, interleaveSat(finish(first[a]), finish(second[a])));
+}
+
+// ---- outputs in their order ----------------------------------------------------------------------------
+
+// The results of up to this many output elements wait for each other.
+inline constexpr std::ptrdiff_t kWaiting = 4;
+
+// Puts `count` cycles, whole vectors, of the elements that wait into their places: dst is that of
+// the first element of the first cycle, `width` elements a cycle, column k of it at columns[k].
+template <int B>
+inline void putFour(const Vlq16s* const (&columns)[kWaiting], std::ptrdiff_t count, Vlq16s* dst, std::ptrdiff_t width) {
+    constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
+    for (std::ptrdiff_t q = 0; q < count; q += lanes) {
+        Vec<Vlq32s, B> m[kWaiting];
+        for (int k = 0; k < kWaiting; ++k) m[k] = bitCast<Vlq32s>(load<Vlq16s, B>(columns[k] + 2 * q));
+        transposeBlocks(m);
+        for (int k = 0; k < kWaiting; ++k) storeBlocks(dst + 2 * (q + k) * width, 2 * kWaiting * width, bitCast<Vlq16s>(m[k]));
+    }
+}
+inline void putSingly(const Vlq16s* column, std::ptrdiff_t count, Vlq16s* dst, std::ptrdiff_t width) {
+    for (std::ptrdiff_t q = 0; q < count; ++q) copyElement(column + 2 * q, dst + 2 * q * width);
+}
+
+// ---- many cycles ---------------------------------------------------------------------------------------
+
+// A vectors of cycles, all their outputs. x: of a single stream the input, `reach` words before the
+// first cycle; else the place of that cycle in the first stream.
+template <int A, int B>
+inline void cycleTile(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const Finish& finish) {
+    constexpr std::ptrdiff_t words = A * Vec<Vlq16s, B>::lanes, count = words / 2;
+    const std::ptrdiff_t width = cycle.outputs;
+    alignas(64) Vlq16s waiting[kWaiting][words];
+    for (std::ptrdiff_t e = 0; e < width; ++e) {
+        const RowPair& taps = cycle.rowPairs[e];
+        const Vlq16s *first = cycle.row(e, 0), *second = cycle.row(e, 1);
+        Vlq16s* column = width == 1 ? dst : waiting[e % kWaiting];
+        if (cycle.inputs == 1) {
+            tile<A, B>({first, second, 2 * std::ptrdiff_t{taps.pairs}}, x + 2 * std::ptrdiff_t{taps.start}, column, finish);
+        } else {
+            streamTile<A, B>(taps, first, second, x, cycle.inputs, cycle.streamStride, column, finish);
+        }
+        if (width == 1) return;
+        if (width < kWaiting) {
+            putSingly(column, count, dst + 2 * e, width);
+        } else if (e % kWaiting == kWaiting - 1 || e == width - 1) {
+            // The last ones of a cycle go again with those before them.
+            const Vlq16s* columns[kWaiting];
+            for (int k = 0; k < kWaiting; ++k) columns[k] = waiting[(e + 1 + k) % kWaiting];
+            putFour<B>(columns, count, dst + 2 * (e + 1 - kWaiting), width);
+        }
+    }
+}
+
+template <int B, int... Less>
+inline void cycleTileOf(int vectors, const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const Finish& finish,
+                        std::integer_sequence<int, Less...>) {
+    ((vectors == Less + 1 ? cycleTile<Less + 1, B>(cycle, x, dst, finish) : void()), ...);
+}
+
+// `count` cycles, at least one vector of them. What remains after whole tiles ends flush with the
+// last cycle: it may make some a second time.
+template <int A, int B>
+inline void cycleTiles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const Finish& finish) {
+    constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
+    for (std::ptrdiff_t done = 0; done < count;) {
+        int vectors = static_cast<int>(std::min<std::ptrdiff_t>(A, (count - done + lanes - 1) / lanes));
+        if (done + vectors * lanes > count) {
+            if (vectors * lanes <= count) done = count - vectors * lanes;
+            else --vectors;
+        }
+        cycleTileOf<B>(vectors, cycle, x + 2 * done, dst + 2 * done * cycle.outputs, finish, std::make_integer_sequence<int, A>());
+        done += vectors * lanes;
+    }
+}
+
+// The same, x being the input of the first cycle, `reach` words behind what may be read.
+template <int A, int B>
+inline void cycles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const Finish& finish) {
+    constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
+    x -= cycle.reach;
+    if (cycle.inputs == 1) return cycleTiles<A, B>(cycle, x, dst, count, finish);
+    const std::ptrdiff_t reached = cycle.reachedCycles();
+    const std::ptrdiff_t most = (cycle.streamStride - reached) / lanes * lanes;
+    for (std::ptrdiff_t done = 0; done < count;) {
+        const std::ptrdiff_t piece = std::min(most, count - done);
+        if (piece < lanes) done = count - lanes;
+        const std::ptrdiff_t made = std::max(piece, lanes);
+        takeAsunder<B>(x + 2 * done * cycle.inputs, cycle.inputs, made + reached, cycle.streams, cycle.streamStride);
+        cycleTiles<A, B>(cycle, cycle.streams, dst + 2 * done * cycle.outputs, made, finish);
+        done += made;
+    }
+}
+
+// `count` periods, each of inputWords and outputWords, that begin at x.
+template <int Parts>
+inline void filterPeriods(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, std::ptrdiff_t inputWords,
+                          std::ptrdiff_t outputWords, const Finish& finish) {
+    const std::ptrdiff_t periodsOfCycle = 2 * cycle.inputs / inputWords;
+    const std::ptrdiff_t whole = count / periodsOfCycle;
+    std::ptrdiff_t done = 0;
+    if (whole >= Vec<Vlq32s>::lanes) {
+        cycles<kTileVectors, kVecBytes>(cycle, x, dst, whole, finish);
+        done = whole * periodsOfCycle;
+    } else if (whole >= Vec<Vlq32s, 16>::lanes) {
+        cycles<3, 16>(cycle, x, dst, whole, finish);
+        done = whole * periodsOfCycle;
+    }
+    for (; done < count; ++done) onePeriod<Parts>(cycle, x + done * inputWords, inputWords, dst + done * outputWords, outputWords, finish);
+}
+
+}  // namespace vlq::fir::integer
