@@ -3,7 +3,10 @@
 #include <cstring>
 
 #include "fourier/kernel/filter.h"
+#include "fourier/kernel/regimes.h"
+#include "fourier/plan/complex_plan.h"
 #include "fourier/plan/floating_specs.h"
+#include "fourier/plan/passes.h"
 #include "vlqs/arith.h"
 
 namespace {
@@ -35,6 +38,12 @@ bool isOnePass(int order) {
     return order >= RealLimits<T>::complexTables && order < RealLimits<T>::twoLevel;
 }
 
+// Whether the complex transform of an order may leave its values in blocks of the build's vectors.
+template <class T>
+bool isInBlocks(int order) {
+    return order > ComplexLimits<T>::straightLine && order <= ComplexLimits<T>::inCache && passPlan<T>(order).bytes == kVecBytes;
+}
+
 template <class T, class Spec>
 VlqStatus makeReal(T* response, T* filter, const Spec* spec, Vlq8u* buf) {
     const VlqStatus status = forwardPerm(response, response, spec, buf);
@@ -57,9 +66,18 @@ VlqStatus applyReal(const T* src, T* dst, const T* filter, const Spec* spec, Vlq
     }
     const WorkBuffer work(buf, spec->workBytes);
     if (work.refused()) return vlqStsNoMemory;
-    complexTransform<T, Direction::forward>(order - 1, *spec, src, dst, work.data(), false);
-    filterPass(order, *spec, filter, dst);
-    complexTransform<T, Direction::inverse>(order - 1, *spec, dst, dst, work.data(), false);
+    T* const buffer = reinterpret_cast<T*>(work.data());
+    const T* const angles = spec->realTwiddleInv;
+    if (isInBlocks<T>(order - 1)) {
+        const Blocks<T> between{buffer}, values{dst};
+        inCacheTransform<T>(order - 1, *spec, ForwardIn<T>{src}, between, values, values, false);
+        filterBlocks(order, angles, filter, dst);
+        inCacheTransform<T>(order - 1, *spec, Blocks<T, true>{dst}, between, values, InverseOut<T>{dst}, false);
+    } else {
+        complexTransform<T, Direction::forward>(order - 1, *spec, src, dst, buffer, false);
+        filterInterleaved(order, angles, filter, dst);
+        complexTransform<T, Direction::inverse>(order - 1, *spec, dst, dst, buffer, false);
+    }
     return vlqStsOk;
 }
 

@@ -6,8 +6,8 @@
 
 namespace vlq::fft {
 
-// filter = the response in the form that applyFilter wants. Both have N elements; the response is
-// written over. The inverse of spec divides by N.
+// filter = the response in the form that applyFilter wants. Both have N elements; the filter lies on
+// a 64-byte boundary, the response is written over. The inverse of spec divides by N.
 VlqStatus makeFilter(Vlq32f* response, Vlq32f* filter, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
 VlqStatus makeFilter(Vlq64f* response, Vlq64f* filter, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
 VlqStatus makeFilter(Vlq32fc* response, Vlq32fc* filter, const VlqsFFTSpec_C_32fc* spec, Vlq8u* buf);

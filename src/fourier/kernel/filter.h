@@ -14,7 +14,7 @@
 namespace vlq::fft {
 
 // Below, every block of factors is a vector each of Re s, Im s, Re d, Im d of consecutive k, from
-// k = 1 to H/2. Value H/2 has a real s and an imaginary d; the other parts of its lane, the last
+// k = 1 to H/2 in the lane order of loadSplit. Value H/2 has a real s and an imaginary d; the other parts of its lane, the last
 // one, hold the factors of value 0, both real.
 template <class T>
 inline void filterFactors(int order, T scale, const T* perm, T* factors) {
@@ -36,41 +36,93 @@ inline void filterFactors(int order, T scale, const T* perm, T* factors) {
     factors[2 * half - 1 - lanes] = scale * (perm[0] - perm[1]);
 }
 
-// z: H interleaved values of Z, in place.
+// The factors of one block.
 template <class T>
-inline void filterPass(int order, const FloatingRecord<T>& record, const T* factors, T* z) {
+struct FilterFactors {
+    Split<T, kVecBytes> s, d;
+    explicit FilterFactors(const T* f)
+        : s{loadAligned<T>(f), loadAligned<T>(f + Vec<T>::lanes)},
+          d{loadAligned<T>(f + 2 * Vec<T>::lanes), loadAligned<T>(f + 3 * Vec<T>::lanes)} {}
+};
+
+// a holds values k and becomes their result, b holds values H-k, lane by lane. angles: cos t, -sin t.
+template <class T>
+[[gnu::always_inline]] inline void filterStep(Split<T, kVecBytes>& a, Split<T, kVecBytes>& b, FilterFactors<T> f, const T* angles) {
     using V = Vec<T>;
     using S = Split<T, kVecBytes>;
-    constexpr int lanes = V::lanes;
+    const V cosine = loadAligned<T>(angles), sine = loadAligned<T>(angles + V::lanes);
+    const S p{mulAdd(sine, f.d.re, f.s.re), mulAdd(sine, f.d.im, f.s.im)};
+    const S q{mulSubFrom(sine, f.d.re, f.s.re), mulSubFrom(sine, f.d.im, f.s.im)};
+    const S g{cosine * f.d.re, cosine * f.d.im};
+    // p a + i g conj b, and of q conj b - i g a the conjugate
+    const S front{mulSubFrom(g.im, b.re, mulAdd(g.re, b.im, mulSubFrom(p.im, a.im, p.re * a.re))),
+                  mulAdd(g.im, b.im, mulAdd(g.re, b.re, mulAdd(p.im, a.re, p.re * a.im)))};
+    b = {mulAdd(g.im, a.re, mulAdd(g.re, a.im, mulAdd(q.im, b.im, q.re * b.re))),
+         mulSubFrom(g.im, a.im, mulAdd(g.re, a.re, mulSubFrom(q.im, b.re, q.re * b.im)))};
+    a = front;
+}
+
+// Values 0 and H/2, which have no partner: their parts as read before the pass.
+template <class T>
+struct LoneValues {
+    T startRe, startIm, middleRe, middleIm;
+    LoneValues(const T* re, const T* im, std::ptrdiff_t middle)
+        : startRe(re[0]), startIm(im[0]), middleRe(re[middle]), middleIm(im[middle]) {}
+    void put(const T* factors, std::ptrdiff_t half, T* re, T* im, std::ptrdiff_t middle) const {
+        constexpr int lanes = Vec<T>::lanes;
+        const T* last = factors + 2 * half - 4 * lanes + lanes - 1;
+        const T s0 = last[lanes], d0 = last[2 * lanes], s = last[0], d = last[3 * lanes];
+        re[0] = s0 * startRe + d0 * startIm;
+        im[0] = s0 * startIm + d0 * startRe;
+        re[middle] = s * middleRe + d * middleIm;
+        im[middle] = s * middleIm - d * middleRe;
+    }
+};
+
+// z: H values of Z, in place, interleaved.
+template <class T>
+inline void filterInterleaved(int order, const T* angles, const T* factors, T* z) {
+    constexpr int lanes = Vec<T>::lanes;
     const std::ptrdiff_t half = std::ptrdiff_t{1} << (order - 1);
-    const T* angles = record.realTwiddleInv;  // cos t and -sin t
-    const T* last = factors + 2 * half - 1 - 3 * lanes;
-    T first[2], middle[2];
-    std::memcpy(first, z, sizeof first);
-    std::memcpy(middle, z + half, sizeof middle);
+    const LoneValues<T> lone(z, z + 1, half);
     T* front = z + 2;
     T* back = z + 2 * (half - lanes);
     for (const T* f = factors; front < z + half; front += 2 * lanes, back -= 2 * lanes, f += 4 * lanes, angles += 2 * lanes) {
-        const S a = loadSplit<T>(front), b = loadSplitBackward<T>(back);
-        const V c = load<T>(angles), n = load<T>(angles + lanes);
-        const S s{load<T>(f), load<T>(f + lanes)}, d{load<T>(f + 2 * lanes), load<T>(f + 3 * lanes)};
-        const S p{mulAdd(n, d.re, s.re), mulAdd(n, d.im, s.im)};
-        const S q{mulSubFrom(n, d.re, s.re), mulSubFrom(n, d.im, s.im)};
-        const S g{c * d.re, c * d.im};
-        // a p + i g conj b, and the conjugate of q conj b - i g a
-        const S front2{mulSubFrom(g.im, b.re, mulAdd(g.re, b.im, mulSubFrom(p.im, a.im, p.re * a.re))),
-                       mulAdd(g.im, b.im, mulAdd(g.re, b.re, mulAdd(p.im, a.re, p.re * a.im)))};
-        const S back2{mulAdd(g.im, a.re, mulAdd(g.re, a.im, mulAdd(q.im, b.im, q.re * b.re))),
-                      mulSubFrom(g.im, a.im, mulAdd(g.re, a.re, mulSubFrom(q.im, b.re, q.re * b.im)))};
-        storeSplit(front, front2);
-        storeSplitBackward(back, back2);
+        auto a = loadSplit<T>(front), b = loadSplitBackward<T>(back);
+        filterStep(a, b, FilterFactors<T>(f), angles);
+        storeSplit(front, a);
+        storeSplitBackward(back, b);
     }
-    const T s0 = last[lanes], d0 = last[2 * lanes];
-    const T start[2] = {s0 * first[0] + d0 * first[1], s0 * first[1] + d0 * first[0]};
-    const T sm = last[0], dm = last[3 * lanes];  // s - d = sm - i dm
-    const T centre[2] = {sm * middle[0] + dm * middle[1], sm * middle[1] - dm * middle[0]};
-    std::memcpy(z, start, sizeof start);
-    std::memcpy(z + half, centre, sizeof centre);
+    lone.put(factors, half, z, z + 1, half);
+}
+
+// The same with the values in Blocks. Blocks of the lower half begin a value too early for their
+// partners, so each gives all but its first value to a run, and the next one its first.
+template <class T>
+inline void filterBlocks(int order, const T* angles, const T* factors, T* z) {
+    using S = Split<T, kVecBytes>;
+    constexpr int lanes = Vec<T>::lanes;
+    const std::ptrdiff_t half = std::ptrdiff_t{1} << (order - 1);
+    const LoneValues<T> lone(z, z + lanes, half);
+    auto read = [](const T* p) { return S{load<T>(p), load<T>(p + lanes)}; };
+    auto write = [](T* p, S v) {
+        store(p, v.re);
+        store(p + lanes, v.im);
+    };
+    T* back = z + 2 * (half - lanes);
+    S block = read(z), before = block;
+    for (T* front = z; front < z + half; front += 2 * lanes, back -= 2 * lanes, factors += 4 * lanes, angles += 2 * lanes) {
+        const S next = read(front + 2 * lanes), last = read(back);
+        S a{laterRun(block.re, next.re), laterRun(block.im, next.im)};
+        S b{reverseRun(last.re), reverseRun(last.im)};
+        filterStep(a, b, FilterFactors<T>(factors), angles);
+        a = {lastToFront(a.re), lastToFront(a.im)};
+        write(front, {withFirst(a.re, before.re), withFirst(a.im, before.im)});
+        write(back, {reverseRun(b.re), reverseRun(b.im)});
+        before = a;
+        block = next;
+    }
+    lone.put(factors - 2 * half, half, z, z + lanes, half);
 }
 
 }  // namespace vlq::fft

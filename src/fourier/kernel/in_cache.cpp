@@ -62,11 +62,19 @@ template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, ForwardIn<Vlq
                                ForwardOut<Vlq32f>, bool);
 template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, InverseIn<Vlq32f>, Blocks<Vlq32f>, Blocks<Vlq32f>,
                                InverseOut<Vlq32f>, bool);
+template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, ForwardIn<Vlq32f>, Blocks<Vlq32f>, Blocks<Vlq32f>,
+                               Blocks<Vlq32f>, bool);
+template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, Blocks<Vlq32f, true>, Blocks<Vlq32f>, Blocks<Vlq32f>,
+                               InverseOut<Vlq32f>, bool);
 template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, Parts<const Vlq32f>, Planes<Vlq32f>, Planes<Vlq32f>,
                                Parts<Vlq32f>, bool);
 template void inCacheTransform(int, const FloatingRecord<Vlq64f>&, ForwardIn<Vlq64f>, Blocks<Vlq64f>, Blocks<Vlq64f>,
                                ForwardOut<Vlq64f>, bool);
 template void inCacheTransform(int, const FloatingRecord<Vlq64f>&, InverseIn<Vlq64f>, Blocks<Vlq64f>, Blocks<Vlq64f>,
+                               InverseOut<Vlq64f>, bool);
+template void inCacheTransform(int, const FloatingRecord<Vlq64f>&, ForwardIn<Vlq64f>, Blocks<Vlq64f>, Blocks<Vlq64f>,
+                               Blocks<Vlq64f>, bool);
+template void inCacheTransform(int, const FloatingRecord<Vlq64f>&, Blocks<Vlq64f, true>, Blocks<Vlq64f>, Blocks<Vlq64f>,
                                InverseOut<Vlq64f>, bool);
 template void inCacheTransform(int, const FloatingRecord<Vlq64f>&, Parts<const Vlq64f>, Planes<Vlq64f>, Planes<Vlq64f>,
                                Parts<Vlq64f>, bool);

@@ -49,19 +49,21 @@ struct Interleaved {
     }
 };
 
-// Between passes: a vector of real parts, then one of imaginary parts. Opaque: each is loaded once,
-// where the compiler would load it again for each use and run out of loads a cycle.
-template <class T>
+// Between passes: a vector of real parts, then one of imaginary parts. `exchanged` as above, where a
+// transform's first pass reads what another has left like this. Opaque: each is loaded once, where
+// the compiler would load it again for each use and run out of loads a cycle.
+template <class T, bool exchanged = false>
 struct Blocks {
     T* p;
     template <int B>
     [[gnu::always_inline]] Split<T, B> get(std::ptrdiff_t i) const {
-        return {opaque(load<T, B>(p + 2 * i)), opaque(load<T, B>(p + 2 * i + Vec<T, B>::lanes))};
+        const Split<T, B> v{opaque(load<T, B>(p + 2 * i)), opaque(load<T, B>(p + 2 * i + Vec<T, B>::lanes))};
+        return exchanged ? Split<T, B>{v.im, v.re} : v;
     }
     template <int B>
     [[gnu::always_inline]] void put(std::ptrdiff_t i, Split<T, B> v) const {
-        store(p + 2 * i, v.re);
-        store(p + 2 * i + Vec<T, B>::lanes, v.im);
+        store(p + 2 * i, exchanged ? v.im : v.re);
+        store(p + 2 * i + Vec<T, B>::lanes, exchanged ? v.re : v.im);
     }
 };
 

@@ -166,6 +166,82 @@ inline Vec<double, 16> withFirst(Vec<double, 16> v, Vec<double, 16> other) {
     return Vec<double, 16>(_mm_move_sd(v.raw, other.raw));
 }
 
+// Of two neighbouring runs, both as loadSplit has them, the run that begins one value later.
+inline Vec<float, 16> laterRun(Vec<float, 16> v, Vec<float, 16> next) {
+    const __m128 mixed = withFirst(v, next).raw;
+    return Vec<float, 16>(_mm_shuffle_ps(mixed, mixed, _MM_SHUFFLE(0, 3, 2, 1)));
+}
+inline Vec<double, 16> laterRun(Vec<double, 16> v, Vec<double, 16> next) {
+    return Vec<double, 16>(_mm_shuffle_pd(v.raw, next.raw, 1));
+}
+// A run's values, its last one first and the others behind it: with the first value of another
+// such vector (withFirst) the run that begins one value earlier.
+inline Vec<float, 16> lastToFront(Vec<float, 16> v) {
+    return Vec<float, 16>(_mm_shuffle_ps(v.raw, v.raw, _MM_SHUFFLE(2, 1, 0, 3)));
+}
+inline Vec<double, 16> lastToFront(Vec<double, 16> v) { return Vec<double, 16>(_mm_shuffle_pd(v.raw, v.raw, 1)); }
+// The run from its last value to its first.
+inline Vec<float, 16> reverseRun(Vec<float, 16> v) {
+    return Vec<float, 16>(_mm_shuffle_ps(v.raw, v.raw, _MM_SHUFFLE(0, 1, 2, 3)));
+}
+inline Vec<double, 16> reverseRun(Vec<double, 16> v) { return lastToFront(v); }
+#if VLQ_SIMD_BYTES >= 32
+inline Vec<float, 32> withFirst(Vec<float, 32> v, Vec<float, 32> other) {
+    return Vec<float, 32>(_mm256_blend_ps(v.raw, other.raw, 1));
+}
+inline Vec<double, 32> withFirst(Vec<double, 32> v, Vec<double, 32> other) {
+    return Vec<double, 32>(_mm256_blend_pd(v.raw, other.raw, 1));
+}
+inline Vec<float, 32> laterRun(Vec<float, 32> v, Vec<float, 32> next) {
+    return Vec<float, 32>(_mm256_permutevar8x32_ps(withFirst(v, next).raw, _mm256_setr_epi32(1, 4, 3, 6, 5, 2, 7, 0)));
+}
+inline Vec<double, 32> laterRun(Vec<double, 32> v, Vec<double, 32> next) {
+    return Vec<double, 32>(_mm256_permute4x64_pd(withFirst(v, next).raw, _MM_SHUFFLE(0, 1, 3, 2)));
+}
+inline Vec<float, 32> lastToFront(Vec<float, 32> v) {
+    return Vec<float, 32>(_mm256_permutevar8x32_ps(v.raw, _mm256_setr_epi32(7, 0, 5, 2, 1, 4, 3, 6)));
+}
+inline Vec<double, 32> lastToFront(Vec<double, 32> v) {
+    return Vec<double, 32>(_mm256_permute4x64_pd(v.raw, _MM_SHUFFLE(1, 0, 2, 3)));
+}
+inline Vec<float, 32> reverseRun(Vec<float, 32> v) {
+    return Vec<float, 32>(_mm256_permutevar8x32_ps(v.raw, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0)));
+}
+inline Vec<double, 32> reverseRun(Vec<double, 32> v) {
+    return Vec<double, 32>(_mm256_permute4x64_pd(v.raw, _MM_SHUFFLE(0, 1, 2, 3)));
+}
+#endif
+#if VLQ_SIMD_BYTES >= 64
+inline Vec<float, 64> withFirst(Vec<float, 64> v, Vec<float, 64> other) {
+    return Vec<float, 64>(_mm512_mask_mov_ps(v.raw, 1, other.raw));
+}
+inline Vec<double, 64> withFirst(Vec<double, 64> v, Vec<double, 64> other) {
+    return Vec<double, 64>(_mm512_mask_mov_pd(v.raw, 1, other.raw));
+}
+inline Vec<float, 64> laterRun(Vec<float, 64> v, Vec<float, 64> next) {
+    const __m512i from = _mm512_setr_epi32(1, 4, 3, 6, 5, 8, 7, 10, 9, 12, 11, 14, 13, 2, 15, 16);
+    return Vec<float, 64>(_mm512_permutex2var_ps(v.raw, from, next.raw));
+}
+inline Vec<double, 64> laterRun(Vec<double, 64> v, Vec<double, 64> next) {
+    const __m512i from = _mm512_setr_epi64(2, 3, 4, 5, 6, 7, 1, 8);
+    return Vec<double, 64>(_mm512_permutex2var_pd(v.raw, from, next.raw));
+}
+inline Vec<float, 64> lastToFront(Vec<float, 64> v) {
+    const __m512i from = _mm512_setr_epi32(15, 0, 13, 2, 1, 4, 3, 6, 5, 8, 7, 10, 9, 12, 11, 14);
+    return Vec<float, 64>(_mm512_permutexvar_ps(from, v.raw));
+}
+inline Vec<double, 64> lastToFront(Vec<double, 64> v) {
+    return Vec<double, 64>(_mm512_permutexvar_pd(_mm512_setr_epi64(7, 6, 0, 1, 2, 3, 4, 5), v.raw));
+}
+inline Vec<float, 64> reverseRun(Vec<float, 64> v) {
+    const __m512i from = _mm512_setr_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
+    return Vec<float, 64>(_mm512_permutexvar_ps(from, v.raw));
+}
+inline Vec<double, 64> reverseRun(Vec<double, 64> v) {
+    return Vec<double, 64>(_mm512_permutexvar_pd(_mm512_setr_epi64(7, 6, 5, 4, 3, 2, 1, 0), v.raw));
+}
+#endif
+
 // The run from its last value to its first: lanes meet those of a forward run mirrored.
 template <class T, int B = kVecBytes>
 inline Split<T, B> loadSplitBackward(const T* p) {
