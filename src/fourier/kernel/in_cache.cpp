@@ -58,6 +58,26 @@ void inCacheTransform(int order, const FloatingRecord<T>& record, In src, Middle
     runPasses<T, kVecBytes == 16 ? 16 : 32>(plan, order, table, src, work, middle, dst, record.normFactor, scaled);
 }
 
+template <class T, class Middle>
+void rowTransform(int order, const T* table, Middle row, Middle work) {
+    const PassPlan plan = rowPlan(order);
+    const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
+    std::ptrdiff_t span = plan.first;
+    Middle from = row, to = work;
+    for (int i = 0; i < plan.count; ++i) {
+        const int radix = plan.radix[i];
+        later<T, kVecBytes, false>(radix, from, i + 1 < plan.count ? to : row, n, span, table, T(1));
+        table += 2 * (radix - 1) * span;
+        span *= radix;
+        std::swap(from, to);
+    }
+}
+
+template void rowTransform(int, const Vlq32f*, Blocks<Vlq32f>, Blocks<Vlq32f>);
+template void rowTransform(int, const Vlq32f*, Planes<Vlq32f>, Planes<Vlq32f>);
+template void rowTransform(int, const Vlq64f*, Blocks<Vlq64f>, Blocks<Vlq64f>);
+template void rowTransform(int, const Vlq64f*, Planes<Vlq64f>, Planes<Vlq64f>);
+
 template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, ForwardIn<Vlq32f>, Blocks<Vlq32f>, Blocks<Vlq32f>,
                                ForwardOut<Vlq32f>, bool);
 template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, InverseIn<Vlq32f>, Blocks<Vlq32f>, Blocks<Vlq32f>,

@@ -1,13 +1,28 @@
 #include "fourier/kernel/large.h"
 
 #include "fourier/kernel/regimes.h"
+#include "fourier/kernel/sixteen_rows.h"
 
 namespace vlq::fft {
+namespace {
+
+// The work buffer in the form of the data.
+template <class T>
+Blocks<T> workView(Blocks<T>, T* work, std::ptrdiff_t) { return {work}; }
+template <class T>
+Planes<T> workView(Planes<T>, T* work, std::ptrdiff_t length) { return {work, work + length}; }
+
+}  // namespace
 
 template <class T, class In, class Middle, class Out>
 void largeTransform(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work, bool inPlace,
                     bool scaled) {
-    runPhases<T>(order, record, src, middle, dst, work, inPlace, scaled);
+    if (order > kLastSixteenRows<T>) return runPhases<T>(order, record, src, middle, dst, work, inPlace, scaled);
+    const std::ptrdiff_t length = std::ptrdiff_t{1} << (order - 4);
+    splitRows<T, kVecBytes>(src, middle, length, work, scaled ? record.normFactor : T(1));
+    const Middle other = workView(middle, work, length);
+    for (int row = 0; row < 16; ++row) rowTransform<T>(order - 4, record.twiddleTable.get(), middle.from(row * length), other);
+    joinRows<T, kVecBytes>(middle, dst, length, record.outerTwiddle[0].get(), work);
 }
 
 template void largeTransform(int, const FloatingRecord<Vlq32f>&, ForwardIn<Vlq32f>, Blocks<Vlq32f>, ForwardOut<Vlq32f>,

@@ -1,4 +1,4 @@
-// Transforms beyond the first caches, in two or three phases of column transforms (see
+// Transforms far beyond the first caches, in three phases of column transforms (see
 // plan/large.h). A column transform runs over the rows of a tile with the columns in the lanes:
 // its factors are the same in all lanes.
 #pragma once
@@ -213,22 +213,10 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
     }
 }
 
-// Distance of a row from the first: rows count along r, from `size` on along M as well.
-struct RowPlace {
-    int rBits;       // of the rows along r
-    int rDistance;   // base-2 logarithm of the distance of two of them
-    int mDistance;   // of two along M
-    std::ptrdiff_t operator()(std::ptrdiff_t row) const {
-        const std::ptrdiff_t m = row >> rBits;
-        return ((row - (m << rBits)) << rDistance) + (m << mDistance);
-    }
-};
-
-// Combines 2^rowBits rows of 2^columnBits columns from `base` on; output row q lies at
-// q << columnBits.
+// Combines 2^rowBits rows of 2^columnBits columns from `base` on.
 template <class T, int B, class In, class Out>
 void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, In in, Out out, std::ptrdiff_t base,
-                T* work, RowPlace rowPlace) {
+                T* work) {
     using S = Split<T, B>;
     constexpr int lanes = Vec<T, B>::lanes, columns = kTileColumns<T>;
     const PhaseTwiddles<T, B> twiddles(table, rowBits);
@@ -236,7 +224,7 @@ void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, I
     const T* scalars = twiddles.tiles;
     for (std::ptrdiff_t k = 0; k < std::ptrdiff_t{1} << columnBits; k += columns, scalars += 2 << rowBits) {
         transform.begin([&](std::ptrdiff_t row, int c) __attribute__((always_inline)) {
-            return in.template get<B>(base + rowPlace(row) + k + c * lanes) * twiddles.of(row, c, scalars);
+            return in.template get<B>(base + (row << columnBits) + k + c * lanes) * twiddles.of(row, c, scalars);
         });
         transform.end([&](std::ptrdiff_t row, int c, S v) __attribute__((always_inline)) {
             out.template put<B>(base + (row << columnBits) + k + c * lanes, v);
@@ -249,23 +237,16 @@ template <class T, class In, class Middle, class Out>
 void runPhases(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work, bool inPlace,
                bool scaled) {
     constexpr int B = kVecBytes;
-    const LargePlan plan = largePlan<T>(order);
+    const LargePlan plan = largePlan(order);
     const int inner = order - plan.outer;
     const T* factors = record.twiddleTable;
-    const T* laterFactors = factors + 2 * columnTwiddles(plan.outer);
+    const T* middleFactors = factors + 2 * columnTwiddles(plan.outer);
     firstPhase<T, B>(plan, order, factors, src, middle, work, inPlace, scaled ? record.normFactor : T(1));
-    if (plan.twoPhases) {
-        laterPhase<T, B>(inner, plan.outer, laterFactors, record.outerTwiddle[0].get(), middle, dst, 0, work,
-                         {plan.outer, inner, plan.outer});
-        return;
-    }
     const T* middleTable = record.outerTwiddle[1];
     for (std::ptrdiff_t row = 0; row < std::ptrdiff_t{1} << plan.outer; ++row) {
-        laterPhase<T, B>(plan.middle, plan.outer, laterFactors, middleTable, middle, middle, row << inner, work,
-                         {plan.middle, plan.outer, 0});
+        laterPhase<T, B>(plan.middle, plan.outer, middleFactors, middleTable, middle, middle, row << inner, work);
     }
-    laterPhase<T, B>(plan.outer, inner, factors, record.outerTwiddle[0].get(), middle, dst, 0, work,
-                     {plan.outer, inner, 0});
+    laterPhase<T, B>(plan.outer, inner, factors, record.outerTwiddle[0].get(), middle, dst, 0, work);
 }
 
 }  // namespace vlq::fft

@@ -19,11 +19,35 @@ template <class V>
     return {V::broadcast(static_cast<T>(re)), V::broadcast(static_cast<T>(im))};
 }
 
-// Sixteen values as four by four; get(p) gives input p, put(q, value) takes output q. eighth is
-// the factor of the eight-point transform in it.
+// Between the two stages of a 16-point transform: values 1 to 3 of the q-th second butterfly times
+// exp(-2 pi i q m / 16), m their number. eighth is the factor of the eight-point transform in it.
+template <int q, class T, int B>
+[[gnu::always_inline]] inline void turnSixteenths(Split<T, B>& b, Split<T, B>& c, Split<T, B>& d, T eighth) {
+    using V = Vec<T, B>;
+    using S = Split<T, B>;
+    auto turn1 = [](S v, V h) __attribute__((always_inline)) { return S{(v.re + v.im) * h, (v.im - v.re) * h}; };
+    auto turn3 = [](S v, V h) __attribute__((always_inline)) {
+        return S{(v.im - v.re) * h, (v.re + v.im) * (V::zero() - h)};
+    };
+    const S w3 = constantTwiddle<V>(kSine16, -kCosine16);
+    if constexpr (q == 1) {
+        b = b * constantTwiddle<V>(kCosine16, -kSine16);
+        c = turn1(c, V::broadcast(eighth));
+        d = d * w3;
+    } else if constexpr (q == 2) {
+        b = turn1(b, V::broadcast(kRootHalf<T>));
+        c = S{c.im, V::zero() - c.re};
+        d = turn3(d, V::broadcast(kRootHalf<T>));
+    } else if constexpr (q == 3) {
+        b = b * w3;
+        c = turn3(c, V::broadcast(eighth));
+        d = d * constantTwiddle<V>(-kCosine16, kSine16);
+    }
+}
+
+// Sixteen values as four by four; get(p) gives input p, put(q, value) takes output q.
 template <class T, int B, class Get, class Put>
 [[gnu::always_inline]] inline void dft16(T eighth, Get&& get, Put&& put) {
-    using V = Vec<T, B>;
     using S = Split<T, B>;
     S t[16];
     unroll<4>([&](auto m) __attribute__((always_inline)) {
@@ -34,28 +58,9 @@ template <class T, int B, class Get, class Put>
         t[m + 8] = c;
         t[m + 12] = d;
     });
-    const V half = V::broadcast(kRootHalf<T>), first = V::broadcast(eighth);
-    auto turn1 = [](S v, V h) __attribute__((always_inline)) { return S{(v.re + v.im) * h, (v.im - v.re) * h}; };
-    auto turn3 = [](S v, V h) __attribute__((always_inline)) {
-        return S{(v.im - v.re) * h, (v.re + v.im) * (V::zero() - h)};
-    };
-    const S w1 = constantTwiddle<V>(kCosine16, -kSine16), w3 = constantTwiddle<V>(kSine16, -kCosine16),
-            w9 = constantTwiddle<V>(-kCosine16, kSine16);
     unroll<4>([&](auto q) __attribute__((always_inline)) {
         S a = t[4 * q], b = t[4 * q + 1], c = t[4 * q + 2], d = t[4 * q + 3];
-        if constexpr (q == 1) {
-            b = b * w1;
-            c = turn1(c, first);
-            d = d * w3;
-        } else if constexpr (q == 2) {
-            b = turn1(b, half);
-            c = S{c.im, V::zero() - c.re};
-            d = turn3(d, half);
-        } else if constexpr (q == 3) {
-            b = b * w3;
-            c = turn3(c, first);
-            d = d * w9;
-        }
+        turnSixteenths<q, T, B>(b, c, d, eighth);
         dft4(a, b, c, d);
         put(std::integral_constant<int, q>{}, a);
         put(std::integral_constant<int, q + 4>{}, b);

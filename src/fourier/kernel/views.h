@@ -65,6 +65,7 @@ struct Blocks {
         store(p + 2 * i, exchanged ? v.im : v.re);
         store(p + 2 * i + Vec<T, B>::lanes, exchanged ? v.re : v.im);
     }
+    Blocks from(std::ptrdiff_t i) const { return {p + 2 * i}; }
 };
 
 // The caller's two arrays.
@@ -103,6 +104,7 @@ struct Planes {
         store(re + i, v.re);
         store(im + i, v.im);
     }
+    Planes from(std::ptrdiff_t i) const { return {re + i, im + i}; }
 };
 
 }  // namespace vlq::fft

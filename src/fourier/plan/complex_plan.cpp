@@ -45,8 +45,7 @@ int splitLaneOf(int bytes, int lane) {
 // The twiddles of every pass after the first, in the order in which the pass reads them: for each
 // vector of columns k the R - 1 factors of a radix-R pass, real parts and then imaginary parts.
 template <class T>
-T* buildPassTable(int order, const SineTable<T>& sine, Cursor& cursor) {
-    const PassPlan plan = passPlan<T>(order);
+T* buildPassTable(const PassPlan& plan, int order, const SineTable<T>& sine, Cursor& cursor) {
     const int lanes = plan.bytes / static_cast<int>(sizeof(T));
     T* const table = cursor.take<T>(2 * (powerOfTwo(order) - plan.first), kTableAlignment);
     T* next = table;
@@ -123,17 +122,40 @@ T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor
     return table;
 }
 
+// For each vector of columns of a transform of 16 rows: powers 4, 8, 12 and 1, 2, 3.
+template <class T>
+T* buildJoinTable(int order, const SineTable<T>& sine, Cursor& cursor) {
+    constexpr int lanes = Vec<T>::lanes;
+    const Vlq64s length = powerOfTwo(order - 4);
+    T* const table = cursor.take<T>(12 * length, kTableAlignment);
+    T* next = table;
+    for (Vlq64s k = 0; k < length; k += lanes) {
+        for (const int power : {4, 8, 12, 1, 2, 3}) {
+            for (int lane = 0; lane < lanes; ++lane) {
+                const Twiddle<T> w = twiddle(sine, order, power * (k + splitLaneOf<T>(kVecBytes, lane)));
+                next[lane] = w.re;
+                next[lanes + lane] = w.im;
+            }
+            next += 2 * lanes;
+        }
+    }
+    return table;
+}
+
 template <class T>
 void buildLargeTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
-    const LargePlan plan = largePlan<T>(order);
-    const int later = plan.twoPhases ? order - plan.outer : plan.middle;
-    T* const factors = cursor.take<T>(2 * (columnTwiddles(plan.outer) + columnTwiddles(later)), kTableAlignment);
+    if (order <= kLastSixteenRows<T>) {
+        record.twiddleTable = buildPassTable(rowPlan(order - 4), order - 4, sine, cursor);
+        record.outerTwiddle[0] = buildJoinTable(order, sine, cursor);
+        return;
+    }
+    const LargePlan plan = largePlan(order);
+    T* const factors = cursor.take<T>(2 * (columnTwiddles(plan.outer) + columnTwiddles(plan.middle)), kTableAlignment);
     buildColumnTable(plan.outer, sine, factors);
-    buildColumnTable(later, sine, factors + 2 * columnTwiddles(plan.outer));
+    buildColumnTable(plan.middle, sine, factors + 2 * columnTwiddles(plan.outer));
     record.twiddleTable = factors;
-    const int lastRows = plan.twoPhases ? later : plan.outer;
-    record.outerTwiddle[0] = buildPhaseTable(lastRows, order - lastRows, sine, cursor);
-    if (!plan.twoPhases) record.outerTwiddle[1] = buildPhaseTable(plan.middle, plan.outer, sine, cursor);
+    record.outerTwiddle[0] = buildPhaseTable(plan.outer, order - plan.outer, sine, cursor);
+    record.outerTwiddle[1] = buildPhaseTable(plan.middle, plan.outer, sine, cursor);
 }
 
 // The size rule of the large orders is that of a decomposition into rows and outer radix-4 stages,
@@ -198,7 +220,7 @@ void buildComplexTables(FloatingRecord<T>& record, int order, const SineTable<T>
     if (order <= Limits::straightLine) return;
     record.workBytes = static_cast<Vlq32s>(complexSizes<T>(order).work - 64);
     if (order > Limits::inCache) buildLargeTables<T>(record, order, sine, cursor);
-    else record.twiddleTable = buildPassTable<T>(order, sine, cursor);
+    else record.twiddleTable = buildPassTable<T>(passPlan<T>(order), order, sine, cursor);
 }
 
 template PlanSizes complexSizes<Vlq32f>(int);

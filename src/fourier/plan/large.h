@@ -1,7 +1,8 @@
-// How a transform beyond the first caches is cut. N = 2^outer * 2^middle * 2^outer values form a
-// cube [H][M][r], r next to each other. A first phase transforms over H and exchanges H and r, tile
-// by tile; the rest combines over M and r, at once or one after the other. Every phase takes
-// columns a few at a time through the work buffer and leaves them where they were.
+// How a transform beyond the first caches is cut: into sixteen rows as long as a row and its work
+// buffer have room there (kernel/sixteen_rows.h). Above that, N = 2^outer * 2^middle * 2^outer values
+// form a cube [H][M][r], r next to each other. A first phase transforms over H and exchanges H and r,
+// tile by tile; the rest combines over M, then r. Every phase takes columns a few at a time through
+// the work buffer and leaves them where they were.
 #pragma once
 
 #include <algorithm>
@@ -10,22 +11,22 @@
 
 namespace vlq::fft {
 
+template <class T>
+inline constexpr int kLastSixteenRows = sizeof(T) == 4 ? 18 : 17;  // order
+
 struct LargePlan {
     int outer;
     int middle;
-    bool twoPhases;  // M and r at once
 };
 
 // Columns that a phase takes at a time: 128 bytes of interleaved values.
 template <class T>
 inline constexpr int kTileColumns = 64 / static_cast<int>(sizeof(T));
 
-// For orders above ComplexLimits<T>::inCache.
-template <class T>
+// For orders above kLastSixteenRows.
 constexpr LargePlan largePlan(int order) {
-    if (order <= (sizeof(T) == 4 ? 18 : 17)) return {order / 2, order % 2, true};
     const int outer = order % 3 == 2 ? order / 3 + 1 : order / 3;
-    return {outer, order - 2 * outer, false};
+    return {outer, order - 2 * outer};
 }
 
 // A column transform of 2^bits values: radix-8 and radix-16 steps, decimated in frequency.
