@@ -21,6 +21,8 @@
 
 #include "average_spectrum.h"
 #include "console.h"
+#include "level.h"
+#include "low_pass.h"
 #include "output_file.h"
 #include "sound_file.h"
 #include "spectrum_png.h"
@@ -42,12 +44,6 @@ typedef struct {
     Vlq8u* filterMemory[sizeCount];
 } Channel;
 
-/* Sums from which the level of a signal is told. */
-typedef struct {
-    double squares, samples;
-    int peak;
-} Level;
-
 typedef struct {
     SF_INFO info;
     SNDFILE* source;
@@ -66,24 +62,12 @@ typedef struct {
     AverageSpectrum before, after;
 } Job;
 
-/* The taps of a low-pass by the window method.
- *
- * The ideal low-pass with cut-off f (a share of the sample rate) has the impulse response
- * sin(2 pi f t) / (pi t), which never ends. It is centred on the taps, cut to their number, and
- * faded by a Hamming window, which keeps the ripple at a five-hundredth (53 dB) where plain
- * cutting would leave a tenth. The price is a slope: about 3.3 / 64 of the sample rate from pass
- * to stop, 2.5 kHz at 48 kHz. The taps are symmetric, so all frequencies are delayed alike, by
- * 31.5 samples. Their sum is made 1: a constant signal keeps its level. */
-static void designLowPass(Vlq32f taps[tapCount], double cutOff) {
-    const double pi = acos(-1.0), middle = (tapCount - 1) / 2.0;
-    double exact[tapCount], sum = 0;
-    for (int n = 0; n < tapCount; ++n) {
-        const double t = n - middle; /* never 0: the number of taps is even */
-        const double ideal = sin(2 * pi * cutOff * t) / (pi * t);
-        exact[n] = ideal * (0.54 - 0.46 * cos(2 * pi * n / (tapCount - 1)));
-        sum += exact[n];
-    }
-    for (int n = 0; n < tapCount; ++n) taps[n] = (Vlq32f)(exact[n] / sum);
+/* The taps as floats. Their slope from pass to stop is 2.5 kHz wide at 48 kHz, and they delay the
+ * sound by 31.5 samples. */
+static void designFilter(Vlq32f taps[tapCount], double cutOff) {
+    double exact[tapCount];
+    designLowPass(exact, tapCount, cutOff);
+    for (int n = 0; n < tapCount; ++n) taps[n] = (Vlq32f)exact[n];
 }
 
 /* Builds one filter record in memory of our own. The taps are copied into it; without initial
@@ -110,14 +94,6 @@ static bool filterChunk(Job* job, Channel* channel, int size, int len) {
     clock_gettime(CLOCK_MONOTONIC, &end);
     job->seconds[size] += (double)(end.tv_sec - start.tv_sec) + 1e-9 * (double)(end.tv_nsec - start.tv_nsec);
     return true;
-}
-
-static void addToLevel(Level* level, const Vlq16s* samples, int len) {
-    for (int n = 0; n < len; ++n) {
-        level->squares += (double)samples[n] * samples[n];
-        if (abs(samples[n]) > level->peak) level->peak = abs(samples[n]);
-    }
-    level->samples += len;
 }
 
 static void compareResults(Job* job, const Channel* channel, int len) {
@@ -218,12 +194,6 @@ static bool drawPicture(Job* job, const char* inputPath) {
     return written || cannotWrite(job->files[1].path);
 }
 
-static void printLevel(const char* name, const Level* level) {
-    /* 0 dBFS is the largest sample value, 32768. */
-    printf("Level %-7s RMS %6.1f dBFS, peak %6.1f dBFS\n", name,
-           10 * log10(level->squares / level->samples) - 20 * log10(32768), 20 * log10(level->peak / 32768.0));
-}
-
 static void printReport(const Job* job) {
     const double duration = (double)job->info.frames / job->info.samplerate;
     for (int size = 0; size < sizeCount; ++size)
@@ -240,7 +210,7 @@ static bool run(Job* job, char* paths[3]) {
 
     /* The telephone band ends at 3.4 kHz; below 8 kHz of sample rate at the same share of it. */
     job->cutOff = fmin(3400, 0.425 * job->info.samplerate);
-    designLowPass(job->taps, job->cutOff / job->info.samplerate);
+    designFilter(job->taps, job->cutOff / job->info.samplerate);
 
     /* The library shares long blocks among threads. These take some ten microseconds each, less
      * than it may cost to wait for a second thread on a busy machine. */
