@@ -127,7 +127,8 @@ VlqStatus vlqsFIRFree64f_16s(VlqsFIRState64f_16s* state);
  * reads it.
  *
  * **Shapes.** @p taps and @p dlyLine have as many elements as the record has taps: h[0] first, and
- * the newest sample first. `SetTaps` takes the taps before the record, unlike the other calls.
+ * the newest sample first. The delay line of a multi-rate record has ceil(tapsLen / U). `SetTaps` takes
+ * the taps before the record, unlike the other calls.
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null pointer other than the @p dlyLine of
  * `SetDlyLine`, #vlqStsBadSpec for a record of another kind. If `SetTaps` cannot transform the new
@@ -192,6 +193,21 @@ VlqStatus vlqsFIRGetDlyLine64f_32s(const VlqsFIRState64f_32s* state, Vlq32s* dly
 VlqStatus vlqsFIRGetDlyLine64f_16s(const VlqsFIRState64f_16s* state, Vlq16s* dlyLine);
 /** @} */
 
+/** @name FIR: integer taps, 32-bit samples
+ *  @{ */
+/**
+ * A record of `vlqsFIRInit_32s` is one of the kind 64f_32s: these are the calls on it that have no
+ * function of their own, under the name that one looks for. They are not symbols of the library.
+ *
+ * @arg @c state   record
+ * @arg @c dlyLine past samples
+ * @return what the 64f_32s call returns.
+ */
+static inline VlqStatus vlqsFIRFree_32s(VlqsFIRState_32s* state) { return vlqsFIRFree64f_32s(state); }
+static inline VlqStatus vlqsFIRSetDlyLine_32s(VlqsFIRState_32s* state, const Vlq32s* dlyLine) { return vlqsFIRSetDlyLine64f_32s(state, dlyLine); }
+static inline VlqStatus vlqsFIRGetDlyLine_32s(const VlqsFIRState_32s* state, Vlq32s* dlyLine) { return vlqsFIRGetDlyLine64f_32s(state, dlyLine); }
+/** @} */
+
 /** @name FIR: filtering
  *  @{ */
 /**
@@ -207,15 +223,18 @@ VlqStatus vlqsFIRGetDlyLine64f_16s(const VlqsFIRState64f_16s* state, Vlq16s* dly
  * transformed; the other in-place forms go by the whole length. The paths differ in rounding.
  * Results of the direct path do not depend on the cut into calls.
  *
- * **Shapes.** @p src and @p dst have @p len elements and any alignment, and do not overlap.
+ * **Shapes.** @p src and @p dst have @p len elements and any alignment, and do not overlap. Through a
+ * multi-rate record @p len counts periods: D samples come in for each and U outputs are stored, @p srcDst
+ * having the larger number of both. `One` and the `_32s` forms take no such record.
  *
  * **Threads.** Blocks above 1600 samples, 800 where they are complex, are shared among the threads that the core library allows.
  * Results do not depend on their number. One record serves one call at a time.
  *
  * **Errors,** in this order: #vlqStsNullPtr for a null pointer, #vlqStsBadSize for @p len below 1,
- * #vlqStsBadSpec for a record of another kind.
+ * #vlqStsBadSpec for a record of another kind, #vlqStsNoMemory.
  *
- * **Memory.** None.
+ * **Memory.** None, except in place through a multi-rate record with U above D: the samples are copied
+ * into a block that is allocated for the call.
  *
  * **Source.** Overlap-save: A. V. Oppenheim, R. W. Schafer, Discrete-Time Signal Processing,
  * section on implementing linear time-invariant systems using the DFT.
@@ -360,6 +379,151 @@ VlqStatus vlqsFIR64f_Direct_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s len, 
 VlqStatus vlqsFIR64f_Direct_32s_ISfs(Vlq32s* srcDst, Vlq32s len, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne64f_Direct_32s_Sfs(Vlq32s src, Vlq32s* dst, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
 VlqStatus vlqsFIROne64f_Direct_32s_ISfs(Vlq32s* srcDst, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s* dlyLine, Vlq32s* dlyLineIndex, Vlq32s scaleFactor);
+/** @} */
+
+/** @name Multi-rate FIR: records
+ *  @{ */
+/**
+ * A multi-rate filter raises the rate of a stream by U = @p upFactor, filters with @p tapsLen taps h at
+ * that high rate, and lowers the rate by D = @p downFactor, in one step: no zero is multiplied and no
+ * output computed in vain. Let P = @p upPhase and Q = @p downPhase. A counter runs through the steps of
+ * the high rate: samples come in at the steps P, P + U, P + 2 U ..., outputs are made at the steps
+ * Q, Q + D, Q + 2 D ...; an output at step t is
+ *
+ * `y = sum over i of h[p + i U] * x[n - i]`, n = floor((t - P) / U), p = t - P - n U, over all i from 0
+ * with p + i U below @p tapsLen,
+ *
+ * where x[n] is the newest sample at that step. Filter with the calls `vlqsFIR_...` of the same types,
+ * whose length then counts periods of D samples and U outputs. With D = 1 the filter is an interpolator,
+ * with U = 1 a decimator.
+ *
+ * `GetStateSize` tells the size of a record, `Init` builds one in memory of the caller's, `InitAlloc` in
+ * a block of its own; `vlqsFIRFree` of the type ends it. Records of factors 1 and 1 are those of the
+ * single-rate filter, except complex ones other than 64fc_32sc.
+ *
+ * **Shapes.** @p taps has @p tapsLen elements, h[0] first. @p dlyLine has ceil(tapsLen / U), the newest
+ * sample first; where it is null the filter starts from silence. Both are copied. `SetDlyLine` and
+ * `GetDlyLine` of the type take as many. @p buffer has the size that `GetStateSize` tells and may begin
+ * at any address; the record lies somewhere inside and can be neither copied nor moved.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for a null pointer other than @p dlyLine,
+ * #vlqStsBadTapCount for @p tapsLen below 1, #vlqStsBadRateFactor for a factor below 1,
+ * #vlqStsBadRatePhase for @p upPhase outside 0 to @p upFactor - 1 or @p downPhase outside 0 to
+ * @p downFactor - 1, #vlqStsNoMemory, also for a record whose size would reach 2 GiB.
+ *
+ * **Memory.** `InitAlloc` allocates the record, `Free` releases it. A record of `Init` may be abandoned.
+ *
+ * **Source.** R. E. Crochiere, L. R. Rabiner, Multirate Digital Signal Processing, on polyphase
+ * structures.
+ *
+ * @arg @c tapsLen    number of taps, at least 1
+ * @arg @c upFactor   factor U by which the rate is raised
+ * @arg @c upPhase    step of the first sample
+ * @arg @c downFactor factor D by which the rate is lowered
+ * @arg @c downPhase  step of the first output
+ * @arg @c stateBytes receives the size of a record
+ * @arg @c outState   receives the record's address
+ * @arg @c taps       impulse response
+ * @arg @c dlyLine    past samples, or null
+ * @arg @c buffer     memory for the record
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIRMRGetStateSize_32f(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize32f_16s(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize_64f(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize64f_32f(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize64f_32s(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize64f_16s(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize_32fc(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize32fc_16sc(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize_64fc(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize64fc_32fc(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize64fc_32sc(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRGetStateSize64fc_16sc(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes);
+VlqStatus vlqsFIRMRInit_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32f* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit_64f(VlqsFIRState_64f** outState, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq64f* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit64f_32f(VlqsFIRState64f_32f** outState, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32f* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit64f_32s(VlqsFIRState64f_32s** outState, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit64f_16s(VlqsFIRState64f_16s** outState, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32fc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit32fc_16sc(VlqsFIRState32fc_16sc** outState, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit_64fc(VlqsFIRState_64fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq64fc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit64fc_32fc(VlqsFIRState64fc_32fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32fc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit64fc_32sc(VlqsFIRState64fc_32sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInit64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16sc* dlyLine, Vlq8u* buffer);
+VlqStatus vlqsFIRMRInitAlloc_32f(VlqsFIRState_32f** outState, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32f* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc32f_16s(VlqsFIRState32f_16s** outState, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc_64f(VlqsFIRState_64f** outState, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq64f* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc64f_32f(VlqsFIRState64f_32f** outState, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32f* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc64f_32s(VlqsFIRState64f_32s** outState, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32s* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc64f_16s(VlqsFIRState64f_16s** outState, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc_32fc(VlqsFIRState_32fc** outState, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32fc* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc32fc_16sc(VlqsFIRState32fc_16sc** outState, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16sc* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc_64fc(VlqsFIRState_64fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq64fc* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc64fc_32fc(VlqsFIRState64fc_32fc** outState, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32fc* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc64fc_32sc(VlqsFIRState64fc_32sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq32sc* dlyLine);
+VlqStatus vlqsFIRMRInitAlloc64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, const Vlq16sc* dlyLine);
+/** @} */
+
+/** @name Multi-rate FIR: without a record
+ *  @{ */
+/**
+ * The multi-rate filters, for @p numIters periods of D samples and U outputs, with the caller's taps
+ * and delay line. Products are formed in the type of the taps, sums in double precision. The `_Sfs`
+ * forms store `saturate(round(y * 2^-scaleFactor))`, each part of a complex value for itself, round to
+ * nearest and to the even one of two equally near.
+ *
+ * **Shapes.** @p src has @p numIters D elements, @p dst @p numIters U, of any alignment; they do not
+ * overlap. @p srcDst has the larger number of both. @p taps has @p tapsLen elements, h[0] first.
+ * @p dlyLine has ceil(tapsLen / U), the newest sample first; a call moves it on, so that a stream may
+ * be cut into calls in any way.
+ *
+ * **Errors,** in this order: #vlqStsNullPtr for null samples, #vlqStsBadSize for @p numIters below 1,
+ * #vlqStsNullPtr for null taps, #vlqStsBadTapCount for @p tapsLen below 1, #vlqStsBadRateFactor,
+ * #vlqStsBadRatePhase, #vlqStsNullPtr for a null line, #vlqStsNoMemory.
+ *
+ * **Memory.** The in-place forms copy the samples into a block that they allocate for the call; the
+ * others need none.
+ *
+ * @arg @c src         samples
+ * @arg @c dst         result
+ * @arg @c srcDst      samples and result of the in-place forms
+ * @arg @c numIters    number of periods
+ * @arg @c taps        impulse response
+ * @arg @c tapsLen     number of taps, at least 1
+ * @arg @c upFactor    factor U by which the rate is raised
+ * @arg @c upPhase     step of the first sample
+ * @arg @c downFactor  factor D by which the rate is lowered
+ * @arg @c downPhase   step of the first output
+ * @arg @c dlyLine     past samples
+ * @arg @c scaleFactor negated exponent of the factor of the result
+ * @return #vlqStsOk or an error above.
+ */
+VlqStatus vlqsFIRMR_Direct_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s numIters, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32f* dlyLine);
+VlqStatus vlqsFIRMR_Direct_32f_I(Vlq32f* srcDst, Vlq32s numIters, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32f* dlyLine);
+VlqStatus vlqsFIRMR_Direct_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s numIters, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32fc* dlyLine);
+VlqStatus vlqsFIRMR_Direct_32fc_I(Vlq32fc* srcDst, Vlq32s numIters, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32fc* dlyLine);
+VlqStatus vlqsFIRMR_Direct_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s numIters, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq64f* dlyLine);
+VlqStatus vlqsFIRMR_Direct_64f_I(Vlq64f* srcDst, Vlq32s numIters, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq64f* dlyLine);
+VlqStatus vlqsFIRMR_Direct_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s numIters, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq64fc* dlyLine);
+VlqStatus vlqsFIRMR_Direct_64fc_I(Vlq64fc* srcDst, Vlq32s numIters, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq64fc* dlyLine);
+VlqStatus vlqsFIRMR64f_Direct_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s numIters, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32f* dlyLine);
+VlqStatus vlqsFIRMR64f_Direct_32f_I(Vlq32f* srcDst, Vlq32s numIters, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32f* dlyLine);
+VlqStatus vlqsFIRMR64fc_Direct_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s numIters, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32fc* dlyLine);
+VlqStatus vlqsFIRMR64fc_Direct_32fc_I(Vlq32fc* srcDst, Vlq32s numIters, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32fc* dlyLine);
+VlqStatus vlqsFIRMR32f_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s numIters, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR32f_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s numIters, const Vlq32f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR32fc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s numIters, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16sc* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR32fc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s numIters, const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16sc* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR64f_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s numIters, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR64f_Direct_16s_ISfs(Vlq16s* srcDst, Vlq32s numIters, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR64fc_Direct_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s numIters, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16sc* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR64fc_Direct_16sc_ISfs(Vlq16sc* srcDst, Vlq32s numIters, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq16sc* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR64f_Direct_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s numIters, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR64f_Direct_32s_ISfs(Vlq32s* srcDst, Vlq32s numIters, const Vlq64f* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32s* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR64fc_Direct_32sc_Sfs(const Vlq32sc* src, Vlq32sc* dst, Vlq32s numIters, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32sc* dlyLine, Vlq32s scaleFactor);
+VlqStatus vlqsFIRMR64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, Vlq32s numIters, const Vlq64fc* taps, Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase, Vlq32sc* dlyLine, Vlq32s scaleFactor);
 /** @} */
 
 /** @name Records of FIR filters with integer arithmetic, opaque

@@ -16,6 +16,8 @@
 
 namespace vlq::fir {
 
+struct Phase;
+
 template <class E>
 struct Record {
     using Element = E;
@@ -33,10 +35,10 @@ struct Record {
     RelPtr<E> tapsSpectrum;
     Vlq32s fftLen;  // -1 without a transform path
     Vlq32s dlyIndex;
-    RelPtr<Vlq32s> mrDlyPtr;  // multi-rate only
-    RelPtr<E> tapsWide;       // each tap over 16 bytes, in natural order
-    Vlq32s mrSamples;         // multi-rate only
-    Vlq32s mrKind;            // multi-rate only
+    RelPtr<Phase> mrDlyPtr;  // multi-rate only: the outputs of a period
+    RelPtr<E> tapsWide;      // each tap over 16 bytes, in natural order; multi-rate: the phases' rows
+    Vlq32s mrSamples;        // multi-rate only
+    Vlq32s mrKind;           // 1, 2 or 3 in multi-rate records: the layout of their tables
     Vlq32s dlyLen;
     RelPtr<E> fftWork;  // fftLen elements a thread
     RelPtr<Vlq8u> fftBuf;  // fftBufSize bytes a thread
@@ -117,7 +119,9 @@ void writeTaps(Record<E>& record, const Tap* taps) {
     for (Vlq32s k = 0; k < len; ++k) {
         const E tap = convertTo<E>(read(taps + k));
         reversed[len - 1 - k] = tap;
-        wide = writeWide(wide, tap);
+        // Of a multi-rate record the rows, of dlyLen taps each.
+        if (record.mrKind > 0) wide[Vlq64s{k % record.upFactor} * record.dlyLen + k / record.upFactor] = tap;
+        else wide = writeWide(wide, tap);
     }
 }
 
@@ -257,7 +261,7 @@ template <class State, class Tap>
 VlqStatus setTaps(const Tap* taps, State* state) {
     using E = typename State::Element;
     if (!taps || !state) return vlqStsNullPtr;
-    if (!isSingleRate(*state)) return vlqStsBadSpec;
+    if (!isFilter(*state)) return vlqStsBadSpec;
     writeTaps(*state, taps);
     if (state->fftLen < 0 || !state->fftSpec) return vlqStsOk;
     const VlqStatus status = writeSpectrum(*state);

@@ -568,7 +568,7 @@ TEST_F(FirBlock, Checks) {
     for (const Vlq16s v : a) EXPECT_EQ(0, v);
 }
 
-// Streaming and multi-rate records have words of their own, which blocks of this kind refuse.
+// Multi-rate records have a word of their own, which single samples refuse.
 TEST_F(FirBlock, RecordsOfOtherRates) {
     const std::vector<float> taps(4, 1.0f);
     Plain plain(taps);
