@@ -10,10 +10,10 @@ namespace vlq::fft {
 template <class T, Direction direction>
 void complexTransform(int order, const FloatingRecord<T>& record, const T* src, T* dst, void* work, bool scaled) {
     constexpr bool exchanged = direction == Direction::inverse;
-    const Interleaved<const T, exchanged> in{src};
+    Interleaved<const T, exchanged> in{src};
     const Interleaved<T, exchanged> out{dst};
     const Blocks<T> buffer{static_cast<T*>(work)}, middle{dst};
-    if (order <= ComplexLimits<T>::straightLine) smallTransform<T>(order, record, in, out, scaled);
+    if (order <= kLastSmall<decltype(in)>) smallTransform<T>(order, record, in, out, scaled);
     else if (order <= ComplexLimits<T>::inCache) inCacheTransform<T>(order, record, in, buffer, middle, out, scaled);
     else largeTransform<T>(order, record, in, middle, out, buffer.p, src == dst, scaled);
 }
@@ -25,10 +25,10 @@ void splitTransform(int order, const FloatingRecord<T>& record, const T* srcRe, 
         std::swap(srcRe, srcIm);
         std::swap(dstRe, dstIm);
     }
-    const Parts<const T> in{srcRe, srcIm};
+    Parts<const T> in{srcRe, srcIm};
     const Parts<T> out{dstRe, dstIm};
     T* const buffer = static_cast<T*>(work);
-    if (order <= ComplexLimits<T>::straightLine) return smallTransform<T>(order, record, in, out, scaled);
+    if (order <= kLastSmall<decltype(in)>) return smallTransform<T>(order, record, in, out, scaled);
     const Planes<T> planes{buffer, buffer + (std::ptrdiff_t{1} << order)}, middle{dstRe, dstIm};
     if (order <= ComplexLimits<T>::inCache) inCacheTransform<T>(order, record, in, planes, middle, out, scaled);
     else largeTransform<T>(order, record, in, middle, out, buffer, srcRe == dstRe || srcIm == dstIm, scaled);

@@ -7,7 +7,13 @@
 
 namespace vlq::fft {
 
-// Straight-line code, orders 0 to 5.
+// The last order of straight-line code.
+template <class In>
+inline constexpr int kLastSmall = 5;
+template <class P, bool exchanged>
+inline constexpr int kLastSmall<Interleaved<P, exchanged>> = 6;
+
+// Straight-line code, orders 0 to kLastSmall.
 template <class T, class In, class Out>
 void smallTransform(int order, const FloatingRecord<T>& record, In src, Out dst, bool scaled);
 

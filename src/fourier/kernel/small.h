@@ -1,10 +1,10 @@
-// Transforms of up to 32 values, straight-line: everything is read before anything is written, and
+// Transforms of up to 32 values, interleaved ones of up to 64, straight-line: everything is read before anything is written, and
 // every factor is a literal.
 #pragma once
 
 #include "fourier/kernel/passes.h"
 #include "fourier/kernel/roots.h"
-#include "fourier/kernel/small_wide.h"
+#include "fourier/kernel/small_interleaved.h"
 
 namespace vlq::fft {
 
@@ -23,9 +23,9 @@ constexpr LastTwiddles<T, B, span> lastTwiddles() {
     for (int k = 0; k < span; k += lanes) {
         for (int p = 1; p < 4; ++p) {
             for (int lane = 0; lane < lanes; ++lane) {
-                const int turn = p * (k + splitLane<T, B>(lane)) * (8 / span);
-                next[lane] = static_cast<T>(cosine32(turn));
-                next[lanes + lane] = static_cast<T>(cosine32(turn + 8));  // minus the sine
+                const int turn = p * (k + splitLane<T, B>(lane)) * (16 / span);
+                next[lane] = static_cast<T>(cosine64(turn));
+                next[lanes + lane] = static_cast<T>(cosine64(turn + 16));  // minus the sine
             }
             next += 2 * lanes;
         }
@@ -56,10 +56,8 @@ void straightLine(In src, Out dst, T scale) {
             dft8(x, kEightPoint<T>);
         }
         unroll<n>([&](auto i) __attribute__((always_inline)) { dst.putOne(i, scaled ? times(x[i], scale) : x[i]); });
-    } else if constexpr (kVecBytes >= 32 && sizeof(T) == 4 && kIsInterleaved<In>) {
-#if VLQ_SIMD_BYTES >= 32
-        transformWide<n / 4, In::kExchanged, scaled>(src.p, dst.p, scale);
-#endif
+    } else if constexpr (kIsInterleaved<In>) {
+        transformInterleaved<T, order, In::kExchanged, scaled>(src.p, dst.p, scale);
     } else {
         constexpr int first = order == 4 ? 4 : 8;
         constexpr int B = kVecBytes >= 32 && sizeof(T) == 8 ? 32 : 16;  // four lanes at most

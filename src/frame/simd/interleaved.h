@@ -1,22 +1,52 @@
-// Arithmetic on vectors of interleaved complex values (re, im, re, im ...), where that is shorter
-// than to take the parts asunder. For the builds with FMA.
+// Vectors of interleaved complex values (re, im, re, im ...), where that is shorter than to take the
+// parts asunder.
 #pragma once
 
-#include "frame/simd/vec.h"
+#include "frame/simd/transpose.h"
 
-#if VLQ_SIMD_BYTES >= 32
 namespace vlq {
 
 // (im, re) for each value.
+inline Vec<float, 16> exchangeParts(Vec<float, 16> v) { return Vec<float, 16>(_mm_shuffle_ps(v.raw, v.raw, 0xB1)); }
+inline Vec<double, 16> exchangeParts(Vec<double, 16> v) { return Vec<double, 16>(_mm_shuffle_pd(v.raw, v.raw, 1)); }
+#if VLQ_SIMD_BYTES >= 32
 inline Vec<float, 32> exchangeParts(Vec<float, 32> v) { return Vec<float, 32>(_mm256_permute_ps(v.raw, 0xB1)); }
+inline Vec<double, 32> exchangeParts(Vec<double, 32> v) { return Vec<double, 32>(_mm256_permute_pd(v.raw, 0x5)); }
+#endif
+#if VLQ_SIMD_BYTES >= 64
+inline Vec<double, 64> exchangeParts(Vec<double, 64> v) { return Vec<double, 64>(_mm512_permute_pd(v.raw, 0x55)); }
+#endif
 
-// a * b - c in the real, a * b + c in the imaginary parts, and the opposite.
-inline Vec<float, 32> mulSubAddParts(Vec<float, 32> a, Vec<float, 32> b, Vec<float, 32> c) {
-    return Vec<float, 32>(_mm256_fmaddsub_ps(a.raw, b.raw, c.raw));
+// Square matrices of values: row i of the result holds value i of every row.
+inline void transposeValues(Vec<double, 16> (&)[1]) {}
+inline void transposeValues(Vec<float, 16> (&m)[2]) {
+    Vec<double, 16> pairs[2] = {bitCast<double>(m[0]), bitCast<double>(m[1])};
+    transpose(pairs);
+    m[0] = bitCast<float>(pairs[0]);
+    m[1] = bitCast<float>(pairs[1]);
 }
-inline Vec<float, 32> mulAddSubParts(Vec<float, 32> a, Vec<float, 32> b, Vec<float, 32> c) {
-    return Vec<float, 32>(_mm256_fmsubadd_ps(a.raw, b.raw, c.raw));
+#if VLQ_SIMD_BYTES >= 32
+inline void transposeValues(Vec<float, 32> (&m)[4]) {
+    Vec<double, 32> pairs[4] = {bitCast<double>(m[0]), bitCast<double>(m[1]), bitCast<double>(m[2]), bitCast<double>(m[3])};
+    transpose(pairs);
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) m[i] = bitCast<float>(pairs[i]);
 }
+inline void transposeValues(Vec<double, 32> (&m)[2]) {
+    const __m256d a = m[0].raw, b = m[1].raw;
+    m[0].raw = _mm256_permute2f128_pd(a, b, 0x20);
+    m[1].raw = _mm256_permute2f128_pd(a, b, 0x31);
+}
+#endif
+#if VLQ_SIMD_BYTES >= 64
+inline void transposeValues(Vec<double, 64> (&m)[4]) {
+    const __m512d a = _mm512_shuffle_f64x2(m[0].raw, m[1].raw, 0x44), b = _mm512_shuffle_f64x2(m[0].raw, m[1].raw, 0xEE);
+    const __m512d c = _mm512_shuffle_f64x2(m[2].raw, m[3].raw, 0x44), d = _mm512_shuffle_f64x2(m[2].raw, m[3].raw, 0xEE);
+    m[0].raw = _mm512_shuffle_f64x2(a, c, 0x88);
+    m[1].raw = _mm512_shuffle_f64x2(a, c, 0xDD);
+    m[2].raw = _mm512_shuffle_f64x2(b, d, 0x88);
+    m[3].raw = _mm512_shuffle_f64x2(b, d, 0xDD);
+}
+#endif
 
 }  // namespace vlq
-#endif
