@@ -1,10 +1,11 @@
-// Complex FFT in both precisions, forward, out of place, against FFTW's measured plan on the same
-// data.
+// Complex FFT in both precisions: forward and inverse out of place against FFTW on the same data;
+// in place against out of place, and without a work buffer against the same with an allocation, our
+// own. FFT_ORDERS=from-to takes some of the orders.
 #include <fftw3.h>
 
+#include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <memory>
+#include <string>
 #include <vector>
 
 #include "harness/bench.h"
@@ -30,71 +31,102 @@ constexpr Bar kDoubleBars[] = {{4, 0.98, 0.60, 0.47}, {5, 1.05, 0.76, 0.48}, {6,
                                {22, 0.59, 0.51, 0.50}};
 
 double barOf(const Bar& bar) {
-    const char* tag = vlqbench::buildTag();
-    return !std::strcmp(tag, "s2") ? bar.s2 : !std::strcmp(tag, "v3") ? bar.v3 : bar.v4;
+    const std::string tag = vlqbench::buildTag();
+    return tag == "s2" ? bar.s2 : tag == "v3" ? bar.v3 : bar.v4;
 }
 
 struct Single {
     using Value = Vlq32fc;
-    using Real = Vlq32f;
-    static constexpr const char* name = "complex FFT 32fc";
-    static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32fc;
-    static constexpr auto getBufSize = vlqsFFTGetBufSize_C_32fc;
-    static constexpr auto transform = vlqsFFTFwd_CToC_32fc;
-    static constexpr auto plan = fftwf_plan_dft_1d;
-    static constexpr auto execute = fftwf_execute;
     using Spec = VlqsFFTSpec_C_32fc;
     using Peer = fftwf_complex;
+    static constexpr const char* name = "32fc";
+    static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32fc;
+    static constexpr auto getBufSize = vlqsFFTGetBufSize_C_32fc;
+    static constexpr auto forward = vlqsFFTFwd_CToC_32fc;
+    static constexpr auto inverse = vlqsFFTInv_CToC_32fc;
+    static constexpr auto inPlace = vlqsFFTFwd_CToC_32fc_I;
+    static constexpr auto plan = fftwf_plan_dft_1d;
+    static constexpr auto execute = fftwf_execute;
 };
 struct Double {
     using Value = Vlq64fc;
-    using Real = Vlq64f;
-    static constexpr const char* name = "complex FFT 64fc";
-    static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64fc;
-    static constexpr auto getBufSize = vlqsFFTGetBufSize_C_64fc;
-    static constexpr auto transform = vlqsFFTFwd_CToC_64fc;
-    static constexpr auto plan = fftw_plan_dft_1d;
-    static constexpr auto execute = fftw_execute;
     using Spec = VlqsFFTSpec_C_64fc;
     using Peer = fftw_complex;
+    static constexpr const char* name = "64fc";
+    static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64fc;
+    static constexpr auto getBufSize = vlqsFFTGetBufSize_C_64fc;
+    static constexpr auto forward = vlqsFFTFwd_CToC_64fc;
+    static constexpr auto inverse = vlqsFFTInv_CToC_64fc;
+    static constexpr auto inPlace = vlqsFFTFwd_CToC_64fc_I;
+    static constexpr auto plan = fftw_plan_dft_1d;
+    static constexpr auto execute = fftw_execute;
 };
 
-// Vectors of values on a cache line.
+// A vector of zeros on a cache line.
 template <class Value>
-Value* valuesOf(int n) { return reinterpret_cast<Value*>(vlqsMalloc_8u(n * static_cast<int>(sizeof(Value)))); }
+Value* zeros(int n) {
+    auto* values = reinterpret_cast<Value*>(vlqsMalloc_8u(n * static_cast<int>(sizeof(Value))));
+    for (int i = 0; i < n; ++i) values[i] = Value{};
+    return values;
+}
 
 template <class Precision>
 void addOrder(int order, double bar) {
     using Value = typename Precision::Value;
-    using Real = typename Precision::Real;
     const int n = 1 << order;
-    auto* src = valuesOf<Value>(n);
-    auto* dst = valuesOf<Value>(n);
+    auto* src = zeros<Value>(n);
+    auto* dst = zeros<Value>(n);
     typename Precision::Spec* spec = nullptr;
     Precision::initAlloc(&spec, order, vlqNormNone, vlqHintNone);
     Vlq32s bytes = 0;
     Precision::getBufSize(spec, &bytes);
     Vlq8u* work = vlqsMalloc_8u(bytes);
-    auto* in = reinterpret_cast<typename Precision::Peer*>(valuesOf<Value>(n));
-    auto* out = reinterpret_cast<typename Precision::Peer*>(valuesOf<Value>(n));
-    const auto plan = Precision::plan(n, in, out, FFTW_FORWARD, order > 18 ? FFTW_ESTIMATE : FFTW_MEASURE);
+    auto* in = reinterpret_cast<typename Precision::Peer*>(zeros<Value>(n));
+    auto* out = reinterpret_cast<typename Precision::Peer*>(zeros<Value>(n));
+    // Measuring plans for the longest takes minutes.
+    const unsigned effort = order > 20 ? FFTW_ESTIMATE : FFTW_MEASURE;
+    const char* peer = order > 20 ? "FFTW, estimated plan" : "FFTW";
+    const auto forwardPlan = Precision::plan(n, in, out, FFTW_FORWARD, effort);
+    const auto inversePlan = Precision::plan(n, in, out, FFTW_BACKWARD, effort);
     for (int i = 0; i < n; ++i) {
-        src[i] = {static_cast<Real>(std::rand() % 2001 - 1000) / 1000, static_cast<Real>(std::rand() % 2001 - 1000) / 1000};
-        in[i][0] = src[i].re;
-        in[i][1] = src[i].im;
+        using Real = decltype(Value::re);
+        in[i][0] = src[i].re = static_cast<Real>(std::rand() % 2001 - 1000);
+        in[i][1] = src[i].im = static_cast<Real>(std::rand() % 2001 - 1000);
     }
-    vlqbench::add({Precision::name, n, 1, "FFTW", bar, [=] { Precision::transform(src, dst, spec, work); },
-                   [=] { Precision::execute(plan); }});
+    const std::string name = Precision::name;
+    vlqbench::add({"complex FFT " + name, n, 1, peer, bar, [=] { Precision::forward(src, dst, spec, work); },
+                   [=] { Precision::execute(forwardPlan); }});
+    vlqbench::add({"inverse complex FFT " + name, n, 1, peer, bar, [=] { Precision::inverse(src, dst, spec, work); },
+                   [=] { Precision::execute(inversePlan); }});
+    if (order > 14) return;
+
+    // Several vectors in turn, so that a call need not wait for the one before.
+    constexpr unsigned turns = 8;
+    std::vector<Value*> vectors;
+    for (unsigned i = 0; i < 2 * turns; ++i) vectors.push_back(zeros<Value>(n));
+    vlqbench::add({"complex FFT " + name + ", in place", n, 1, "out of place", 1.15,
+                   [=, turn = 0u]() mutable { Precision::inPlace(vectors[turn++ % turns], spec, work); },
+                   [=, turn = 0u]() mutable {
+                       Precision::forward(vectors[turn % turns], vectors[turn % turns + turns], spec, work);
+                       ++turn;
+                   }});
+    if (bytes == 0) return;
+    vlqbench::add({"complex FFT " + name + ", no work buffer", n, 1, "one allocation more", 1.05,
+                   [=] { Precision::forward(src, dst, spec, nullptr); },
+                   [=] {
+                       Vlq8u* block = vlqsMalloc_8u(bytes);
+                       Precision::forward(src, dst, spec, block);
+                       vlqsFree(block);
+                   }});
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const char* only = std::getenv("FFT_ORDERS");  // "from-to"
     fftwf_set_timelimit(20);
     fftw_set_timelimit(20);
     int from = 0, to = 99;
-    if (only) std::sscanf(only, "%d-%d", &from, &to);
+    if (const char* only = std::getenv("FFT_ORDERS")) std::sscanf(only, "%d-%d", &from, &to);
     for (const Bar& bar : kBars) {
         if (bar.order >= from && bar.order <= to) addOrder<Single>(bar.order, barOf(bar));
     }
