@@ -6,6 +6,7 @@
 
 #include <cstring>
 
+#include "fourier/kernel/real_interleaved.h"
 #include "fourier/kernel/real_recombine.h"
 #include "fourier/kernel/real_registers.h"
 #include "fourier/kernel/real_small.h"
@@ -80,10 +81,22 @@ inline void inverseSmall(const T* src, T* dst, bool scaled, T factor) {
     std::memcpy(dst, x, sizeof x);
 }
 
+// Order 5 or 6. Where few values fit a vector it is the fewer operations on split ones that count;
+// those need a table, which double precision lacks at order 5.
+template <class T, int order, Direction direction>
+inline void inRegisters(const FloatingRecord<T>& record, const T* src, T* dst, bool scaled) {
+    if constexpr (sizeof(T) == 8 && (order == 5 || kVecBytes > 16)) {
+        if (scaled) realInterleaved<T, order, direction, true>(src, dst, record.normFactor);
+        else realInterleaved<T, order, direction, false>(src, dst, record.normFactor);
+    } else {
+        if (scaled) realInRegisters<T, order, direction, true>(record, src, dst);
+        else realInRegisters<T, order, direction, false>(record, src, dst);
+    }
+}
+
 template <Layout layout, int order, class T>
 inline void forwardRegisters(const FloatingRecord<T>& record, const T* src, T* dst) {
-    if (record.doFwdScale) realInRegisters<T, order, Direction::forward, true>(record, src, dst);
-    else realInRegisters<T, order, Direction::forward, false>(record, src, dst);
+    inRegisters<T, order, Direction::forward>(record, src, dst, record.doFwdScale != 0);
     permToLayout<layout>(dst, 1 << order);
 }
 
@@ -94,8 +107,7 @@ inline void inverseRegisters(const FloatingRecord<T>& record, const T* src, T* d
         layoutToPerm<layout, 1 << order>(src, perm);
         src = perm;
     }
-    if (record.doInvScale) realInRegisters<T, order, Direction::inverse, true>(record, src, dst);
-    else realInRegisters<T, order, Direction::inverse, false>(record, src, dst);
+    inRegisters<T, order, Direction::inverse>(record, src, dst, record.doInvScale != 0);
 }
 
 }  // namespace detail
@@ -113,10 +125,7 @@ inline void realForwardTransform(const FloatingRecord<T>& record, const T* src, 
         case 4: return detail::forwardSmall<layout, 4>(src, dst, scaled, record.normFactor);
         default: break;
     }
-    if (order == 5) {
-        if constexpr (RealLimits<T>::straightLine >= 5) return detail::forwardSmall<layout, 5>(src, dst, scaled, record.normFactor);
-        else return detail::forwardRegisters<layout, 5>(record, src, dst);
-    }
+    if (order == 5) return detail::forwardRegisters<layout, 5>(record, src, dst);
     if (order == 6) return detail::forwardRegisters<layout, 6>(record, src, dst);
     complexTransform<T, Direction::forward>(order - 1, record, src, dst, work, scaled);
     const T re = detail::get(dst), im = detail::get(dst + 1);
@@ -139,10 +148,7 @@ inline void realInverseTransform(const FloatingRecord<T>& record, const T* src, 
         case 4: return detail::inverseSmall<layout, 4>(src, dst, scaled, record.normFactor);
         default: break;
     }
-    if (order == 5) {
-        if constexpr (RealLimits<T>::straightLine >= 5) return detail::inverseSmall<layout, 5>(src, dst, scaled, record.normFactor);
-        else return detail::inverseRegisters<layout, 5>(record, src, dst);
-    }
+    if (order == 5) return detail::inverseRegisters<layout, 5>(record, src, dst);
     if (order == 6) return detail::inverseRegisters<layout, 6>(record, src, dst);
     const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
     const T mean = detail::get(src);

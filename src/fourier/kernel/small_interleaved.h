@@ -92,10 +92,15 @@ template <class T, int B, bool inverse>
     x[7] = e3 - o3;
 }
 
-// 2^order values, order 4 to 6. src may be dst.
-template <class T, int order, bool inverse, bool scaled>
-[[gnu::always_inline]] inline void transformInterleaved(const T* src, T* dst, T scale) {
-    constexpr int widest = 8 * static_cast<int>(sizeof(T)), B = kVecBytes < widest ? kVecBytes : widest;
+// Width of a register of T's kernels: up to four values.
+template <class T>
+inline constexpr int kSmallBytes = kVecBytes < 8 * static_cast<int>(sizeof(T)) ? kVecBytes : 8 * static_cast<int>(sizeof(T));
+
+// 2^order values, order 4 to 6: get(i) gives value i and those behind it, put(i, vector) takes them.
+// All are read before the first is put.
+template <class T, int order, bool inverse, class Get, class Put>
+[[gnu::always_inline]] inline void transformRegisters(Get&& get, Put&& put) {
+    constexpr int B = kSmallBytes<T>;
     constexpr int rows = order < 6 ? 4 : 8, columns = (1 << order) / rows;
     using F = Values<T, B, inverse>;
     using V = Vec<T, B>;
@@ -104,9 +109,7 @@ template <class T, int order, bool inverse, bool scaled>
     F z[columns][rows / count];
     unroll<columns / count>([&](auto part) __attribute__((always_inline)) {
         F y[rows];
-        unroll<rows>([&](auto p) __attribute__((always_inline)) {
-            y[p].v = load<T, B>(src + 2 * (p * columns + part * count));
-        });
+        unroll<rows>([&](auto p) __attribute__((always_inline)) { y[p].v = get(p * columns + part * count); });
         dft(y, twiddles.eighth, twiddles.minusEighth);
         unroll<rows / count>([&](auto group) __attribute__((always_inline)) {
             V block[count];
@@ -119,15 +122,22 @@ template <class T, int order, bool inverse, bool scaled>
             });
         });
     });
-    const V factor = V::broadcast(scale);
     unroll<rows / count>([&](auto group) __attribute__((always_inline)) {
         F x[columns];
         unroll<columns>([&](auto j) __attribute__((always_inline)) { x[j] = z[j][group]; });
         dft(x, twiddles.eighth, twiddles.minusEighth);
-        unroll<columns>([&](auto k) __attribute__((always_inline)) {
-            store(dst + 2 * (k * rows + group * count), scaled ? x[k].v * factor : x[k].v);
-        });
+        unroll<columns>([&](auto k) __attribute__((always_inline)) { put(k * rows + group * count, x[k].v); });
     });
+}
+
+// The same between memory; src may be dst.
+template <class T, int order, bool inverse, bool scaled>
+[[gnu::always_inline]] inline void transformInterleaved(const T* src, T* dst, T scale) {
+    using V = Vec<T, kSmallBytes<T>>;
+    const V factor = V::broadcast(scale);
+    transformRegisters<T, order, inverse>(
+        [&](int i) __attribute__((always_inline)) { return load<T, kSmallBytes<T>>(src + 2 * i); },
+        [&](int i, V v) __attribute__((always_inline)) { store(dst + 2 * i, scaled ? v * factor : v); });
 }
 
 }  // namespace vlq::fft

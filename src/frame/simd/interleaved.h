@@ -17,6 +17,20 @@ inline Vec<double, 32> exchangeParts(Vec<double, 32> v) { return Vec<double, 32>
 inline Vec<double, 64> exchangeParts(Vec<double, 64> v) { return Vec<double, 64>(_mm512_permute_pd(v.raw, 0x55)); }
 #endif
 
+// The first value of `next`, then those of v from its last to its second: where v and next are
+// neighbours in a sequence, its values from next[0] backwards.
+inline Vec<double, 16> valuesBackwardAcross(Vec<double, 16>, Vec<double, 16> next) { return next; }
+#if VLQ_SIMD_BYTES >= 32
+inline Vec<double, 32> valuesBackwardAcross(Vec<double, 32> v, Vec<double, 32> next) {
+    return Vec<double, 32>(_mm256_permute2f128_pd(next.raw, v.raw, 0x30));
+}
+#endif
+#if VLQ_SIMD_BYTES >= 64
+inline Vec<double, 64> valuesBackwardAcross(Vec<double, 64> v, Vec<double, 64> next) {
+    return Vec<double, 64>(_mm512_permutex2var_pd(next.raw, _mm512_setr_epi64(0, 1, 14, 15, 12, 13, 10, 11), v.raw));
+}
+#endif
+
 // Square matrices of values: row i of the result holds value i of every row.
 inline void transposeValues(Vec<double, 16> (&)[1]) {}
 inline void transposeValues(Vec<float, 16> (&m)[2]) {
