@@ -341,7 +341,10 @@ VlqStatus vlqsFFTFree_R_16s32s(VlqsFFTSpec_R_16s32s* spec);
  *
  * **Rounding.** In floating point to nearest, halves to even. In integers halves up; there a shift
  * to the left, by a @p scaleFactor below what normalisation and headroom shift right, drops what
- * leaves 32 bits, and shifts of 32 and more give 0.
+ * leaves 32 bits, and shifts of 32 and more give 0; a shift to the right is one of 31 at most, which
+ * leaves 1 or -1 of the largest values. In floating point 2^-scaleFactor follows the conversions of
+ * the type: past the range of a float (for 32-bit elements, of a double) it is infinite, and a value
+ * of 0 then becomes the largest one, as not-a-number does.
  *
  * **Shapes.** Complex vectors have N elements, signals N, spectra N or, in CCS, N + 2 (2 for one
  * point; an in-place vector has that length). Any alignment. Source and destination are one

@@ -1,6 +1,8 @@
 // Quotients of integers. The second vector is divided by the first.
 #include "arith/divide_kernels.h"
 
+#include <algorithm>
+
 #include "frame/simd/control.h"
 #include "vlqs/arith.h"
 
@@ -26,10 +28,16 @@ VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s 
     return vlq::any(found0) ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
+// 2^-scaleFactor in the range that matters. Below -30 any quotient but 0 leaves the range of its type,
+// which takes one bit more than -31 gives to 1 / 65535.
+float quotientScale(Vlq32s scaleFactor) {
+    return powerWithin<float>(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor, kFloatLimit);
+}
+
 template <class T, class Round>
 VlqStatus divided(Round round, const T* divisors, const T* numerators, T* dst, Vlq32s len, Vlq32s scaleFactor) {
     const StandardFloatMode hold;
-    const auto factor = Vec<float>::broadcast(powerWithin<float>(scaleFactor, kFloatLimit));
+    const auto factor = Vec<float>::broadcast(quotientScale(scaleFactor));
     return divided(Quotient<T, Round>{factor, round}, divisors, numerators, dst, len);
 }
 
@@ -84,7 +92,7 @@ VlqStatus scaledByConstant(const T* src, T val, T* dst, Vlq32s len, Vlq32s scale
     if (len < 1) return vlqStsBadSize;
     if (val == 0) return vlqStsZeroDivisor;
     const StandardFloatMode hold;
-    const float reciprocal = powerWithin<float>(scaleFactor, kFloatLimit) / static_cast<float>(val);
+    const float reciprocal = quotientScale(scaleFactor) / static_cast<float>(val);
     vlq::mapBlocks(dst, len, TimesReciprocal<T>{Vec<float>::broadcast(reciprocal)}, src);
     return vlqStsOk;
 }

@@ -129,9 +129,9 @@ VlqStatus vlq::vlqsMulC_64f64s_ISfs(Vlq64f val, Vlq64s* srcDst, Vlq32s len, Vlq3
 VlqStatus vlq::vlqsMulC_32f16s_Sfs(const Vlq32f* src, Vlq32f val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
+    const StandardFloatMode hold;
     // The product of two floats is exact in double, and stays so under this scale.
     const double factor = static_cast<double>(val) * powerWithin400(scaleFactor);
-    const StandardFloatMode hold;
     mapBlocks(dst, len, ProductInDouble16s{Vec<double>::broadcast(factor)}, src);
     return vlqStsOk;
 }

@@ -31,10 +31,20 @@ T overZeroRef(N numerator) {
     return numerator > 0 ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
 }
 
+// The end of the range that a quotient's sign points to; 0 stays.
+template <class T, class N, class D>
+T saturatedRef(N numerator, D divisor) {
+    return overZeroRef<T>(divisor < 0 ? -static_cast<std::int64_t>(numerator) : static_cast<std::int64_t>(numerator));
+}
+// Scale factors below these saturate every quotient but 0.
+template <class T>
+constexpr std::int32_t kLeastQuotientScale = sizeof(T) == 4 ? -62 : -30;
+
 // numerator / divisor * 2^-scaleFactor with the quotient rounded to F.
 template <class T, class F, class N, class D>
 T quotientRef(N numerator, D divisor, int mode, std::int32_t scaleFactor) {
     if (divisor == 0) return overZeroRef<T>(numerator);
+    if (scaleFactor < kLeastQuotientScale<N>) return saturatedRef<T>(numerator, divisor);
     const F quotient = static_cast<F>(numerator) / static_cast<F>(divisor);
     const int scale = scaleFactor > 500 ? 500 : scaleFactor < -500 ? -500 : scaleFactor;
     return clampFloatRef<T>(roundRef(std::ldexp(static_cast<double>(quotient), -scale), mode));  // the scale is exact
@@ -70,7 +80,7 @@ T exactQuotientRef(Exact numerator, Exact divisor, std::int32_t scaleFactor) {
 template <class T>
 T timesReciprocalRef(T numerator, T divisor, std::int32_t scaleFactor) {
     if (scaleFactor > 40) return 0;
-    if (scaleFactor < -40) return overZeroRef<T>(divisor < 0 ? -static_cast<int>(numerator) : static_cast<int>(numerator));
+    if (scaleFactor < kLeastQuotientScale<T>) return saturatedRef<T>(numerator, divisor);
     const float reciprocal = std::ldexp(1.0f, -scaleFactor) / static_cast<float>(divisor);
     const float product = static_cast<float>(numerator) * reciprocal;
     return clampFloatRef<T>(std::nearbyint(product));

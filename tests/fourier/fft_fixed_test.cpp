@@ -447,4 +447,48 @@ TYPED_TEST(FftFixed16, ExtremeScales) {
     }
 }
 
+// The shift to the right stops at 31, which is not enough for sums beyond 2^30.
+TEST(FftFixedScale, ShiftsOfMoreThan31Are31) {
+    const Record<C_16sc> record(3, vlqNormNone);
+    const Vlq16sc x[8] = {{32767, 0}, {32767, 32767}, {0, 32767}, {-32768, 32767},
+                          {-32768, 0}, {-32768, -32768}, {0, -32768}, {32767, -32768}};
+    for (const Vlq32s scale : {18, 19, 1000, 2147483647}) {
+        Vlq16sc y[8];
+        ASSERT_EQ(vlqStsOk, vlqsFFTFwd_CToC_16sc_Sfs(x, y, record.spec, scale, nullptr));
+        EXPECT_EQ(1, y[1].re) << scale;
+        EXPECT_EQ(0, y[0].re) << scale;
+    }
+}
+
+// Past the range of the floating type the scale is infinite, and infinity times 0 is stored as the
+// conversions store what is not a number.
+TEST(FftFixedScale, ZerosOf16BitsUnderAnInfiniteScale) {
+    const Record<R_16s> record(5, vlqNormNone);
+    Vlq16s x[32] = {100}, y[34];
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_16s_Sfs(x, y, record.spec, -127, nullptr));
+    EXPECT_EQ(32767, y[0]);
+    EXPECT_EQ(0, y[1]);
+    EXPECT_EQ(0, y[33]);
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_16s_Sfs(x, y, record.spec, -128, nullptr));
+    EXPECT_EQ(32767, y[0]);
+    EXPECT_EQ(32767, y[1]);
+    EXPECT_EQ(32767, y[33]);
+}
+TEST(FftFixedScale, ZerosOf32BitsUnderAnInfiniteScale) {
+    const Record<R_32s> record(5, vlqNormNone);
+    Vlq32s x[32] = {100}, y[34];
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_32s_Sfs(x, y, record.spec, -1023, nullptr));
+    EXPECT_EQ(0, y[1]);
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_32s_Sfs(x, y, record.spec, -1024, nullptr));
+    EXPECT_EQ(2147483647, y[1]);
+
+    // This form writes its two zeros after the conversion.
+    const Record<R_16s32s> mixed(5, vlqNormNone);
+    const Vlq16s shorts[32] = {100};
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_16s32s_Sfs(shorts, y, mixed.spec, -128, nullptr));
+    EXPECT_EQ(2147483647, y[3]);
+    EXPECT_EQ(0, y[1]);
+    EXPECT_EQ(0, y[33]);
+}
+
 }  // namespace

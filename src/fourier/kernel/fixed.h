@@ -42,7 +42,7 @@ inline Fixed widen(Vlq16s sample, int order) {
 inline Vlq16s narrow(Fixed value, Vlq64s shift) {
     Vlq64s v = value.bits;
     if (shift > 0) {
-        const Vlq64s right = std::min<Vlq64s>(shift, 31);
+        const Vlq64s right = std::min<Vlq64s>(shift, 31);  // 1 or -1 is left of more than 2^30
         v = (v + (Vlq64s{1} << (right - 1))) >> right;
     } else if (shift < 0) {
         v = shift <= -32 ? 0 : static_cast<Vlq32s>(value.word() << -shift);
