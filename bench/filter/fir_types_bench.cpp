@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "filter/fir_peers.h"
 #include "harness/bench.h"
 #include "vlqs.h"
 #include "vlqs/core.h"
@@ -33,33 +34,6 @@ const auto* const xc64 = reinterpret_cast<Vlq64fc*>(x64);
 auto* const yc32 = reinterpret_cast<Vlq32fc*>(y32);
 auto* const yc64 = reinterpret_cast<Vlq64fc*>(y64);
 std::vector<Vlq16s> x16(2 * kRoom, 1234), y16(2 * kRoom);
-
-// Taps by tap over tiles, so that the compiler may use vectors. x begins with the past samples.
-[[gnu::noinline]] void plainComplex(const float* __restrict x, const float* __restrict taps, float* __restrict y, int len, int count) {
-    constexpr int tile = 256;
-    for (int from = 0; from < len; from += tile) {
-        const int n = std::min(tile, len - from);
-        for (int i = 0; i < 2 * n; ++i) y[2 * from + i] = 0;
-        for (int k = 0; k < count; ++k) {
-            const float re = taps[2 * k], im = taps[2 * k + 1];
-            const float* in = x + 2 * (from + k);
-            for (int i = 0; i < n; ++i) {
-                y[2 * (from + i)] += re * in[2 * i] - im * in[2 * i + 1];
-                y[2 * (from + i) + 1] += re * in[2 * i + 1] + im * in[2 * i];
-            }
-        }
-    }
-}
-[[gnu::noinline]] void plainDouble(const double* __restrict x, const double* __restrict taps, double* __restrict y, int len, int count) {
-    constexpr int tile = 256;
-    for (int from = 0; from < len; from += tile) {
-        const int n = std::min(tile, len - from);
-        for (int i = 0; i < n; ++i) y[from + i] = 0;
-        for (int k = 0; k < count; ++k) {
-            for (int i = 0; i < n; ++i) y[from + i] += taps[k] * x[from + i + k];
-        }
-    }
-}
 
 template <class State, class Sample>
 auto blocks(VlqStatus (*filter)(const Sample*, Sample*, Vlq32s, State*), const Sample* src, Sample* dst, int len, int block, State* state) {
@@ -97,11 +71,11 @@ int main(int argc, char** argv) {
             const auto realBlocks = blocks(vlqsFIR_32f, static_cast<const Vlq32f*>(x32), y32, len, 240, real);
             const auto complexBlocks = blocks(vlqsFIR_32fc, xc32, yc32, len, 240, complex);
             row("FIR 32fc direct" + name, len, "FIR 32f", kComplex, complexBlocks, realBlocks);
-            row("FIR 32fc direct" + name, len, "plain loop", 1, complexBlocks, [=] { plainComplex(x32, x32 + 512, y32, len, taps); });
+            row("FIR 32fc direct" + name, len, "plain loop", 1, complexBlocks, [=] { vlqbench::plainComplexFir(x32, x32 + 512, y32, len, taps); });
             row("FIR 64fc direct" + name, len, "FIR 32fc", kDouble, blocks(vlqsFIR_64fc, xc64, yc64, len, 240, complexDouble), complexBlocks);
             const auto doubleBlocks = blocks(vlqsFIR_64f, static_cast<const Vlq64f*>(x64), y64, len, 240, realDouble);
             row("FIR 64f direct" + name, len, "FIR 32f", kDouble, doubleBlocks, realBlocks);
-            row("FIR 64f direct" + name, len, "plain loop", 1, doubleBlocks, [=] { plainDouble(x64, x64 + 512, y64, len, taps); });
+            row("FIR 64f direct" + name, len, "plain loop", 1, doubleBlocks, [=] { vlqbench::plainFir(x64, x64 + 512, y64, len, taps); });
         }
         if (taps >= 64) {
             for (const int len : {4096, kMost}) {
