@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <new>
 
 #include "filter/fir_direct_complex_kernels.h"
@@ -230,6 +231,11 @@ VlqStatus init(State** outState, const Tap* taps, Vlq32s tapsLen, const SampleOf
     return vlqStsOk;
 }
 
+// Memory of our own; null when there is none, as for a record of 2 GiB.
+inline Vlq8u* allocate(Vlq64s bytes) {
+    return bytes > std::numeric_limits<Vlq32s>::max() ? nullptr : vlqsMalloc_8u(static_cast<Vlq32s>(bytes));
+}
+
 // The transform is a block of its own here.
 template <class State, class Tap>
 VlqStatus initAlloc(State** outState, const Tap* taps, Vlq32s tapsLen, const SampleOf<State>* dlyLine) {
@@ -237,7 +243,7 @@ VlqStatus initAlloc(State** outState, const Tap* taps, Vlq32s tapsLen, const Sam
     if (!outState || !taps) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
     const Plan<E> plan(tapsLen);
-    Vlq8u* memory = vlqsMalloc_8u(static_cast<Vlq32s>(plan.bytes()));
+    Vlq8u* memory = allocate(plan.bytes());
     if (!memory) return vlqStsNoMemory;
     const Block<State> block = layOut<State>(memory, plan);
     build(block, taps, dlyLine,

@@ -50,7 +50,7 @@ VlqStatus vlq::vlqsFIRInit_32s(VlqsFIRState_32s** outState, const Vlq32s* taps, 
 VlqStatus vlq::vlqsFIRInitAlloc_32s(VlqsFIRState_32s** outState, const Vlq32s* taps, Vlq32s tapsLen, const Vlq32s* dlyLine) {
     if (!outState || !taps) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
-    Vlq8u* memory = vlqsMalloc_8u(static_cast<Vlq32s>(recordBytes(tapsLen)));
+    Vlq8u* memory = fir::allocate(recordBytes(tapsLen));
     if (!memory) return vlqStsNoMemory;
     vlqsFIRInit_32s(outState, taps, tapsLen, dlyLine, memory);
     (*outState)->ownsMemory = 1;

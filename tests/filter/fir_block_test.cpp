@@ -239,62 +239,7 @@ TEST_F(FirBlock, InfiniteSampleStaysInItsWindow) {
     }
 }
 
-// ---- one stream, cut anyhow ------------------------------------------------------------------------
-
-template <class Filter>
-void cutAnyhow(Filter& whole, Filter& cut, const std::vector<typename Filter::Sample>& src, int longest, bool useInPlace, Rng& rng) {
-    using Sample = typename Filter::Sample;
-    const int len = static_cast<int>(src.size());
-    std::vector<Sample> want(src.size()), got = src;
-    for (int done = 0; done < len; done += longest) {
-        ASSERT_EQ(vlqStsOk, whole.run(src.data() + done, want.data() + done, std::min(longest, len - done)));
-    }
-    for (int done = 0; done < len;) {
-        const int kind = static_cast<int>(rng() % 4);
-        const int limit = kind == 0 ? 3 : kind == 1 ? 40 : kind == 2 ? 150 : longest;
-        const int piece = std::min(1 + static_cast<int>(rng() % count(limit)), len - done);
-        if (useInPlace && rng() % 2 == 0) {
-            ASSERT_EQ(vlqStsOk, cut.inPlace(got.data() + done, piece));
-        } else {
-            ASSERT_EQ(vlqStsOk, cut.run(src.data() + done, got.data() + done, piece));
-        }
-        done += piece;
-    }
-    expectSameBits(want, got, "outputs");
-}
-
-TEST_F(FirBlock, DirectStreamsContinueBitForBit) {
-    for (int run = 0; run < 3000; ++run) {
-        const int len = run % 7 == 0 ? 1 + below(300) : 1 + below(66);
-        const int longest = len >= 64 ? 511 : 1500;
-        const auto taps = uniformVector<float>(count(len), -1, 1, rng);
-        const auto past = uniformVector<float>(count(len), -1, 1, rng);
-        const auto src = uniformVector<float>(count(1 + below(1200)), -1, 1, rng);
-        Plain whole(taps, past.data()), cut(taps, past.data());
-        cutAnyhow(whole, cut, src, longest, true, rng);
-        expectSameBits(lineOf(whole, len), lineOf(cut, len), "delay line");
-        if (HasFailure()) {
-            ADD_FAILURE() << "run " << run << ", " << len << " taps, " << src.size() << " samples";
-            return;
-        }
-    }
-}
-
-TEST_F(FirBlock, DirectStreamsOf16BitSamplesContinueBitForBit) {
-    for (int run = 0; run < 1000; ++run) {
-        const int len = 1 + below(80);
-        const auto taps = uniformVector<float>(count(len), -1, 1, rng);
-        const auto past = extremeVector<Vlq16s>(count(len), rng);
-        const auto src = extremeVector<Vlq16s>(count(1 + below(1200)), rng);
-        Mixed whole(taps, 2, past.data()), cut(taps, 2, past.data());
-        cutAnyhow(whole, cut, src, 511, true, rng);
-        expectSameBits(lineOf(whole, len), lineOf(cut, len), "delay line");
-        if (HasFailure()) {
-            ADD_FAILURE() << "run " << run << ", " << len << " taps, " << src.size() << " samples";
-            return;
-        }
-    }
-}
+// ---- streams ---------------------------------------------------------------------------------------
 
 TEST_F(FirBlock, StreamsThroughBothPaths) {
     for (int run = 0; run < 200; ++run) {

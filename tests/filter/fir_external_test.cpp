@@ -12,242 +12,175 @@ using namespace vlqtest;
 
 std::size_t count(int n) { return static_cast<std::size_t>(n); }
 
-struct Direct32f {
+// The functions of a kind in one form: those without a scale factor ignore it.
+template <class Kind>
+struct DirectForms {
+    template <class K = Kind>
+    static VlqStatus block(const typename K::Sample* src, typename K::Sample* dst, int len, const typename K::Tap* taps, int n,
+                           typename K::Sample* line, Vlq32s* index, int scale) {
+        if constexpr (K::kScaled) return K::filter(src, dst, len, taps, n, line, index, scale);
+        else return K::filter(src, dst, len, taps, n, line, index);
+    }
+    template <class K = Kind>
+    static VlqStatus inPlace(typename K::Sample* srcDst, int len, const typename K::Tap* taps, int n, typename K::Sample* line,
+                             Vlq32s* index, int scale) {
+        if constexpr (K::kScaled) return K::filterInPlace(srcDst, len, taps, n, line, index, scale);
+        else return K::filterInPlace(srcDst, len, taps, n, line, index);
+    }
+    template <class K = Kind>
+    static VlqStatus one(typename K::Sample src, typename K::Sample* dst, const typename K::Tap* taps, int n,
+                         typename K::Sample* line, Vlq32s* index, int scale) {
+        if constexpr (K::kScaled) return K::filterOne(src, dst, taps, n, line, index, scale);
+        else return K::filterOne(src, dst, taps, n, line, index);
+    }
+    template <class K = Kind>
+    static VlqStatus oneInPlace(typename K::Sample* srcDst, const typename K::Tap* taps, int n, typename K::Sample* line,
+                                Vlq32s* index, int scale) {
+        if constexpr (K::kScaled) return K::filterOneInPlace(srcDst, taps, n, line, index, scale);
+        else return K::filterOneInPlace(srcDst, taps, n, line, index);
+    }
+};
+
+struct Direct32f : DirectForms<Direct32f> {
     using Tap = Vlq32f;
     using Sample = Vlq32f;
     static constexpr bool kScaled = false;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR_Direct_32f(src, dst, len, taps, n, line, index);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR_Direct_32f_I(srcDst, len, taps, n, line, index);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne_Direct_32f(src, dst, taps, n, line, index);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne_Direct_32f_I(srcDst, taps, n, line, index);
-    }
+    static constexpr auto filter = vlqsFIR_Direct_32f;
+    static constexpr auto filterInPlace = vlqsFIR_Direct_32f_I;
+    static constexpr auto filterOne = vlqsFIROne_Direct_32f;
+    static constexpr auto filterOneInPlace = vlqsFIROne_Direct_32f_I;
     static constexpr int kDirectTaps = 64;  // fewer: no record
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 64, kTransformLen = 512;
 };
-struct Direct32fc {
+struct Direct32fc : DirectForms<Direct32fc> {
     using Tap = Vlq32fc;
     using Sample = Vlq32fc;
     static constexpr bool kScaled = false;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR_Direct_32fc(src, dst, len, taps, n, line, index);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR_Direct_32fc_I(srcDst, len, taps, n, line, index);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne_Direct_32fc(src, dst, taps, n, line, index);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne_Direct_32fc_I(srcDst, taps, n, line, index);
-    }
+    static constexpr auto filter = vlqsFIR_Direct_32fc;
+    static constexpr auto filterInPlace = vlqsFIR_Direct_32fc_I;
+    static constexpr auto filterOne = vlqsFIROne_Direct_32fc;
+    static constexpr auto filterOneInPlace = vlqsFIROne_Direct_32fc_I;
     static constexpr int kDirectTaps = 32;  // fewer: no record
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 16, kTransformLen = 256;
 };
-struct Direct32f_16s {
+struct Direct32f_16s : DirectForms<Direct32f_16s> {
     using Tap = Vlq32f;
     using Sample = Vlq16s;
     static constexpr bool kScaled = true;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR32f_Direct_16s_Sfs(src, dst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR32f_Direct_16s_ISfs(srcDst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne32f_Direct_16s_Sfs(src, dst, taps, n, line, index, scale);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne32f_Direct_16s_ISfs(srcDst, taps, n, line, index, scale);
-    }
+    static constexpr auto filter = vlqsFIR32f_Direct_16s_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR32f_Direct_16s_ISfs;
+    static constexpr auto filterOne = vlqsFIROne32f_Direct_16s_Sfs;
+    static constexpr auto filterOneInPlace = vlqsFIROne32f_Direct_16s_ISfs;
     static constexpr int kDirectTaps = 1 << 30;
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
 };
-struct Direct32fc_16sc {
+struct Direct32fc_16sc : DirectForms<Direct32fc_16sc> {
     using Tap = Vlq32fc;
     using Sample = Vlq16sc;
     static constexpr bool kScaled = true;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR32fc_Direct_16sc_Sfs(src, dst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR32fc_Direct_16sc_ISfs(srcDst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne32fc_Direct_16sc_Sfs(src, dst, taps, n, line, index, scale);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne32fc_Direct_16sc_ISfs(srcDst, taps, n, line, index, scale);
-    }
+    static constexpr auto filter = vlqsFIR32fc_Direct_16sc_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR32fc_Direct_16sc_ISfs;
+    static constexpr auto filterOne = vlqsFIROne32fc_Direct_16sc_Sfs;
+    static constexpr auto filterOneInPlace = vlqsFIROne32fc_Direct_16sc_ISfs;
     static constexpr int kDirectTaps = 1 << 30;
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
 };
-struct Direct64fc {
+struct Direct64fc : DirectForms<Direct64fc> {
     using Tap = Vlq64fc;
     using Sample = Vlq64fc;
     static constexpr bool kScaled = false;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR_Direct_64fc(src, dst, len, taps, n, line, index);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR_Direct_64fc_I(srcDst, len, taps, n, line, index);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne_Direct_64fc(src, dst, taps, n, line, index);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne_Direct_64fc_I(srcDst, taps, n, line, index);
-    }
+    static constexpr auto filter = vlqsFIR_Direct_64fc;
+    static constexpr auto filterInPlace = vlqsFIR_Direct_64fc_I;
+    static constexpr auto filterOne = vlqsFIROne_Direct_64fc;
+    static constexpr auto filterOneInPlace = vlqsFIROne_Direct_64fc_I;
     static constexpr int kDirectTaps = 16;  // fewer: no record
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 16, kTransformLen = 256;
 };
-struct Direct64fc_16sc {
+struct Direct64fc_16sc : DirectForms<Direct64fc_16sc> {
     using Tap = Vlq64fc;
     using Sample = Vlq16sc;
     static constexpr bool kScaled = true;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR64fc_Direct_16sc_Sfs(src, dst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR64fc_Direct_16sc_ISfs(srcDst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne64fc_Direct_16sc_Sfs(src, dst, taps, n, line, index, scale);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne64fc_Direct_16sc_ISfs(srcDst, taps, n, line, index, scale);
-    }
+    static constexpr auto filter = vlqsFIR64fc_Direct_16sc_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR64fc_Direct_16sc_ISfs;
+    static constexpr auto filterOne = vlqsFIROne64fc_Direct_16sc_Sfs;
+    static constexpr auto filterOneInPlace = vlqsFIROne64fc_Direct_16sc_ISfs;
     static constexpr int kDirectTaps = 1 << 30;
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
 };
-struct Direct64fc_32sc {
+struct Direct64fc_32sc : DirectForms<Direct64fc_32sc> {
     using Tap = Vlq64fc;
     using Sample = Vlq32sc;
     static constexpr bool kScaled = true;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR64fc_Direct_32sc_Sfs(src, dst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR64fc_Direct_32sc_ISfs(srcDst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne64fc_Direct_32sc_Sfs(src, dst, taps, n, line, index, scale);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne64fc_Direct_32sc_ISfs(srcDst, taps, n, line, index, scale);
-    }
+    static constexpr auto filter = vlqsFIR64fc_Direct_32sc_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR64fc_Direct_32sc_ISfs;
+    static constexpr auto filterOne = vlqsFIROne64fc_Direct_32sc_Sfs;
+    static constexpr auto filterOneInPlace = vlqsFIROne64fc_Direct_32sc_ISfs;
     static constexpr int kDirectTaps = 1 << 30;
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
 };
-struct Direct64fc_32fc {
+struct Direct64fc_32fc : DirectForms<Direct64fc_32fc> {
     using Tap = Vlq64fc;
     using Sample = Vlq32fc;
     static constexpr bool kScaled = false;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR64fc_Direct_32fc(src, dst, len, taps, n, line, index);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR64fc_Direct_32fc_I(srcDst, len, taps, n, line, index);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne64fc_Direct_32fc(src, dst, taps, n, line, index);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne64fc_Direct_32fc_I(srcDst, taps, n, line, index);
-    }
+    static constexpr auto filter = vlqsFIR64fc_Direct_32fc;
+    static constexpr auto filterInPlace = vlqsFIR64fc_Direct_32fc_I;
+    static constexpr auto filterOne = vlqsFIROne64fc_Direct_32fc;
+    static constexpr auto filterOneInPlace = vlqsFIROne64fc_Direct_32fc_I;
     static constexpr int kDirectTaps = 1 << 30;
     static constexpr int kDirectLen = 128;  // shorter: no record
     static constexpr int kTransformTaps = 16, kTransformLen = 256;
 };
-struct Direct64f {
+struct Direct64f : DirectForms<Direct64f> {
     using Tap = Vlq64f;
     using Sample = Vlq64f;
     static constexpr bool kScaled = false;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR_Direct_64f(src, dst, len, taps, n, line, index);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR_Direct_64f_I(srcDst, len, taps, n, line, index);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne_Direct_64f(src, dst, taps, n, line, index);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne_Direct_64f_I(srcDst, taps, n, line, index);
-    }
+    static constexpr auto filter = vlqsFIR_Direct_64f;
+    static constexpr auto filterInPlace = vlqsFIR_Direct_64f_I;
+    static constexpr auto filterOne = vlqsFIROne_Direct_64f;
+    static constexpr auto filterOneInPlace = vlqsFIROne_Direct_64f_I;
     static constexpr int kDirectTaps = 32;  // fewer: no record
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 32, kTransformLen = 512;
 };
-struct Direct64f_16s {
+struct Direct64f_16s : DirectForms<Direct64f_16s> {
     using Tap = Vlq64f;
     using Sample = Vlq16s;
     static constexpr bool kScaled = true;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR64f_Direct_16s_Sfs(src, dst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR64f_Direct_16s_ISfs(srcDst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne64f_Direct_16s_Sfs(src, dst, taps, n, line, index, scale);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne64f_Direct_16s_ISfs(srcDst, taps, n, line, index, scale);
-    }
+    static constexpr auto filter = vlqsFIR64f_Direct_16s_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR64f_Direct_16s_ISfs;
+    static constexpr auto filterOne = vlqsFIROne64f_Direct_16s_Sfs;
+    static constexpr auto filterOneInPlace = vlqsFIROne64f_Direct_16s_ISfs;
     static constexpr int kDirectTaps = 1 << 30;
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
 };
-struct Direct64f_32s {
+struct Direct64f_32s : DirectForms<Direct64f_32s> {
     using Tap = Vlq64f;
     using Sample = Vlq32s;
     static constexpr bool kScaled = true;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR64f_Direct_32s_Sfs(src, dst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIR64f_Direct_32s_ISfs(srcDst, len, taps, n, line, index, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne64f_Direct_32s_Sfs(src, dst, taps, n, line, index, scale);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int scale) {
-        return vlqsFIROne64f_Direct_32s_ISfs(srcDst, taps, n, line, index, scale);
-    }
+    static constexpr auto filter = vlqsFIR64f_Direct_32s_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR64f_Direct_32s_ISfs;
+    static constexpr auto filterOne = vlqsFIROne64f_Direct_32s_Sfs;
+    static constexpr auto filterOneInPlace = vlqsFIROne64f_Direct_32s_ISfs;
     static constexpr int kDirectTaps = 1 << 30;
     static constexpr int kDirectLen = 1 << 30;
     static constexpr int kTransformTaps = 1 << 30, kTransformLen = 1 << 30;
 };
-struct Direct64f_32f {
+struct Direct64f_32f : DirectForms<Direct64f_32f> {
     using Tap = Vlq64f;
     using Sample = Vlq32f;
     static constexpr bool kScaled = false;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR64f_Direct_32f(src, dst, len, taps, n, line, index);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIR64f_Direct_32f_I(srcDst, len, taps, n, line, index);
-    }
-    static VlqStatus one(Sample src, Sample* dst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne64f_Direct_32f(src, dst, taps, n, line, index);
-    }
-    static VlqStatus oneInPlace(Sample* srcDst, const Tap* taps, int n, Sample* line, Vlq32s* index, int) {
-        return vlqsFIROne64f_Direct_32f_I(srcDst, taps, n, line, index);
-    }
+    static constexpr auto filter = vlqsFIR64f_Direct_32f;
+    static constexpr auto filterInPlace = vlqsFIR64f_Direct_32f_I;
+    static constexpr auto filterOne = vlqsFIROne64f_Direct_32f;
+    static constexpr auto filterOneInPlace = vlqsFIROne64f_Direct_32f_I;
     static constexpr int kDirectTaps = 1 << 30;
     static constexpr int kDirectLen = 256;  // shorter: no record
     static constexpr int kTransformTaps = 32, kTransformLen = 512;

@@ -98,37 +98,41 @@ TYPED_TEST(FirIntBlock, EveryScale) {
     }
 }
 
-// A stream cut into blocks, blocks in place and single samples at random is one stream.
+// A stream cut into blocks, blocks in place and single samples at random is one stream: ten thousand
+// cuts.
 TYPED_TEST(FirIntBlock, AnyCut) {
     using Sample = typename TypeParam::Sample;
-    for (int run = 0; run < 150; ++run) {
-        const int taps = run % 5 == 0 ? 1 + run / 5 : 1 + this->below(140);
+    for (int run = 0; run < 250; ++run) {
+        const int taps = run % 5 == 0 ? 1 + run / 5 : 1 + this->below(140), all = 1 + this->below(run % 4 == 0 ? 1500 : 300);
         const auto h = wideTaps<typename TypeParam::Tap>(count(taps), this->rng);
-        const auto src = values<Sample>(count(2000), this->rng);
+        const auto past = values<Sample>(count(taps), this->rng), src = values<Sample>(count(all), this->rng);
         const int scale = this->below(8) - 3;
         Record<TypeParam> record(h, -18);
-        auto ref = referenceOf<TypeParam>(h, -18);
+        auto ref = referenceOf<TypeParam>(h, -18, past);
         const auto want = ref.block(src, scale);
-        std::vector<Sample> got(src.size());
-        for (int done = 0; done < 2000;) {
-            const int longest = run % 3 == 0 ? 12 : run % 3 == 1 ? 100 : 700;
-            const int len = std::min(2000 - done, 1 + this->below(longest));
-            Sample* out = &got[count(done)];
-            switch (this->below(3)) {
-                case 0:
-                    ASSERT_EQ(vlqStsOk, TypeParam::filter(&src[count(done)], out, len, record.state, scale));
-                    break;
-                case 1:
-                    std::copy_n(&src[count(done)], len, out);
-                    ASSERT_EQ(vlqStsOk, TypeParam::inPlace(out, len, record.state, scale));
-                    break;
-                default:
-                    for (int i = 0; i < len; ++i) ASSERT_EQ(vlqStsOk, TypeParam::one(src[count(done + i)], out + i, record.state, scale));
+        for (int cut = 0; cut < 40; ++cut) {
+            ASSERT_EQ(vlqStsOk, TypeParam::setLine(record.state, past.data()));
+            std::vector<Sample> got(src.size());
+            const int longest = cut % 4 == 0 ? 4 : cut % 4 == 1 ? 40 : cut % 4 == 2 ? taps + 8 : all;
+            for (int done = 0; done < all;) {
+                const int len = std::min(all - done, 1 + this->below(longest));
+                Sample* out = &got[count(done)];
+                switch (this->below(3)) {
+                    case 0:
+                        ASSERT_EQ(vlqStsOk, TypeParam::filter(&src[count(done)], out, len, record.state, scale));
+                        break;
+                    case 1:
+                        std::copy_n(&src[count(done)], len, out);
+                        ASSERT_EQ(vlqStsOk, TypeParam::inPlace(out, len, record.state, scale));
+                        break;
+                    default:
+                        for (int i = 0; i < len; ++i) ASSERT_EQ(vlqStsOk, TypeParam::one(src[count(done + i)], out + i, record.state, scale));
+                }
+                done += len;
             }
-            done += len;
+            ASSERT_EQ(want, got) << "run " << run << ", cut " << cut << ", " << taps << " taps";
+            ASSERT_EQ(ref.line, record.line());
         }
-        ASSERT_EQ(want, got) << "run " << run << ", " << taps << " taps";
-        ASSERT_EQ(ref.line, record.line());
     }
 }
 

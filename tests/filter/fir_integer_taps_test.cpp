@@ -157,6 +157,11 @@ TEST_F(FirIntegerTaps, Checks) {
     Core::refuseAllocation(1);
     EXPECT_EQ(vlqStsNoMemory, vlqsFIRInitAlloc_32s(&state, taps, 2, nullptr));
     Core::refuseAllocation(0);
+    // A record of 2 GiB and more is refused before memory is asked for.
+    const int before = Core::allocations();
+    EXPECT_EQ(vlqStsNoMemory, vlqsFIRInitAlloc_32s(&state, taps, 1 << 28, nullptr));
+    EXPECT_EQ(vlqStsNoMemory, vlqsFIRInitAlloc_32s(&state, taps, INT_MAX, nullptr));
+    EXPECT_EQ(before, Core::allocations());
     EXPECT_EQ(nullptr, state);
     EXPECT_TRUE(memory.untouched());
     ASSERT_EQ(vlqStsOk, vlqsFIRInit_32s(&state, taps, 2, nullptr, memory.data()));

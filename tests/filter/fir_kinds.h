@@ -1,4 +1,4 @@
-// The kinds of FIR records beyond single precision, each with its functions under common names.
+// The kinds of floating FIR records, each with its functions under common names.
 #pragma once
 
 #include <cmath>
@@ -12,7 +12,67 @@
 
 namespace vlqtest {
 
-struct Fir32fc {
+// The filter functions of a kind in one form: those without a scale factor ignore it.
+template <class Kind>
+struct FirForms {
+    template <class K = Kind>
+    static VlqStatus block(const typename K::Sample* src, typename K::Sample* dst, int len, typename K::State* state, int scale) {
+        if constexpr (K::kScaled) return K::filter(src, dst, len, state, scale);
+        else return K::filter(src, dst, len, state);
+    }
+    template <class K = Kind>
+    static VlqStatus inPlace(typename K::Sample* srcDst, int len, typename K::State* state, int scale) {
+        if constexpr (K::kScaled) return K::filterInPlace(srcDst, len, state, scale);
+        else return K::filterInPlace(srcDst, len, state);
+    }
+    template <class K = Kind>
+    static VlqStatus one(typename K::Sample src, typename K::Sample* dst, typename K::State* state, int scale) {
+        if constexpr (K::kScaled) return K::filterOne(src, dst, state, scale);
+        else return K::filterOne(src, dst, state);
+    }
+};
+
+struct Fir32f : FirForms<Fir32f> {
+    using Tap = Vlq32f;
+    using Sample = Vlq32f;
+    using State = VlqsFIRState_32f;
+    static constexpr bool kScaled = false;
+    static constexpr Vlq32u kWord = 0x46493031, kMultiRateWord = 0x46493033;
+    static constexpr int kTransformTaps = 64;
+    static constexpr auto stateSize = vlqsFIRGetStateSize_32f;
+    static constexpr auto init = vlqsFIRInit_32f;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc_32f;
+    static constexpr auto free = vlqsFIRFree_32f;
+    static constexpr auto setTaps = vlqsFIRSetTaps_32f;
+    static constexpr auto getTaps = vlqsFIRGetTaps_32f;
+    static constexpr auto setLine = vlqsFIRSetDlyLine_32f;
+    static constexpr auto getLine = vlqsFIRGetDlyLine_32f;
+    static constexpr auto transformSize = vlqsFFTGetSize_R_32f;
+    static constexpr auto filter = vlqsFIR_32f;
+    static constexpr auto filterInPlace = vlqsFIR_32f_I;
+    static constexpr auto filterOne = vlqsFIROne_32f;
+};
+struct Fir32f_16s : FirForms<Fir32f_16s> {
+    using Tap = Vlq32f;
+    using Sample = Vlq16s;
+    using State = VlqsFIRState32f_16s;
+    static constexpr bool kScaled = true;
+    static constexpr Vlq32u kWord = 0x46493035, kMultiRateWord = 0x46493037;
+    static constexpr int kTransformTaps = 64;
+    static constexpr auto stateSize = vlqsFIRGetStateSize32f_16s;
+    static constexpr auto init = vlqsFIRInit32f_16s;
+    static constexpr auto initAlloc = vlqsFIRInitAlloc32f_16s;
+    static constexpr auto free = vlqsFIRFree32f_16s;
+    static constexpr auto setTaps = vlqsFIRSetTaps32f_16s;
+    static constexpr auto getTaps = vlqsFIRGetTaps32f_16s;
+    static constexpr auto setLine = vlqsFIRSetDlyLine32f_16s;
+    static constexpr auto getLine = vlqsFIRGetDlyLine32f_16s;
+    static constexpr auto transformSize = vlqsFFTGetSize_R_32f;
+    static constexpr auto filter = vlqsFIR32f_16s_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR32f_16s_ISfs;
+    static constexpr auto filterOne = vlqsFIROne32f_16s_Sfs;
+};
+struct Fir32fc : FirForms<Fir32fc> {
     using Tap = Vlq32fc;
     using Sample = Vlq32fc;
     using State = VlqsFIRState_32fc;
@@ -28,17 +88,11 @@ struct Fir32fc {
     static constexpr auto setLine = vlqsFIRSetDlyLine_32fc;
     static constexpr auto getLine = vlqsFIRGetDlyLine_32fc;
     static constexpr auto transformSize = vlqsFFTGetSize_C_32fc;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
-        return vlqsFIR_32fc(src, dst, len, state);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
-        return vlqsFIR_32fc_I(srcDst, len, state);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
-        return vlqsFIROne_32fc(src, dst, state);
-    }
+    static constexpr auto filter = vlqsFIR_32fc;
+    static constexpr auto filterInPlace = vlqsFIR_32fc_I;
+    static constexpr auto filterOne = vlqsFIROne_32fc;
 };
-struct Fir32fc_16sc {
+struct Fir32fc_16sc : FirForms<Fir32fc_16sc> {
     using Tap = Vlq32fc;
     using Sample = Vlq16sc;
     using State = VlqsFIRState32fc_16sc;
@@ -54,17 +108,11 @@ struct Fir32fc_16sc {
     static constexpr auto setLine = vlqsFIRSetDlyLine32fc_16sc;
     static constexpr auto getLine = vlqsFIRGetDlyLine32fc_16sc;
     static constexpr auto transformSize = vlqsFFTGetSize_C_32fc;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
-        return vlqsFIR32fc_16sc_Sfs(src, dst, len, state, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
-        return vlqsFIR32fc_16sc_ISfs(srcDst, len, state, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
-        return vlqsFIROne32fc_16sc_Sfs(src, dst, state, scale);
-    }
+    static constexpr auto filter = vlqsFIR32fc_16sc_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR32fc_16sc_ISfs;
+    static constexpr auto filterOne = vlqsFIROne32fc_16sc_Sfs;
 };
-struct Fir64fc {
+struct Fir64fc : FirForms<Fir64fc> {
     using Tap = Vlq64fc;
     using Sample = Vlq64fc;
     using State = VlqsFIRState_64fc;
@@ -80,17 +128,11 @@ struct Fir64fc {
     static constexpr auto setLine = vlqsFIRSetDlyLine_64fc;
     static constexpr auto getLine = vlqsFIRGetDlyLine_64fc;
     static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
-        return vlqsFIR_64fc(src, dst, len, state);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
-        return vlqsFIR_64fc_I(srcDst, len, state);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
-        return vlqsFIROne_64fc(src, dst, state);
-    }
+    static constexpr auto filter = vlqsFIR_64fc;
+    static constexpr auto filterInPlace = vlqsFIR_64fc_I;
+    static constexpr auto filterOne = vlqsFIROne_64fc;
 };
-struct Fir64fc_32fc {
+struct Fir64fc_32fc : FirForms<Fir64fc_32fc> {
     using Tap = Vlq64fc;
     using Sample = Vlq32fc;
     using State = VlqsFIRState64fc_32fc;
@@ -106,17 +148,11 @@ struct Fir64fc_32fc {
     static constexpr auto setLine = vlqsFIRSetDlyLine64fc_32fc;
     static constexpr auto getLine = vlqsFIRGetDlyLine64fc_32fc;
     static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
-        return vlqsFIR64fc_32fc(src, dst, len, state);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
-        return vlqsFIR64fc_32fc_I(srcDst, len, state);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
-        return vlqsFIROne64fc_32fc(src, dst, state);
-    }
+    static constexpr auto filter = vlqsFIR64fc_32fc;
+    static constexpr auto filterInPlace = vlqsFIR64fc_32fc_I;
+    static constexpr auto filterOne = vlqsFIROne64fc_32fc;
 };
-struct Fir64fc_32sc {
+struct Fir64fc_32sc : FirForms<Fir64fc_32sc> {
     using Tap = Vlq64fc;
     using Sample = Vlq32sc;
     using State = VlqsFIRState64fc_32sc;
@@ -132,17 +168,11 @@ struct Fir64fc_32sc {
     static constexpr auto setLine = vlqsFIRSetDlyLine64fc_32sc;
     static constexpr auto getLine = vlqsFIRGetDlyLine64fc_32sc;
     static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
-        return vlqsFIR64fc_32sc_Sfs(src, dst, len, state, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
-        return vlqsFIR64fc_32sc_ISfs(srcDst, len, state, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
-        return vlqsFIROne64fc_32sc_Sfs(src, dst, state, scale);
-    }
+    static constexpr auto filter = vlqsFIR64fc_32sc_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR64fc_32sc_ISfs;
+    static constexpr auto filterOne = vlqsFIROne64fc_32sc_Sfs;
 };
-struct Fir64fc_16sc {
+struct Fir64fc_16sc : FirForms<Fir64fc_16sc> {
     using Tap = Vlq64fc;
     using Sample = Vlq16sc;
     using State = VlqsFIRState64fc_16sc;
@@ -158,17 +188,11 @@ struct Fir64fc_16sc {
     static constexpr auto setLine = vlqsFIRSetDlyLine64fc_16sc;
     static constexpr auto getLine = vlqsFIRGetDlyLine64fc_16sc;
     static constexpr auto transformSize = vlqsFFTGetSize_C_64fc;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
-        return vlqsFIR64fc_16sc_Sfs(src, dst, len, state, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
-        return vlqsFIR64fc_16sc_ISfs(srcDst, len, state, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
-        return vlqsFIROne64fc_16sc_Sfs(src, dst, state, scale);
-    }
+    static constexpr auto filter = vlqsFIR64fc_16sc_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR64fc_16sc_ISfs;
+    static constexpr auto filterOne = vlqsFIROne64fc_16sc_Sfs;
 };
-struct Fir64f {
+struct Fir64f : FirForms<Fir64f> {
     using Tap = Vlq64f;
     using Sample = Vlq64f;
     using State = VlqsFIRState_64f;
@@ -184,17 +208,11 @@ struct Fir64f {
     static constexpr auto setLine = vlqsFIRSetDlyLine_64f;
     static constexpr auto getLine = vlqsFIRGetDlyLine_64f;
     static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
-        return vlqsFIR_64f(src, dst, len, state);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
-        return vlqsFIR_64f_I(srcDst, len, state);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
-        return vlqsFIROne_64f(src, dst, state);
-    }
+    static constexpr auto filter = vlqsFIR_64f;
+    static constexpr auto filterInPlace = vlqsFIR_64f_I;
+    static constexpr auto filterOne = vlqsFIROne_64f;
 };
-struct Fir64f_32f {
+struct Fir64f_32f : FirForms<Fir64f_32f> {
     using Tap = Vlq64f;
     using Sample = Vlq32f;
     using State = VlqsFIRState64f_32f;
@@ -210,17 +228,11 @@ struct Fir64f_32f {
     static constexpr auto setLine = vlqsFIRSetDlyLine64f_32f;
     static constexpr auto getLine = vlqsFIRGetDlyLine64f_32f;
     static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int) {
-        return vlqsFIR64f_32f(src, dst, len, state);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int) {
-        return vlqsFIR64f_32f_I(srcDst, len, state);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int) {
-        return vlqsFIROne64f_32f(src, dst, state);
-    }
+    static constexpr auto filter = vlqsFIR64f_32f;
+    static constexpr auto filterInPlace = vlqsFIR64f_32f_I;
+    static constexpr auto filterOne = vlqsFIROne64f_32f;
 };
-struct Fir64f_32s {
+struct Fir64f_32s : FirForms<Fir64f_32s> {
     using Tap = Vlq64f;
     using Sample = Vlq32s;
     using State = VlqsFIRState64f_32s;
@@ -236,17 +248,11 @@ struct Fir64f_32s {
     static constexpr auto setLine = vlqsFIRSetDlyLine64f_32s;
     static constexpr auto getLine = vlqsFIRGetDlyLine64f_32s;
     static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
-        return vlqsFIR64f_32s_Sfs(src, dst, len, state, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
-        return vlqsFIR64f_32s_ISfs(srcDst, len, state, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
-        return vlqsFIROne64f_32s_Sfs(src, dst, state, scale);
-    }
+    static constexpr auto filter = vlqsFIR64f_32s_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR64f_32s_ISfs;
+    static constexpr auto filterOne = vlqsFIROne64f_32s_Sfs;
 };
-struct Fir64f_16s {
+struct Fir64f_16s : FirForms<Fir64f_16s> {
     using Tap = Vlq64f;
     using Sample = Vlq16s;
     using State = VlqsFIRState64f_16s;
@@ -262,15 +268,9 @@ struct Fir64f_16s {
     static constexpr auto setLine = vlqsFIRSetDlyLine64f_16s;
     static constexpr auto getLine = vlqsFIRGetDlyLine64f_16s;
     static constexpr auto transformSize = vlqsFFTGetSize_R_64f;
-    static VlqStatus block(const Sample* src, Sample* dst, int len, State* state, int scale) {
-        return vlqsFIR64f_16s_Sfs(src, dst, len, state, scale);
-    }
-    static VlqStatus inPlace(Sample* srcDst, int len, State* state, int scale) {
-        return vlqsFIR64f_16s_ISfs(srcDst, len, state, scale);
-    }
-    static VlqStatus one(Sample src, Sample* dst, State* state, int scale) {
-        return vlqsFIROne64f_16s_Sfs(src, dst, state, scale);
-    }
+    static constexpr auto filter = vlqsFIR64f_16s_Sfs;
+    static constexpr auto filterInPlace = vlqsFIR64f_16s_ISfs;
+    static constexpr auto filterOne = vlqsFIROne64f_16s_Sfs;
 };
 
 // ---- values of every type -------------------------------------------------------------------------
