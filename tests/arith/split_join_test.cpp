@@ -22,7 +22,7 @@ struct Rows {
     Rows(int channels, int frames, Rng& rng) {
         const bool atGuardPage = rng() % 4 == 0;
         for (int c = 0; c < channels; ++c) {
-            const Placement place{static_cast<int>(rng() % 16) * 4, atGuardPage};
+            const Placement place{static_cast<int>(rng() % 64), atGuardPage};  // odd addresses too
             rows.push_back(std::make_unique<Buffer<float>>(static_cast<std::size_t>(frames), place));
             pointers.push_back(rows.back()->data());
         }
@@ -179,6 +179,23 @@ TEST(SplitJoin, Checks) {
         EXPECT_EQ(vlqStsBadSize, vlqsJoinScaled_32f16s_D2L(rows, 3, bad, dst16.data()));
         EXPECT_EQ(vlqStsBadSize, vlqsJoinScaled_32f24s_D2L(rows, bad, 4, dst24.data()));
         EXPECT_EQ(vlqStsBadSize, vlqsJoinScaled_32f24s_D2L(rows, 3, bad, dst24.data()));
+    }
+    // A null row in any place comes before the counts; without channels no row is looked at.
+    for (int null = 0; null < 3; ++null) {
+        float* some[] = {a.data(), b.data(), c.data()};
+        some[null] = nullptr;
+        for (const int frames : {4, 0, -1, INT32_MIN}) {
+            EXPECT_EQ(vlqStsNullPtr, vlqsSplitScaled_16s32f_D2L(src16, some, 3, frames)) << null << ", " << frames;
+            EXPECT_EQ(vlqStsNullPtr, vlqsSplitScaled_24s32f_D2L(src24, some, 3, frames)) << null << ", " << frames;
+            EXPECT_EQ(vlqStsNullPtr, vlqsJoinScaled_32f16s_D2L(some, 3, frames, dst16.data())) << null << ", " << frames;
+            EXPECT_EQ(vlqStsNullPtr, vlqsJoinScaled_32f24s_D2L(some, 3, frames, dst24.data())) << null << ", " << frames;
+        }
+        for (const int channels : {0, -1, INT32_MIN}) {
+            EXPECT_EQ(vlqStsBadSize, vlqsSplitScaled_16s32f_D2L(src16, some, channels, 4));
+            EXPECT_EQ(vlqStsBadSize, vlqsSplitScaled_24s32f_D2L(src24, some, channels, 4));
+            EXPECT_EQ(vlqStsBadSize, vlqsJoinScaled_32f16s_D2L(some, channels, 4, dst16.data()));
+            EXPECT_EQ(vlqStsBadSize, vlqsJoinScaled_32f24s_D2L(some, channels, 4, dst24.data()));
+        }
     }
     EXPECT_TRUE(a.untouched());
     EXPECT_TRUE(b.untouched());
