@@ -26,6 +26,85 @@ private:
     ScaleRight<T> scale_;
 };
 
+// ---- 16-bit results by the words of the product --------------------------------------------------------
+// The upper words hold the quotient, so that no lane is widened.
+class RoundUpperWord {
+public:
+    using V = Vec<std::int16_t>;
+
+    // 17 <= scaleFactor <= 31
+    explicit RoundUpperWord(std::int32_t scaleFactor)
+        : shift_(scaleFactor - 16), remainder_(V::broadcast(static_cast<std::int16_t>((1 << shift_) - 1))),
+          belowMiddle_(V::broadcast(static_cast<std::int16_t>((1 << (shift_ - 1)) - 1))) {}
+    V operator()(V lower, V upper) const {
+        const V quotient = shiftRight(upper, shift_);
+        // The middle itself goes up from an odd quotient, and where the lower word lies above it.
+        const V stays = (lower == V::zero()) & ~quotient & V::broadcast(1);
+        return quotient - ((upper & remainder_) > (belowMiddle_ + stays));
+    }
+
+private:
+    int shift_;
+    V remainder_, belowMiddle_;
+};
+// Scale factor 16.
+struct RoundToUpperWord {
+    using V = Vec<std::int16_t>;
+    V operator()(V lower, V upper) const {
+        const V odd = upper & V::broadcast(1);
+        return upper - ((lower ^ V::broadcast(std::numeric_limits<std::int16_t>::min())) > (V::zero() - odd));
+    }
+};
+// Scale factor 15: the quotient has a bit of the lower word, and 2^15 saturates.
+struct RoundOffLowerBits {
+    using V = Vec<std::int16_t>;
+    V operator()(V lower, V upper) const {
+        const V bit = bitCast<std::int16_t>(shiftRight(bitCast<std::uint16_t>(lower), 15));
+        const V up = (lower & V::broadcast(0x7FFF)) > (V::broadcast(0x4000) - bit);
+        return subSat(addSat(addSat(upper, upper), bit), up);
+    }
+};
+// Scale factors 2 to 14. Ties are first rounded down, and go up where that gave an odd result. Where the
+// result was out of range that is right too: the lower limit is even, and the upper one stays.
+class RoundLowerWord {
+public:
+    using V = Vec<std::int16_t>;
+
+    explicit RoundLowerWord(std::int32_t scaleFactor)
+        : shift_(scaleFactor), bias_(Vec<std::int32_t>::broadcast((1 << (scaleFactor - 1)) - 1)),
+          remainder_(V::broadcast(static_cast<std::int16_t>((1 << scaleFactor) - 1))), middle_(V::broadcast(static_cast<std::int16_t>(1 << (scaleFactor - 1)))) {}
+    V operator()(V a, V b) const {
+        const auto e = productLanes(a, b);
+        const V down = narrowLanes<std::int16_t>({{shiftRight(e.part[0] + bias_, shift_), shiftRight(e.part[1] + bias_, shift_)}});
+        const V tie = (a * b & remainder_) == middle_;
+        return addSat(down, tie & down & V::broadcast(1));
+    }
+
+private:
+    int shift_;
+    Vec<std::int32_t> bias_;
+    V remainder_, middle_;
+};
+
+// Hands `run` the operation on two vectors for scale factors above 1 where words serve; says whether
+// they do.
+template <class A, class Run>
+inline bool withWords(std::int32_t scaleFactor, Run run) {
+    using V = Vec<std::int16_t>;
+    const auto words = [&](auto round) {
+        run([round](Vec<A> a, V b) { return round(bitCast<std::int16_t>(a) * b, productUpper(a, b)); });
+        return true;
+    };
+    if (scaleFactor >= 17) return words(RoundUpperWord(scaleFactor));
+    if (scaleFactor == 16) return words(RoundToUpperWord{});
+    if constexpr (std::is_signed_v<A>) {
+        if (scaleFactor == 15) return words(RoundOffLowerBits{});
+        run(RoundLowerWord(scaleFactor));
+        return true;
+    }
+    return false;
+}
+
 template <class Op, class T>
 inline Block<T, 2> both(const Op& op, Block<T, 2> v) {
     return {{op(v.part[0]), op(v.part[1])}};
@@ -102,12 +181,19 @@ struct SumOfProduct16s {
     template <class>
     static constexpr int vanishesFrom = 32;
     using V = Vec<std::int16_t>;
-    static Block<std::int32_t, 2> exact(V acc, V a, V b) {
-        const auto sum = widenLanes(acc), product = productLanes(a, b);
-        return {{sum.part[0] + product.part[0], sum.part[1] + product.part[1]}};
-    }
+    static auto exact(V acc, V a, V b) { return productLanesPlus(a, b, acc); }
     static V saturated(V acc, V a, V b) { return narrowed(exact(acc, a, b)); }
     static V narrowed(Block<std::int32_t, 2> e) { return narrowLanes<Stored>(e); }
+};
+
+// Over 2^31 only what lies above 2^30 leaves anything.
+struct LastOfSum16s {
+    using V = Vec<std::int16_t>;
+    V operator()(V acc, V a, V b) const {
+        const auto middle = Vec<std::int32_t>::broadcast(1 << 30);
+        const auto e = productLanesPlus(a, b, acc);
+        return V::zero() - narrowLanes<std::int16_t>({{e.part[0] > middle, e.part[1] > middle}});
+    }
 };
 
 // ---- the rule ----------------------------------------------------------------------------------------
@@ -136,6 +222,13 @@ inline void withScale(std::int32_t scaleFactor, Run run) {
             return Family::narrowed(both([](auto e) { return roundHalf(e); }, Family::exact(operands...)));
         });
     case Scaling::Right:
+        if constexpr (std::is_same_v<Family, Product16s>) {
+            if (withWords<std::int16_t>(scaleFactor, run)) return;
+        } else if constexpr (std::is_same_v<Family, Product16u16s>) {
+            if (withWords<std::uint16_t>(scaleFactor, run)) return;
+        } else if constexpr (std::is_same_v<Family, SumOfProduct16s>) {
+            if (scaleFactor == 31) return run(LastOfSum16s{});
+        }
         if (scaleFactor <= Family::roomUpTo) return run(rounded<Family, RoundRight>(scaleFactor));
         return run(rounded<Family, RoundAny>(scaleFactor));
     case Scaling::Vanish:
@@ -175,6 +268,8 @@ struct SumOfProduct16s32s {
 
     using V = Vec<std::int32_t>;
     static V saturated(V acc, V product) { return addSat(acc, product); }
+    // In the sign bit, that of the exact sum: the operands' own where they agree.
+    static V sign(V acc, V product) { return acc ^ ((acc ^ product) & (acc ^ (acc + product))); }
     static Halved<std::int32_t> halved(V acc, V product) {
         const auto odd = acc ^ product;
         return {(acc & product) + shiftRight(odd, 1), odd};
@@ -188,7 +283,7 @@ inline void withScaleOfSum16s32s(std::int32_t scaleFactor, Run run) {
     case Scaling::None:
         return run([](V acc, V product) { return Sum::saturated(acc, product); });
     case Scaling::Left:
-        return run([scale = ScaleLeft<std::int32_t>(scaleFactor)](V acc, V product) { return scale(Sum::saturated(acc, product)); });
+        return run([scale = ScaleLeft<std::int32_t>(scaleFactor)](V acc, V product) { return scale(acc + product, Sum::sign(acc, product)); });
     case Scaling::Half:
         return run([](V acc, V product) {
             const auto e = Sum::halved(acc, product);

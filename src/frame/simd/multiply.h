@@ -42,6 +42,17 @@ inline Block<T, 2> inMemoryOrder(Block<T, 2> v) {
 #endif
 }
 
+// ---- products by words ---------------------------------------------------------------------------------
+// The products' upper words; the lower ones are a * b.
+inline Vec<std::int16_t> productUpper(Vec<std::int16_t> a, Vec<std::int16_t> b) {
+    return fromRegister<std::int16_t>(VLQ_INTRINSIC(mulhi_epi16)(asInt(a), asInt(b)));
+}
+inline Vec<std::int16_t> productUpper(Vec<std::uint16_t> a, Vec<std::int16_t> b) {
+    // As unsigned a negative b is 2^16 too much, and the upper word of the product is a too much.
+    const auto excess = a & bitCast<std::uint16_t>(shiftRight(b, 15));
+    return bitCast<std::int16_t>(fromRegister<std::uint16_t>(VLQ_INTRINSIC(mulhi_epu16)(asInt(a), asInt(b))) - excess);
+}
+
 // ---- products in lane order --------------------------------------------------------------------------
 inline Block<std::uint16_t, 2> productLanes(Vec<std::uint8_t> a, Vec<std::uint8_t> b) {
     const auto zero = asInt(Vec<std::uint8_t>::zero());
@@ -55,10 +66,14 @@ inline Block<std::uint32_t, 2> productLanes(Vec<std::uint16_t> a, Vec<std::uint1
     return detail::unpackWords<std::uint32_t>(VLQ_INTRINSIC(mullo_epi16)(asInt(a), asInt(b)), VLQ_INTRINSIC(mulhi_epu16)(asInt(a), asInt(b)));
 }
 inline Block<std::int32_t, 2> productLanes(Vec<std::uint16_t> a, Vec<std::int16_t> b) {
-    // As unsigned a negative b is 2^16 too much, and the upper word of the product is a too much.
-    const auto excess = a & bitCast<std::uint16_t>(shiftRight(b, 15));
-    const auto upper = fromRegister<std::uint16_t>(VLQ_INTRINSIC(mulhi_epu16)(asInt(a), asInt(b))) - excess;
-    return detail::unpackWords<std::int32_t>(VLQ_INTRINSIC(mullo_epi16)(asInt(a), asInt(b)), asInt(upper));
+    return detail::unpackWords<std::int32_t>(VLQ_INTRINSIC(mullo_epi16)(asInt(a), asInt(b)), asInt(productUpper(a, b)));
+}
+
+// c + a * b, where it fits: c is a product with one.
+inline Block<std::int32_t, 2> productLanesPlus(Vec<std::int16_t> a, Vec<std::int16_t> b, Vec<std::int16_t> c) {
+    const auto one = asInt(Vec<std::int16_t>::broadcast(1));
+    return {{fromRegister<std::int32_t>(VLQ_INTRINSIC(madd_epi16)(VLQ_INTRINSIC(unpacklo_epi16)(asInt(a), asInt(c)), VLQ_INTRINSIC(unpacklo_epi16)(asInt(b), one))),
+             fromRegister<std::int32_t>(VLQ_INTRINSIC(madd_epi16)(VLQ_INTRINSIC(unpackhi_epi16)(asInt(a), asInt(c)), VLQ_INTRINSIC(unpackhi_epi16)(asInt(b), one)))}};
 }
 
 // Elements of both signs, widened.
