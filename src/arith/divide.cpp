@@ -1,5 +1,6 @@
 // Quotients of integers. The second vector is divided by the first.
 #include "arith/divide_kernels.h"
+#include "arith/divide_wide_kernels.h"
 
 #include <algorithm>
 
@@ -212,16 +213,8 @@ VlqStatus vlq::vlqsDivC_64s_ISfs(Vlq64s val, Vlq64s* srcDst, Vlq32s len, Vlq32s 
     if (!srcDst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (val == 0) return vlqStsZeroDivisor;
-    const auto bits = static_cast<std::uint64_t>(val);
-    std::uint64_t divisor = val < 0 ? 0 - bits : bits;
-    if (scaleFactor > 0) {
-        // The scale goes into the divisor; from 2^64 on that is at least twice any numerator.
-        if (scaleFactor > 63 || divisor > ~std::uint64_t{0} >> scaleFactor) return vlqsZero_64s(srcDst, len);
-        divisor <<= scaleFactor;
-    }
-    const std::int64_t up = scaleFactor < 0 ? -std::int64_t{scaleFactor} : 0;
-    mapScalars(srcDst, len, Quotient64s{Quotient64(divisor, up), val < 0}, srcDst);
-    return vlqStsOk;
+    const bool vanishes = withQuotient(val, scaleFactor, [&](auto op) { mapScalars(srcDst, len, op, srcDst); });
+    return vanishes ? vlqsZero_64s(srcDst, len) : vlqStsOk;
 }
 VlqStatus vlq::vlqsDivCRev_16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len) {
     return constantBy16u(src, val, dst, len);
