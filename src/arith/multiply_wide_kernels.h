@@ -88,7 +88,8 @@ template <class T, class Wide, class Run>
 inline void withScalarScale(std::int64_t scaleFactor, Run run) {
     if (scaleFactor == 0) run([](Wide e) { return clampTo<T>(e); });
     else if (scaleFactor < 0) run(ScalarLeft<T, Wide>(-scaleFactor));
-    else run(ScalarRight<T, Wide>(static_cast<int>(scaleFactor)));
+    else if (scaleFactor <= ScalarRight<T, Wide>::lastShift) run(ScalarRight<T, Wide>(static_cast<int>(scaleFactor)));
+    else run(ScalarRightFar<T, Wide>(static_cast<int>(scaleFactor)));
 }
 
 struct ComplexExact32s {

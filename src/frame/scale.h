@@ -148,21 +148,40 @@ private:
     int count_;
 };
 
-// clamp(round(e * 2^-shift)) for 1 <= shift < width of Wide.
+// clamp(round(e * 2^-shift)), 1 <= shift. Which values saturate is known beforehand; the others leave
+// room for half a quotient more.
 template <class T, class Wide>
 class ScalarRight {
 public:
-    explicit ScalarRight(int shift) : shift_(shift), middle_(Wide{1} << (shift - 1)), remainder_((middle_ - 1) | middle_) {}
+    static constexpr int lastShift = std::numeric_limits<T>::digits + 1;
+
+    explicit ScalarRight(int shift)
+        : shift_(shift), bias_((Wide{1} << (shift - 1)) - 1), low_(Wide{std::numeric_limits<T>::min()} * (Wide{1} << shift)),
+          high_(Wide{std::numeric_limits<T>::max()} * (Wide{1} << shift)) {}
     T operator()(Wide e) const {
-        const Wide quotient = e >> shift_;
-        // A tie goes up from an odd quotient.
-        const bool up = (e & remainder_) > middle_ - (quotient & 1);
-        return clampTo<T>(static_cast<Wide>(quotient + up));
+        const Wide within = e < low_ ? low_ : e > high_ ? high_ : e;
+        return static_cast<T>((within + bias_ + (within >> shift_ & 1)) >> shift_);
     }
 
 private:
     int shift_;
-    Wide middle_, remainder_;
+    Wide bias_, low_, high_;
+};
+
+// The same for lastShift < shift < width of Wide: every result fits. A bit goes first, which stays
+// noted in the lowest one.
+template <class T, class Wide>
+class ScalarRightFar {
+public:
+    explicit ScalarRightFar(int shift) : shift_(shift - 1), bias_((Wide{1} << (shift - 2)) - 1) {}
+    T operator()(Wide e) const {
+        const Wide half = e >> 1 | (e & 1);
+        return static_cast<T>((half + bias_ + (half >> shift_ & 1)) >> shift_);
+    }
+
+private:
+    int shift_;
+    Wide bias_;
 };
 
 }  // namespace vlq
