@@ -170,18 +170,18 @@ int main(int argc, char** argv) {
     addMul<Vlq16u, Vlq64s>("mul 16u", vlqsMul_16u_Sfs, {0, 1, 15, 32, -3}, three);
     addMul<Vlq16s, Vlq32s>("mul 16u by 16s", vlqsMul_16u16s_Sfs, {0, 1, 15, 31, -3}, three);
     addMul<Vlq32s, Vlq64s>("mul 16s to 32s", vlqsMul_16s32s_Sfs, {0, 1, 15, -3}, three);
-    addMul<Vlq32s, Vlq64s>("mul 32s", vlqsMul_32s_Sfs, {0, 1, 15, 40, -3}, 1);
+    addMul<Vlq32s, Vlq64s>("mul 32s", vlqsMul_32s_Sfs, {0, 1, 15, 25, 40, -3}, 1);
     addComplexMul<Vlq16s, Vlq16sc, Vlq64s>("mul 16sc", vlqsMul_16sc_Sfs, {0, 1, 15, -3}, three);
     addComplexMul<Vlq32s, Vlq32sc, Vlq64s>("mul 32sc", vlqsMul_32sc_Sfs, {0, 1, 31, 50, -3}, 1);
     addMulC<Vlq8u, Vlq32s>("mulC 8u", vlqsMulC_8u_Sfs, {0, 1, 5, -3}, three);
     addMulC<Vlq16s, Vlq32s>("mulC 16s", vlqsMulC_16s_Sfs, {0, 1, 5, 15, 20, -3}, three);
     addMulC<Vlq16u, Vlq64s>("mulC 16u", vlqsMulC_16u_Sfs, {0, 1, 15, -3}, three);
-    addMulC<Vlq32s, Vlq64s>("mulC 32s", vlqsMulC_32s_Sfs, {0, 1, 15, 40, -3}, 1);
+    addMulC<Vlq32s, Vlq64s>("mulC 32s", vlqsMulC_32s_Sfs, {0, 1, 15, 25, 40, -3}, 1);
     addScales("mulC 64s in place", {0, 1, 20, 100, -3}, 1, [](int n, int s) { vlqsMulC_64s_ISfs(77, vectors<Vlq64s>().d, n, s); },
               [](int n, int s) { plainMulC<Vlq64s, Int128>(vectors<Vlq64s>().a, 77, vectors<Vlq64s>().d, n, s); });
     addAddProduct<Vlq16s, Vlq32s>("add product 16s", vlqsAddProduct_16s_Sfs, {0, 1, 5, 15, 31, -3}, three);
     addAddProduct<Vlq32s, Vlq64s>("add product 16s to 32s", vlqsAddProduct_16s32s_Sfs, {0, 1, 15, 32, -3}, three);
-    addAddProduct<Vlq32s, Vlq64s>("add product 32s", vlqsAddProduct_32s_Sfs, {0, 1, 31, -3}, 1);
+    addAddProduct<Vlq32s, Vlq64s>("add product 32s", vlqsAddProduct_32s_Sfs, {0, 1, 15, 31, -3}, 1);
     vlqbench::add({"mulC 32f to 16s S=3", 1024, 1024, "", 0, [] { vlqsMulC_32f16s_Sfs(vectors<Vlq32f>().a, 0.3f, vectors<Vlq16s>().d, 1024, 3); }, {}});
     vlqbench::add({"mulC 32f to 16s, single precision", 1024, 1024, "", 0, [] { vlqsMulC_Low_32f16s(vectors<Vlq32f>().a, 0.3f, vectors<Vlq16s>().d, 1024); }, {}});
     const auto& s = vectors<Vlq16s>();

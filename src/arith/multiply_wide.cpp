@@ -8,6 +8,7 @@ namespace {
 
 using namespace vlq::multiply;
 using vlq::Scaling;
+using vlq::StandardFloatMode;
 using vlq::Vec;
 
 template <class Family>
@@ -22,6 +23,7 @@ VlqStatus product(const Vlq32s* a, const Vlq32s* b, Vlq32s* dst, Vlq32s len, Vlq
     if (!a || !b || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (vanishes<Exact32s>(scaleFactor)) return clear(dst, len);
+    const StandardFloatMode hold;
     withScale32s(scaleFactor, [&](auto op) { vlq::map(dst, len, op, a, b); });
     return vlqStsOk;
 }
@@ -30,6 +32,7 @@ VlqStatus productByConstant(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s l
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (vanishes<Exact32s>(scaleFactor)) return clear(dst, len);
+    const StandardFloatMode hold;
     withScale32s(scaleFactor, [&](auto op) {
         vlq::map(dst, len, [op, b = Vec<Vlq32s>::broadcast(val)](Vec<Vlq32s> a) { return op(a, b); }, src);
     });
@@ -40,6 +43,7 @@ VlqStatus realByComplex(const Vlq32s* real, const Vlq32sc* complex, Vlq32sc* dst
     if (!real || !complex || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (vanishes<Exact32s>(scaleFactor)) return clear(dst, len);
+    const StandardFloatMode hold;
     withScale32s(scaleFactor, [&](auto op) { mapRealByComplex32s(dst, len, op, real, complex); });
     return vlqStsOk;
 }
@@ -148,6 +152,11 @@ VlqStatus vlq::vlqsAddProduct_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vl
     if (!src1 || !src2 || !srcDst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (vanishes<SumOfProduct32s>(scaleFactor)) return clear(srcDst, len);
+    if (scaleFactor <= kLastInDouble) {
+        const StandardFloatMode hold;
+        map(srcDst, len, SumOfProduct32sInDouble{factorInDouble(scaleFactor)}, srcDst, src1, src2);
+        return vlqStsOk;
+    }
     withScalarScale<Vlq32s, std::int64_t>(scaleFactor, [&](auto scale) {
         mapScalars(srcDst, len, [scale](Vlq32s acc, Vlq32s a, Vlq32s b) { return scale(std::int64_t{acc} + std::int64_t{a} * b); }, srcDst, src1, src2);
     });

@@ -19,10 +19,6 @@ struct Exact32s {
     static constexpr int vanishesFrom = 63;  // 2^62 is half of 2^63, a tie at 0
 };
 
-struct Unrounded {
-    Vec<std::uint64_t> operator()(Vec<std::uint64_t> size) const { return size; }
-};
-
 // Rounding to even does not look at the sign, so magnitudes are multiplied, rounded and compared
 // with the limit, all in 64 unsigned bits.
 template <class Round>
@@ -48,21 +44,40 @@ private:
     }
 };
 
+// Up to this scale factor a double serves: what it does not hold exactly, from 2^53 on, is out of range.
+// The kernels run under StandardFloatMode.
+inline constexpr std::int32_t kLastInDouble = 21;
+
+// 2^-scaleFactor; from 2^31 on any value but 0 saturates.
+inline Vec<double> factorInDouble(std::int32_t scaleFactor) {
+    const std::int64_t exponent = scaleFactor < -31 ? 31 : -std::int64_t{scaleFactor};
+    return Vec<double>::broadcast(std::bit_cast<double>(static_cast<std::uint64_t>(exponent + 1023) << 52));
+}
+// Below the range the conversion itself gives the lower limit.
+inline Vec<std::int32_t> storedFromDouble(Block<double, 2> v) {
+    const auto top = Vec<double>::broadcast(std::numeric_limits<std::int32_t>::max());
+    return toNearest(Block<double, 2>{{minimum(v.part[0], top), minimum(v.part[1], top)}});
+}
+struct Product32sInDouble {
+    Vec<double> factor;
+    Vec<std::int32_t> operator()(Vec<std::int32_t> a, Vec<std::int32_t> b) const {
+        const auto x = toDouble(a), y = toDouble(b);
+        return storedFromDouble({{x.part[0] * (y.part[0] * factor), x.part[1] * (y.part[1] * factor)}});
+    }
+};
+struct SumOfProduct32sInDouble {
+    Vec<double> factor;
+    Vec<std::int32_t> operator()(Vec<std::int32_t> acc, Vec<std::int32_t> a, Vec<std::int32_t> b) const {
+        const auto x = toDouble(a), y = toDouble(b), z = toDouble(acc);
+        return storedFromDouble({{(z.part[0] + x.part[0] * y.part[0]) * factor, (z.part[1] + x.part[1] * y.part[1]) * factor}});
+    }
+};
+
 // Hands `run` the operation on vectors that serves this scale factor; not for a range that vanishes.
 template <class Run>
 inline void withScale32s(std::int32_t scaleFactor, Run run) {
-    using V = Vec<std::int32_t>;
-    switch (classify<Exact32s, std::int32_t>(scaleFactor)) {
-    case Scaling::None:
-        return run(Product32s<Unrounded>{});
-    case Scaling::Left:
-        return run([scale = ScaleLeft<std::int32_t>(scaleFactor)](V a, V b) { return scale(Product32s<Unrounded>{}(a, b)); });
-    case Scaling::Half:
-    case Scaling::Right:
-        return run(Product32s<RoundRight<std::uint64_t>>{RoundRight<std::uint64_t>(scaleFactor)});
-    case Scaling::Vanish:
-        return;
-    }
+    if (scaleFactor <= kLastInDouble) return run(Product32sInDouble{factorInDouble(scaleFactor)});
+    run(Product32s<RoundRight<std::uint64_t>>{RoundRight<std::uint64_t>(scaleFactor)});
 }
 
 // dst[i] = real[i] * complex[i], both parts.
