@@ -59,8 +59,8 @@ void inCacheTransform(int order, const FloatingRecord<T>& record, In src, Middle
 }
 
 template <class T, class Middle>
-void rowTransform(int order, const T* table, Middle row, Middle work) {
-    const PassPlan plan = rowPlan(order);
+void rowTransform(int order, int spanBits, const T* table, Middle row, Middle work) {
+    const PassPlan plan = rowPlan(order, spanBits);
     const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
     std::ptrdiff_t span = plan.first;
     Middle from = row, to = work;
@@ -73,10 +73,10 @@ void rowTransform(int order, const T* table, Middle row, Middle work) {
     }
 }
 
-template void rowTransform(int, const Vlq32f*, Blocks<Vlq32f>, Blocks<Vlq32f>);
-template void rowTransform(int, const Vlq32f*, Planes<Vlq32f>, Planes<Vlq32f>);
-template void rowTransform(int, const Vlq64f*, Blocks<Vlq64f>, Blocks<Vlq64f>);
-template void rowTransform(int, const Vlq64f*, Planes<Vlq64f>, Planes<Vlq64f>);
+template void rowTransform(int, int, const Vlq32f*, Blocks<Vlq32f>, Blocks<Vlq32f>);
+template void rowTransform(int, int, const Vlq32f*, Planes<Vlq32f>, Planes<Vlq32f>);
+template void rowTransform(int, int, const Vlq64f*, Blocks<Vlq64f>, Blocks<Vlq64f>);
+template void rowTransform(int, int, const Vlq64f*, Planes<Vlq64f>, Planes<Vlq64f>);
 
 template void inCacheTransform(int, const FloatingRecord<Vlq32f>&, ForwardIn<Vlq32f>, Blocks<Vlq32f>, Blocks<Vlq32f>,
                                ForwardOut<Vlq32f>, bool);

@@ -12,17 +12,33 @@ Blocks<T> workView(Blocks<T>, T* work, std::ptrdiff_t) { return {work}; }
 template <class T>
 Planes<T> workView(Planes<T>, T* work, std::ptrdiff_t length) { return {work, work + length}; }
 
+// A row of 2^order values after its first pass, as sixteen.
+template <class T, class Middle>
+void splitRow(int order, const FloatingRecord<T>& record, Middle row, T* work) {
+    constexpr int B = kVecBytes;
+    const std::ptrdiff_t length = std::ptrdiff_t{1} << (order - 4);
+    splitGroups<T, B>(row, length, 16, record.outerTwiddle[2].get(), work);
+    for (int part = 0; part < 16; ++part) {
+        rowTransform<T>(order - 4, 8, record.twiddleTable.get(), row.from(part * length), workView(row, work, length));
+    }
+    joinRows<T, B>(row, row, length, record.outerTwiddle[1].get(), work);
+}
+
 }  // namespace
 
 template <class T, class In, class Middle, class Out>
 void largeTransform(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work, bool inPlace,
                     bool scaled) {
-    if (order > kLastSixteenRows<T>) return runPhases<T>(order, record, src, middle, dst, work, inPlace, scaled);
+    constexpr int B = kVecBytes;
+    if (order > kLastSplitTwice<T>) return runPhases<T>(order, record, src, middle, dst, work, inPlace, scaled);
     const std::ptrdiff_t length = std::ptrdiff_t{1} << (order - 4);
-    splitRows<T, kVecBytes>(src, middle, length, work, scaled ? record.normFactor : T(1));
-    const Middle other = workView(middle, work, length);
-    for (int row = 0; row < 16; ++row) rowTransform<T>(order - 4, record.twiddleTable.get(), middle.from(row * length), other);
-    joinRows<T, kVecBytes>(middle, dst, length, record.outerTwiddle[0].get(), work);
+    splitRows<T, B>(src, middle, length, work, scaled ? record.normFactor : T(1));
+    for (int r = 0; r < 16; ++r) {
+        const Middle row = middle.from(r * length);
+        if (order <= kLastSplitOnce<T>) rowTransform<T>(order - 4, 4, record.twiddleTable.get(), row, workView(middle, work, length));
+        else splitRow<T>(order - 4, record, row, work);
+    }
+    joinRows<T, B>(middle, dst, length, record.outerTwiddle[0].get(), work);
 }
 
 template void largeTransform(int, const FloatingRecord<Vlq32f>&, ForwardIn<Vlq32f>, Blocks<Vlq32f>, ForwardOut<Vlq32f>,

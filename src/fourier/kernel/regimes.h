@@ -22,10 +22,10 @@ template <class T, class In, class Middle, class Out>
 void inCacheTransform(int order, const FloatingRecord<T>& record, In src, Middle work, Middle middle, Out dst,
                       bool scaled);
 
-// The passes after the first of one row of 2^order values, between row and work; see
-// plan/passes.h.
+// The rest of the passes of one row of 2^order values in groups of 2^spanBits, between row and work;
+// see plan/passes.h.
 template <class T, class Middle>
-void rowTransform(int order, const T* table, Middle row, Middle work);
+void rowTransform(int order, int spanBits, const T* table, Middle row, Middle work);
 
 // Rows or phases of column transforms through `work`; inPlace says that src is the memory of dst.
 template <class T, class In, class Middle, class Out>

@@ -3,7 +3,8 @@
 // this pass exchanges square blocks of 16 by 16 values, in place where the caller wants it so. The
 // rows go on by themselves, and one radix-16 pass combines them. Sixteen streams a power of two
 // apart share few ways of the first cache: the butterflies take four at a time, whole cache lines
-// each, with a block of values in the work buffer between their two stages.
+// each, with a block of values in the work buffer between their two stages. A row that is too long
+// itself is split and joined once more.
 #pragma once
 
 #include "fourier/kernel/passes.h"
@@ -48,6 +49,9 @@ template <class T, int B, class Turn, class Put>
     });
 }
 
+// Where a block keeps value q of its transforms: in the row of one of the inputs.
+constexpr int slotOf(int q) { return 4 * (q % 4) + q / 4; }
+
 // The rows' first pass, src to middle, times scale. src may be the memory of middle.
 template <class T, int B, class In, class Middle>
 void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T scale) {
@@ -56,20 +60,18 @@ void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T scale) {
     constexpr int lanes = V::lanes;
     const Blocks<T> block{work};
     const V factor = V::broadcast(scale);
-    auto slot = [](int q) { return 4 * (q % 4) + q / 4; };
     for (std::ptrdiff_t j = 0; j < length; j += 16) {
         firstStage<T, B>(block, 16, [&](int row, int column) __attribute__((always_inline)) {
             return times(src.template get<B>(row * length + j + column), factor);
         });
-        // Value q where its inputs were: row 4 (q % 4) + q / 4 of the block.
         secondStage<T, B>(
             block, 16, [](int, S&, S&, S&) {},
-            [&](int q, int column, S v) __attribute__((always_inline)) { block.template put<B>(slot(q) * 16 + column, v); });
+            [&](int q, int column, S v) __attribute__((always_inline)) { block.template put<B>(slotOf(q) * 16 + column, v); });
         for (int column = 0; column < 16; column += lanes) {
             for (int first = 0; first < 16; first += lanes) {
                 V re[lanes], im[lanes];
                 unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                    const S v = block.template get<B>(slot(first + splitLane<T, B>(i)) * 16 + column);
+                    const S v = block.template get<B>(slotOf(first + splitLane<T, B>(i)) * 16 + column);
                     re[i] = v.re;
                     im[i] = v.im;
                 });
@@ -83,25 +85,64 @@ void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T scale) {
     }
 }
 
-// Combines the rows, middle to dst, which may be one memory. For each vector of columns k the table
-// holds the powers 4, 8, 12 and 1, 2, 3 of exp(-2 pi i k / N).
+// Powers 4, 8, 12 and 1, 2, 3 of exp(-2 pi i k / n), a group of six for each vector of columns k.
+template <class T, int B>
+struct SixteenthPowers {
+    const T* table;
+    [[gnu::always_inline]] Split<T, B> times(Split<T, B> v, int row, std::ptrdiff_t k) const {
+        return row < 4 ? v : v * tableTwiddle<T, B>(table + 12 * k, row / 4 - 1);
+    }
+    [[gnu::always_inline]] void turn(std::ptrdiff_t k, Split<T, B>& b, Split<T, B>& c, Split<T, B>& d) const {
+        b = b * tableTwiddle<T, B>(table + 12 * k, 3);
+        c = c * tableTwiddle<T, B>(table + 12 * k, 4);
+        d = d * tableTwiddle<T, B>(table + 12 * k, 5);
+    }
+};
+
+// The second pass of a row of 16 * length values that stand in groups of `span`, in place: the next
+// sixteen rows. table is that of 16 * span values.
+template <class T, int B, class Middle>
+void splitGroups(Middle row, std::ptrdiff_t length, std::ptrdiff_t span, const T* table, T* work) {
+    using S = Split<T, B>;
+    constexpr int chunk = 64 / static_cast<int>(sizeof(T)), columns = 16 * chunk;
+    const Blocks<T> block{work};
+    for (std::ptrdiff_t j = 0; j < length; j += 16 * span) {
+        for (std::ptrdiff_t k = 0; k < span; k += chunk) {
+            const SixteenthPowers<T, B> powers{table + 12 * k};
+            firstStage<T, B>(block, columns, [&](int part, int column) __attribute__((always_inline)) {
+                const std::ptrdiff_t at = part * length + j + column / chunk * span + k + column % chunk;
+                return powers.times(row.template get<B>(at), part, column % chunk);
+            });
+            secondStage<T, B>(
+                block, columns,
+                [&](int column, S& b, S& c, S& d) __attribute__((always_inline)) { powers.turn(column % chunk, b, c, d); },
+                [&](int q, int column, S v) __attribute__((always_inline)) { block.template put<B>(slotOf(q) * columns + column, v); });
+            for (int group = 0; group < 16; ++group) {
+                for (int q = 0; q < 16; ++q) {
+                    for (int i = 0; i < chunk; i += S::lanes) {
+                        row.template put<B>(group * length + j + q * span + k + i,
+                                            block.template get<B>(slotOf(q) * columns + group * chunk + i));
+                    }
+                }
+            }
+        }
+    }
+}
+
+// Combines the rows, middle to dst, which may be one memory. table is that of all their values.
 template <class T, int B, class Middle, class Out>
 void joinRows(Middle middle, Out dst, std::ptrdiff_t length, const T* table, T* work) {
     using S = Split<T, B>;
     constexpr int columns = 64 / static_cast<int>(sizeof(T));
     const Blocks<T> block{work};
-    for (std::ptrdiff_t k = 0; k < length; k += columns, table += 12 * columns) {
+    for (std::ptrdiff_t k = 0; k < length; k += columns) {
+        const SixteenthPowers<T, B> powers{table + 12 * k};
         firstStage<T, B>(block, columns, [&](int row, int column) __attribute__((always_inline)) {
-            const S v = middle.template get<B>(row * length + k + column);
-            return row < 4 ? v : v * tableTwiddle<T, B>(table + 12 * column, row / 4 - 1);
+            return powers.times(middle.template get<B>(row * length + k + column), row, column);
         });
         secondStage<T, B>(
             block, columns,
-            [&](int column, S& b, S& c, S& d) __attribute__((always_inline)) {
-                b = b * tableTwiddle<T, B>(table + 12 * column, 3);
-                c = c * tableTwiddle<T, B>(table + 12 * column, 4);
-                d = d * tableTwiddle<T, B>(table + 12 * column, 5);
-            },
+            [&](int column, S& b, S& c, S& d) __attribute__((always_inline)) { powers.turn(column, b, c, d); },
             [&](int q, int column, S v) __attribute__((always_inline)) { dst.template put<B>(q * length + k + column, v); });
     }
 }

@@ -122,7 +122,7 @@ T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor
     return table;
 }
 
-// For each vector of columns of a transform of 16 rows: powers 4, 8, 12 and 1, 2, 3.
+// For each vector of columns of 16 rows, 2^order values in all: powers 4, 8, 12 and 1, 2, 3.
 template <class T>
 T* buildJoinTable(int order, const SineTable<T>& sine, Cursor& cursor) {
     constexpr int lanes = Vec<T>::lanes;
@@ -144,9 +144,14 @@ T* buildJoinTable(int order, const SineTable<T>& sine, Cursor& cursor) {
 
 template <class T>
 void buildLargeTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
-    if (order <= kLastSixteenRows<T>) {
-        record.twiddleTable = buildPassTable(rowPlan(order - 4), order - 4, sine, cursor);
+    if (order <= kLastSplitTwice<T>) {
+        const int splits = order <= kLastSplitOnce<T> ? 1 : 2, rowOrder = order - 4 * splits;
+        record.twiddleTable = buildPassTable(rowPlan(rowOrder, 4 * splits), rowOrder, sine, cursor);
         record.outerTwiddle[0] = buildJoinTable(order, sine, cursor);
+        if (splits == 2) {
+            record.outerTwiddle[1] = buildJoinTable(order - 4, sine, cursor);
+            record.outerTwiddle[2] = buildJoinTable(8, sine, cursor);
+        }
         return;
     }
     const LargePlan plan = largePlan(order);

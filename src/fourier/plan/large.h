@@ -1,5 +1,5 @@
-// How a transform beyond the first caches is cut: into sixteen rows as long as a row and its work
-// buffer have room there (kernel/sixteen_rows.h). Above that, N = 2^outer * 2^middle * 2^outer values
+// How a transform beyond the first caches is cut: into sixteen rows, and those once more, as long as
+// rows and work buffer have room there (kernel/sixteen_rows.h). Above that, N = 2^outer * 2^middle * 2^outer values
 // form a cube [H][M][r], r next to each other. A first phase transforms over H and exchanges H and r,
 // tile by tile; the rest combines over M, then r. Every phase takes columns a few at a time through
 // the work buffer and leaves them where they were.
@@ -11,8 +11,11 @@
 
 namespace vlq::fft {
 
+// Last orders of sixteen rows, and of sixteen times sixteen.
 template <class T>
-inline constexpr int kLastSixteenRows = sizeof(T) == 4 ? 18 : 17;  // order
+inline constexpr int kLastSplitOnce = sizeof(T) == 4 ? 18 : 17;
+template <class T>
+inline constexpr int kLastSplitTwice = kLastSplitOnce<T> + 4;
 
 struct LargePlan {
     int outer;
@@ -23,7 +26,7 @@ struct LargePlan {
 template <class T>
 inline constexpr int kTileColumns = 64 / static_cast<int>(sizeof(T));
 
-// For orders above kLastSixteenRows.
+// For orders above kLastSplitTwice.
 constexpr LargePlan largePlan(int order) {
     const int outer = order % 3 == 2 ? order / 3 + 1 : order / 3;
     return {outer, order - 2 * outer};

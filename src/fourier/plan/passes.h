@@ -53,15 +53,16 @@ constexpr PassPlan passPlan(int order) {
     return planOf<T, kVecBytes>(order);
 }
 
-// A row of 2^order values of a transform of 16 rows: after its first pass, of radix 16, the passes
-// between row and work buffer, and the last one in place where it finds its input in the row.
-inline constexpr int kFirstRow = 10;  // order
-inline constexpr signed char kRowRadices[2][5][4] = {{{8, 8}, {8, 4, 4}, {8, 8, 4}, {8, 8, 8}, {8, 8, 4, 4}},
-                                                     {{8, 8}, {8, 16}, {16, 16}, {16, 8, 4}, {16, 16, 4}}};
+// A row of a transform of 16 rows, from groups of 2^spanBits values on: the passes between row and
+// work buffer, and the last one in place where it finds its input in the row.
+inline constexpr int kFewestRowBits = 2;
+inline constexpr signed char kRowRadices[2][9][4] = {
+    {{4}, {8}, {4, 4}, {8, 4}, {8, 8}, {8, 4, 4}, {8, 8, 4}, {8, 8, 8}, {8, 8, 4, 4}},
+    {{4}, {8}, {16}, {8, 4}, {8, 8}, {8, 16}, {16, 16}, {16, 8, 4}, {16, 16, 4}}};
 
-constexpr PassPlan rowPlan(int order) {
-    PassPlan plan{kVecBytes, 16, 0, {}};
-    for (const signed char radix : kRowRadices[kVecBytes > 16][order - kFirstRow]) {
+constexpr PassPlan rowPlan(int order, int spanBits) {
+    PassPlan plan{kVecBytes, 1 << spanBits, 0, {}};
+    for (const signed char radix : kRowRadices[kVecBytes > 16][order - spanBits - kFewestRowBits]) {
         if (radix > 0) plan.radix[plan.count++] = radix;
     }
     return plan;
