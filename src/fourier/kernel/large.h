@@ -12,9 +12,10 @@
 namespace vlq::fft {
 
 // One radix-R step over `rows` rows: row j + p * rows / R meets its kind, output q is multiplied by
-// factor [j][q], but not in the last step, and goes to row q * rows / R + j.
+// factor [j][q], but not in the last step, and goes to row q * rows / R + j. eighth is the factor of the
+// eight-point transform in it.
 template <class T, int B, int R, bool last, class Get, class Put>
-[[gnu::always_inline]] inline void columnStep(std::ptrdiff_t rows, const T* factors, Get&& get, Put&& put) {
+[[gnu::always_inline]] inline void columnStep(std::ptrdiff_t rows, const T* factors, T eighth, Get&& get, Put&& put) {
     using V = Vec<T, B>;
     using S = Split<T, B>;
     constexpr int vectors = kTileColumns<T> / V::lanes;
@@ -29,20 +30,21 @@ template <class T, int B, int R, bool last, class Get, class Put>
             };
             if constexpr (R == 16) {
                 dft16<T, B>(
-                    kRootHalf<T>, [&](auto p) __attribute__((always_inline)) { return get(j + p * stride, c); }, finish);
+                    eighth, [&](auto p) __attribute__((always_inline)) { return get(j + p * stride, c); }, finish);
             } else {
                 S x[8];
                 unroll<8>([&](auto p) __attribute__((always_inline)) { x[p] = get(j + p * stride, c); });
-                dft8(x, V::broadcast(kRootHalf<T>));
+                dft8(x, V::broadcast(eighth));
                 unroll<8>([&](auto q) __attribute__((always_inline)) { finish(q, x[q]); });
             }
         }
     }
 }
 template <class T, int B, bool last, class Get, class Put>
-[[gnu::always_inline]] inline void columnStepOf(int radix, std::ptrdiff_t rows, const T* factors, Get get, Put put) {
-    if (radix == 16) columnStep<T, B, 16, last>(rows, factors, get, put);
-    else columnStep<T, B, 8, last>(rows, factors, get, put);
+[[gnu::always_inline]] inline void columnStepOf(int radix, std::ptrdiff_t rows, const T* factors, T eighth, Get get,
+                                                Put put) {
+    if (radix == 16) columnStep<T, B, 16, last>(rows, factors, eighth, get, put);
+    else columnStep<T, B, 8, last>(rows, factors, eighth, get, put);
 }
 
 // The tile in the work buffer, a row of columns after the other.
@@ -65,6 +67,7 @@ struct ColumnTransform {
     int bits;
     const T* factors;
     Tile<T, B> tile;
+    T eighth = kRootHalf<T>;  // of the first step
     ColumnPlan plan = columnPlan(bits);
     int bits0 = std::countr_zero(static_cast<unsigned>(plan.radix[0]));
     int bits1 = plan.count == 3 ? std::countr_zero(static_cast<unsigned>(plan.radix[1])) : 0;
@@ -82,7 +85,7 @@ struct ColumnTransform {
     template <class Get>
     [[gnu::always_inline]] void begin(Get get) const {
         columnStepOf<T, B, false>(
-            plan.radix[0], rows(), factors, get,
+            plan.radix[0], rows(), factors, eighth, get,
             [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) { tile.put(row, c, v); });
         if (plan.count == 3) {
             const std::ptrdiff_t inner = rows() >> bits0;
@@ -101,7 +104,7 @@ struct ColumnTransform {
         for (std::ptrdiff_t rank = 0; rank < ranks(); ++rank) {
             const Tile<T, B> part = tile.from(place(rank));
             columnStepOf<T, B, true>(
-                radix, radix, factors,
+                radix, radix, factors, kRootHalf<T>,
                 [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) { return part.get(row, c); },
                 [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) {
                     put(rank + row * ranks(), c, v);
@@ -113,7 +116,7 @@ private:
     template <bool last>
     [[gnu::noinline]] void step(Tile<T, B> part, int radix, std::ptrdiff_t count) const {
         columnStepOf<T, B, last>(
-            radix, count, factors + (last ? 0 : 2 * rows()),
+            radix, count, factors + (last ? 0 : 2 * rows()), kRootHalf<T>,
             [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) { return part.get(row, c); },
             [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) { part.put(row, c, v); });
     }
@@ -177,7 +180,7 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
     using S = Split<T, B>;
     constexpr int lanes = V::lanes, columns = kTileColumns<T>;
     const std::ptrdiff_t size = std::ptrdiff_t{1} << plan.outer, pitch = std::ptrdiff_t{1} << (order - plan.outer);
-    const ColumnTransform<T, B> transform{plan.outer, factors, {work}};
+    const ColumnTransform<T, B> transform{plan.outer, factors, {work}, order % 2 ? kEightPoint<T> : kRootHalf<T>};
     const V factor = V::broadcast(scale);
     for (std::ptrdiff_t m = 0; m < pitch; m += size) {
         for (std::ptrdiff_t r = 0; r < size; r += columns) {
