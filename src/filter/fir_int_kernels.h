@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <limits>
 #include <utility>
 
@@ -21,7 +22,7 @@ namespace vlq::fir::integer {
 
 // Sums to samples: sum * 2^exponent. To the right rounded to nearest, ties to the even integer, by
 // 31 bits at most; to the left wrapped to 32 bits, so that from 32 bits on nothing is left. The
-// vectors come out before saturation.
+// vectors come out before saturation; their sums begin with start().
 class Finish {
 public:
     explicit Finish(Vlq64s exponent)
@@ -31,6 +32,8 @@ public:
           remainder_(static_cast<Vlq32s>((Vlq32u{1} << right_) - 1)),
           middle_(right_ > 0 ? Vlq32s{1} << (right_ - 1) : std::numeric_limits<Vlq32s>::max()) {}
 
+    template <int B>
+    Vec<Vlq32s, B> start() const { return Vec<Vlq32s, B>::zero(); }
     template <int B>
     Vec<Vlq32s, B> operator()(Vec<Vlq32s, B> sums) const {
         using V = Vec<Vlq32s, B>;
@@ -48,8 +51,34 @@ public:
     }
 
 private:
+    friend class NearestFinish;
     int left_, right_;
     Vlq32s keep_, remainder_, middle_;
+};
+
+// The same to the right, where no sum comes near the ends of 32 bits: half a unit is then added
+// from the start, which leaves ties to be taken back.
+class NearestFinish {
+public:
+    explicit NearestFinish(const Finish& finish) : finish_(finish) {}
+    // `magnitude` is that of all taps of a sum together.
+    static bool serves(const Finish& finish, Vlq64s magnitude) {
+        constexpr Vlq64s largest = 32768;
+        return finish.right_ > 0 && magnitude * largest + finish.middle_ <= std::numeric_limits<Vlq32s>::max();
+    }
+
+    template <int B>
+    Vec<Vlq32s, B> start() const { return Vec<Vlq32s, B>::broadcast(finish_.middle_); }
+    template <int B>
+    Vec<Vlq32s, B> operator()(Vec<Vlq32s, B> sums) const {
+        using V = Vec<Vlq32s, B>;
+        const V tie = (sums & V::broadcast(finish_.remainder_)) == V::zero();
+        return shiftRight(sums, finish_.right_) & ~(tie & V::broadcast(1));
+    }
+    Vlq16s operator()(Vlq32s sum) const { return finish_(sum); }
+
+private:
+    Finish finish_;
 };
 
 inline Vlq32s wrappingAdd(Vlq32s a, Vlq32s b) { return static_cast<Vlq32s>(static_cast<Vlq32u>(a) + static_cast<Vlq32u>(b)); }
@@ -133,10 +162,9 @@ struct TapRows {
     std::ptrdiff_t words;
 };
 
-// A tile is this many vectors of results, at most. Its sums, two vectors for each, and the taps of
-// kRows rows, two as well, must fit into 16 or 32 registers.
-inline constexpr int kTileVectors = kVecBytes == 64 ? 8 : 5;
-inline constexpr int kRows = kVecBytes == 64 ? 4 : 2;
+// A tile is this many vectors of results, at most. Its sums, two vectors for each, the taps of two
+// rows, two as well, and a vector of samples must fit into 16 or 32 registers.
+inline constexpr int kTileVectors = kVecBytes == 64 ? 12 : 5;
 
 // Two rows, of an even number of words.
 struct Pairs {
@@ -165,7 +193,8 @@ template <int Rows, int A, int B>
         }
 #pragma GCC unroll 16
         for (int b = 0; b < A + Rows - 1; ++b) {
-            const V samples = load<Vlq16s, B>(x + b * lanes);
+            // Opaque: compilers would rather load once more for each product than hold a vector.
+            const V samples = opaque(load<Vlq16s, B>(x + b * lanes));
 #pragma GCC unroll 4
             for (int i = 0; i < Rows; ++i) {
                 const int a = b - i;
@@ -179,12 +208,12 @@ template <int Rows, int A, int B>
 }
 
 // A vectors of results.
-template <int A, int B>
-inline void tile(Pairs taps, const Vlq16s* x, Vlq16s* dst, const Finish& finish) {
+template <int A, int B, class F>
+inline void tile(Pairs taps, const Vlq16s* x, Vlq16s* dst, const F& finish) {
     constexpr int lanes = Vec<Vlq16s, B>::lanes;
     Vec<Vlq32s, B> first[A], second[A];
-#pragma GCC unroll 8
-    for (int a = 0; a < A; ++a) first[a] = second[a] = Vec<Vlq32s, B>::zero();
+#pragma GCC unroll 16
+    for (int a = 0; a < A; ++a) first[a] = second[a] = finish.template start<B>();
 
     auto advance = [&](std::ptrdiff_t words) {
         taps.first += words;
@@ -192,28 +221,32 @@ inline void tile(Pairs taps, const Vlq16s* x, Vlq16s* dst, const Finish& finish)
         taps.words -= words;
         x += words;
     };
-    for (; taps.words >= kRows * lanes; advance(kRows * lanes)) {
-        addColumns<kRows>(first, second, taps.first, taps.second, x, lanes / 2);
-    }
-    if (kRows > 2 && taps.words >= 2 * lanes) {
+    for (; taps.words >= 2 * lanes; advance(2 * lanes)) {
         addColumns<2>(first, second, taps.first, taps.second, x, lanes / 2);
-        advance(2 * lanes);
     }
-    addColumns<1>(first, second, taps.first, taps.second, x, taps.words / 2);
-#pragma GCC unroll 8
+    std::ptrdiff_t left = taps.words;
+    if (left > lanes) {
+        // Of the last group only the first columns have two rows.
+        const std::ptrdiff_t longer = left - lanes;
+        addColumns<2>(first, second, taps.first, taps.second, x, longer / 2);
+        advance(longer);
+        left = lanes - longer;
+    }
+    addColumns<1>(first, second, taps.first, taps.second, x, left / 2);
+#pragma GCC unroll 16
     for (int a = 0; a < A; ++a) store(dst + a * lanes, interleaveSat(finish(first[a]), finish(second[a])));
 }
 
-template <int B, int... Less>
-inline void tileOf(int vectors, const Pairs& taps, const Vlq16s* x, Vlq16s* dst, const Finish& finish,
+template <int B, class F, int... Less>
+inline void tileOf(int vectors, const Pairs& taps, const Vlq16s* x, Vlq16s* dst, const F& finish,
                    std::integer_sequence<int, Less...>) {
     ((vectors == Less + 1 ? tile<Less + 1, B>(taps, x, dst, finish) : void()), ...);
 }
 
 // n words of results, at least one vector. What remains after whole tiles ends flush with the last
 // word: it may make some a second time.
-template <int A, int B>
-inline void tiles(const Pairs& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
+template <int A, int B, class F>
+inline void tiles(const Pairs& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const F& finish) {
     constexpr int lanes = Vec<Vlq16s, B>::lanes;
     constexpr auto sizes = std::make_integer_sequence<int, A>();
     std::ptrdiff_t done = 0;
@@ -229,21 +262,27 @@ inline void tiles(const Pairs& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_
     }
 }
 
+// Of all taps of a row; beyond this many words it is not worth the sum.
+inline Vlq64s magnitudeOf(const Vlq16s* row, std::ptrdiff_t words) {
+    constexpr std::ptrdiff_t most = 16384;
+    if (words > most) return std::numeric_limits<Vlq32s>::max();
+    using V = Vec<Vlq16s>;
+    Vec<Vlq32s> sums = Vec<Vlq32s>::zero();
+    std::ptrdiff_t i = 0;
+    for (; i + V::lanes <= words; i += V::lanes) {
+        // The product of a tap and its sign, two at a time.
+        const V taps = load<Vlq16s>(row + i);
+        sums += pairSums(taps, (taps < V::zero()) | V::broadcast(1));
+    }
+    Vlq64s magnitude = laneSum(sums);
+    for (; i < words; ++i) magnitude += std::abs(Vlq32s{row[i]});
+    return magnitude;
+}
+
 // n words of results of the windows that begin at x, x + Parts ...: no word behind the last window
 // is read, of a real filter the word before x may be. dst does not overlap the samples.
-template <int Parts>
-inline void filterWords(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
-    constexpr std::ptrdiff_t smallest = Vec<Vlq16s, 16>::lanes;
-    if (n < smallest) {
-        for (std::ptrdiff_t i = 0; i < n; i += Parts) {
-            const auto sums = dots(x + i, taps.row, taps.words);
-            for (int p = 0; p < Parts; ++p) {
-                const Vlq16s result = finish(sums.of[p]);
-                std::memcpy(dst + i + p, &result, sizeof result);
-            }
-        }
-        return;
-    }
+template <int Parts, class F>
+inline void filterWordsBy(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const F& finish) {
     Pairs pairs;
     if constexpr (Parts == 2) {
         pairs = {taps.row[0], taps.row[1], taps.words};
@@ -256,6 +295,23 @@ inline void filterWords(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst
     }
     if (kVecBytes > 16 && n < Vec<Vlq16s>::lanes) tiles<3, 16>(pairs, x, dst, n, finish);
     else tiles<kTileVectors, kVecBytes>(pairs, x, dst, n, finish);
+}
+template <int Parts>
+inline void filterWords(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const Finish& finish) {
+    constexpr std::ptrdiff_t smallest = Vec<Vlq16s, 16>::lanes;
+    if (n < smallest) {
+        for (std::ptrdiff_t i = 0; i < n; i += Parts) {
+            const auto sums = dots(x + i, taps.row, taps.words);
+            for (int p = 0; p < Parts; ++p) {
+                const Vlq16s result = finish(sums.of[p]);
+                std::memcpy(dst + i + p, &result, sizeof result);
+            }
+        }
+    } else if (NearestFinish::serves(finish, magnitudeOf(taps.row[0], taps.words))) {
+        filterWordsBy(taps, x, dst, n, NearestFinish(finish));
+    } else {
+        filterWordsBy(taps, x, dst, n, finish);
+    }
 }
 
 }  // namespace vlq::fir::integer

@@ -117,9 +117,10 @@ void writePhase(const Record<ListPart, Parts>& record, Vlq64s phase, Vlq16s* row
 template <class ListPart, int Parts>
 void writePhaseRows(Record<ListPart, Parts>& record) {
     const Derived d = derivedOf(record);
-    const RowPair* rowPairs = record.rowPairs;
+    PhaseTable& phases = *record.phases;
     const Vlq64s rowLen = record.rowLen, count = d.outputElements(Parts);
     Vlq16s* row = record.tapRows;
+    Vlq64s magnitude = 0;
     std::fill(row, row + 2 * count * rowLen, Vlq16s{0});
     for (Vlq64s e = 0; e < count; ++e, row += 2 * rowLen) {
         if constexpr (Parts == 2) {
@@ -127,11 +128,13 @@ void writePhaseRows(Record<ListPart, Parts>& record) {
         } else {
             for (int i = 0; i < 2; ++i) {
                 const Vlq64s output = 2 * e + i;
-                const Vlq64s before = windowStart(record, d, output) - 2 * Vlq64s{rowPairs[e].start};
+                const Vlq64s before = windowStart(record, d, output) - 2 * Vlq64s{phases.rowPairs()[e].start};
                 writePhase<ListPart, Parts>(record, placeOf(record, output).phase, row + i * rowLen + before, nullptr);
             }
         }
+        magnitude = std::max({magnitude, magnitudeOf(row, rowLen), magnitudeOf(row + rowLen, rowLen)});
     }
+    phases.magnitude = static_cast<Vlq32s>(magnitude);
 }
 
 // ---- the record --------------------------------------------------------------------------------------
@@ -164,8 +167,9 @@ State* layOutMultiRate(void* memory, Vlq32s tapsLen, const Rates& rates) {
     state->tapsStride = static_cast<Vlq32s>(d.tapsStride());
 
     state->taps = cursor.take<typename State::Part>(Vlq64s{tapsLen} * parts);
-    state->rowPairs = cursor.take<RowPair>(d.outputElements(parts), kRecordAlignment);
-    state->rowLen = static_cast<Vlq32s>(writeRowPairs(*state, d, state->rowPairs));
+    state->phases = cursor.take<PhaseTable>(1, kRecordAlignment);
+    cursor.take<RowPair>(d.outputElements(parts));
+    state->rowLen = static_cast<Vlq32s>(writeRowPairs(*state, d, state->phases->rowPairs()));
     // Windows may begin before the delay line, where their taps are zeros.
     const Vlq64s before = d.reach(parts) - d.dlyLen() * parts;
     Vlq16s* line = cursor.take<Vlq16s>(d.reach(parts) + d.seam() * parts, kRecordAlignment);
@@ -187,7 +191,7 @@ template <class State>
 Cycle cycleOf(const State& state) {
     const Derived d = derivedOf(state);
     constexpr int parts = State::kParts;
-    return {state.rowPairs, state.tapRows, state.rowLen, d.outputElements(parts), d.inputElements(parts), d.reach(parts),
+    return {state.phases->magnitude, state.phases->rowPairs(), state.tapRows, state.rowLen, d.outputElements(parts), d.inputElements(parts), d.reach(parts),
             state.blockBuf, state.streamStride};
 }
 

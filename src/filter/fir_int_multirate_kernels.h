@@ -21,7 +21,16 @@ struct RowPair {
     Vlq32s pairs;
 };
 
+// The table of row pairs stands behind this.
+struct PhaseTable {
+    Vlq32s magnitude;  // of the taps of a row, at most
+
+    RowPair* rowPairs() { return reinterpret_cast<RowPair*>(this + 1); }
+    const RowPair* rowPairs() const { return reinterpret_cast<const RowPair*>(this + 1); }
+};
+
 struct Cycle {
+    Vlq64s magnitude;  // of the taps of an output, at most
     const RowPair* rowPairs;
     const Vlq16s* rows;  // two for each output element
     std::ptrdiff_t rowLen;
@@ -86,13 +95,13 @@ inline void takeAsunder(const Vlq16s* src, std::ptrdiff_t width, std::ptrdiff_t 
 
 // A vectors of cycles of one output element, from streams; x is the first of them at the cycle
 // `reach` words before the one that is first in the result.
-template <int A, int B>
+template <int A, int B, class F>
 inline void streamTile(const RowPair& taps, const Vlq16s* firstRow, const Vlq16s* secondRow, const Vlq16s* x, std::ptrdiff_t inputs,
-                       std::ptrdiff_t stride, Vlq16s* dst, const Finish& finish) {
+                       std::ptrdiff_t stride, Vlq16s* dst, const F& finish) {
     constexpr int lanes = Vec<Vlq16s, B>::lanes;
     Vec<Vlq32s, B> first[A], second[A];
-#pragma GCC unroll 8
-    for (int a = 0; a < A; ++a) first[a] = second[a] = Vec<Vlq32s, B>::zero();
+#pragma GCC unroll 16
+    for (int a = 0; a < A; ++a) first[a] = second[a] = finish.template start<B>();
     std::ptrdiff_t stream = taps.start % inputs;
     x += 2 * (taps.start / inputs);
     for (std::ptrdiff_t left = taps.pairs; left > 0; stream = 0, x += 2) {
@@ -102,15 +111,15 @@ inline void streamTile(const RowPair& taps, const Vlq16s* firstRow, const Vlq16s
 #pragma GCC unroll 1
         for (std::ptrdiff_t i = 0; i < run; ++i, samples += 2 * stride, firstRow += 2, secondRow += 2) {
             const auto firstTap = broadcastPair<B>(firstRow), secondTap = broadcastPair<B>(secondRow);
-#pragma GCC unroll 8
+#pragma GCC unroll 16
             for (int a = 0; a < A; ++a) {
-                const auto v = load<Vlq16s, B>(samples + a * lanes);
+                const auto v = opaque(load<Vlq16s, B>(samples + a * lanes));  // held, not loaded twice
                 first[a] = opaque(first[a] + pairSums(firstTap, v));
                 second[a] = opaque(second[a] + pairSums(secondTap, v));
             }
         }
     }
-#pragma GCC unroll 8
+#pragma GCC unroll 16
     for (int a = 0; a < A; ++a) store(dst + a * lanes, interleaveSat(finish(first[a]), finish(second[a])));
 }
 
@@ -119,6 +128,9 @@ inline void streamTile(const RowPair& taps, const Vlq16s* firstRow, const Vlq16s
 // The results of up to this many output elements wait for each other.
 inline constexpr std::ptrdiff_t kWaiting = 4;
 
+template <int B>
+inline Vec<Vlq32s, B> loadElements(const Vlq16s* p) { return bitCast<Vlq32s>(load<Vlq16s, B>(p)); }
+
 // Puts `count` cycles, whole vectors, of the elements that wait into their places: dst is that of
 // the first element of the first cycle, `width` elements a cycle, column k of it at columns[k].
 template <int B>
@@ -126,21 +138,42 @@ inline void putFour(const Vlq16s* const (&columns)[kWaiting], std::ptrdiff_t cou
     constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
     for (std::ptrdiff_t q = 0; q < count; q += lanes) {
         Vec<Vlq32s, B> m[kWaiting];
-        for (int k = 0; k < kWaiting; ++k) m[k] = bitCast<Vlq32s>(load<Vlq16s, B>(columns[k] + 2 * q));
+        for (int k = 0; k < kWaiting; ++k) m[k] = loadElements<B>(columns[k] + 2 * q);
         transposeBlocks(m);
         for (int k = 0; k < kWaiting; ++k) storeBlocks(dst + 2 * (q + k) * width, 2 * kWaiting * width, bitCast<Vlq16s>(m[k]));
     }
 }
-inline void putSingly(const Vlq16s* column, std::ptrdiff_t count, Vlq16s* dst, std::ptrdiff_t width) {
-    for (std::ptrdiff_t q = 0; q < count; ++q) copyElement(column + 2 * q, dst + 2 * q * width);
+
+// The same for cycles of two elements, and of three: these in fours with the first of the next cycle.
+template <int B>
+inline void putTwo(const Vlq16s* first, const Vlq16s* second, std::ptrdiff_t count, Vlq16s* dst) {
+    constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes, block = 4;
+    for (std::ptrdiff_t q = 0; q < count; q += lanes) {
+        auto low = loadElements<B>(first + 2 * q), high = loadElements<B>(second + 2 * q);
+        interleaveBlocks(low, high);
+        storeBlocks(dst + 4 * q, 4 * block, bitCast<Vlq16s>(low));
+        storeBlocks(dst + 4 * q + 2 * block, 4 * block, bitCast<Vlq16s>(high));
+    }
+}
+template <int B>
+inline void putThree(const Vlq16s* const (&columns)[kWaiting], std::ptrdiff_t count, Vlq16s* dst) {
+    constexpr std::ptrdiff_t width = 3;
+    const std::ptrdiff_t most = count - Vec<Vlq32s, B>::lanes;
+    putFour<B>({columns[0], columns[1], columns[2], columns[0] + 2}, most, dst, width);
+    for (std::ptrdiff_t q = most; q < count; ++q) {
+        for (int k = 0; k < width; ++k) copyElement(columns[k] + 2 * q, dst + 2 * (q * width + k));
+    }
 }
 
 // ---- many cycles ---------------------------------------------------------------------------------------
 
+// Vectors of cycles in a tile, at most.
+inline constexpr int kCycleVectors = kVecBytes == 64 ? 8 : 5;
+
 // A vectors of cycles, all their outputs. x: of a single stream the input, `reach` words before the
 // first cycle; else the place of that cycle in the first stream.
-template <int A, int B>
-inline void cycleTile(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const Finish& finish) {
+template <int A, int B, class F>
+inline void cycleTile(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const F& finish) {
     constexpr std::ptrdiff_t words = A * Vec<Vlq16s, B>::lanes, count = words / 2;
     const std::ptrdiff_t width = cycle.outputs;
     alignas(64) Vlq16s waiting[kWaiting][words];
@@ -153,28 +186,27 @@ inline void cycleTile(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const Fi
         } else {
             streamTile<A, B>(taps, first, second, x, cycle.inputs, cycle.streamStride, column, finish);
         }
-        if (width == 1) return;
-        if (width < kWaiting) {
-            putSingly(column, count, dst + 2 * e, width);
-        } else if (e % kWaiting == kWaiting - 1 || e == width - 1) {
+        if (width >= kWaiting && (e % kWaiting == kWaiting - 1 || e == width - 1)) {
             // The last ones of a cycle go again with those before them.
             const Vlq16s* columns[kWaiting];
             for (int k = 0; k < kWaiting; ++k) columns[k] = waiting[(e + 1 + k) % kWaiting];
             putFour<B>(columns, count, dst + 2 * (e + 1 - kWaiting), width);
         }
     }
+    if (width == 2) putTwo<B>(waiting[0], waiting[1], count, dst);
+    if (width == 3) putThree<B>({waiting[0], waiting[1], waiting[2], nullptr}, count, dst);
 }
 
-template <int B, int... Less>
-inline void cycleTileOf(int vectors, const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const Finish& finish,
+template <int B, class F, int... Less>
+inline void cycleTileOf(int vectors, const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const F& finish,
                         std::integer_sequence<int, Less...>) {
     ((vectors == Less + 1 ? cycleTile<Less + 1, B>(cycle, x, dst, finish) : void()), ...);
 }
 
 // `count` cycles, at least one vector of them. What remains after whole tiles ends flush with the
 // last cycle: it may make some a second time.
-template <int A, int B>
-inline void cycleTiles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const Finish& finish) {
+template <int A, int B, class F>
+inline void cycleTiles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const F& finish) {
     constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
     for (std::ptrdiff_t done = 0; done < count;) {
         int vectors = static_cast<int>(std::min<std::ptrdiff_t>(A, (count - done + lanes - 1) / lanes));
@@ -188,8 +220,8 @@ inline void cycleTiles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::pt
 }
 
 // The same, x being the input of the first cycle, `reach` words behind what may be read.
-template <int A, int B>
-inline void cycles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const Finish& finish) {
+template <int A, int B, class F>
+inline void cycles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const F& finish) {
     constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
     x -= cycle.reach;
     if (cycle.inputs == 1) return cycleTiles<A, B>(cycle, x, dst, count, finish);
@@ -205,20 +237,24 @@ inline void cycles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdif
     }
 }
 
+// Answers how many cycles of `whole` it makes: all, or none where they fill no vector.
+template <class F>
+inline std::ptrdiff_t manyCycles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t whole, const F& finish) {
+    if (whole >= Vec<Vlq32s>::lanes) cycles<kCycleVectors, kVecBytes>(cycle, x, dst, whole, finish);
+    else if (whole >= Vec<Vlq32s, 16>::lanes) cycles<3, 16>(cycle, x, dst, whole, finish);
+    else return 0;
+    return whole;
+}
+
 // `count` periods, each of inputWords and outputWords, that begin at x.
 template <int Parts>
 inline void filterPeriods(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, std::ptrdiff_t inputWords,
                           std::ptrdiff_t outputWords, const Finish& finish) {
     const std::ptrdiff_t periodsOfCycle = 2 * cycle.inputs / inputWords;
     const std::ptrdiff_t whole = count / periodsOfCycle;
-    std::ptrdiff_t done = 0;
-    if (whole >= Vec<Vlq32s>::lanes) {
-        cycles<kTileVectors, kVecBytes>(cycle, x, dst, whole, finish);
-        done = whole * periodsOfCycle;
-    } else if (whole >= Vec<Vlq32s, 16>::lanes) {
-        cycles<3, 16>(cycle, x, dst, whole, finish);
-        done = whole * periodsOfCycle;
-    }
+    std::ptrdiff_t done = periodsOfCycle * (NearestFinish::serves(finish, cycle.magnitude)
+                                                ? manyCycles(cycle, x, dst, whole, NearestFinish(finish))
+                                                : manyCycles(cycle, x, dst, whole, finish));
     for (; done < count; ++done) onePeriod<Parts>(cycle, x + done * inputWords, inputWords, dst + done * outputWords, outputWords, finish);
 }
 

@@ -38,7 +38,7 @@ struct PartsOf<2> {
     using Sample = Vlq16sc;
 };
 
-struct RowPair;  // of multi-rate filters
+struct PhaseTable;  // of multi-rate filters
 
 // ListPart is a part of a tap in the list that is read back.
 template <class ListPart, int Parts>
@@ -58,10 +58,10 @@ struct Record {
     Vlq32s tapsFactor;
     RelPtr<Vlq16s> tapRows;
     Vlq32s dlyIndex;
-    RelPtr<RowPair> rowPairs;  // multi-rate only
-    Vlq32s rowLen;             // words
-    Vlq32s dlyLen;             // samples in the delay line
-    RelPtr<Vlq16s> blockBuf;   // kBlock samples; multi-rate: the streams
+    RelPtr<PhaseTable> phases;  // multi-rate only
+    Vlq32s rowLen;              // words
+    Vlq32s dlyLen;              // samples in the delay line
+    RelPtr<Vlq16s> blockBuf;    // kBlock samples; multi-rate: the streams
     Vlq32s ownsMemory;
     Vlq32s upPhase;      // multi-rate only, as those that follow
     Vlq32s downPhase;

@@ -78,6 +78,27 @@ inline void transposeBlocks(Vec<std::int32_t, 64> (&m)[4]) {
 }
 #endif
 
+// Each block by itself: a[0], b[0], a[1], b[1] into a, the same of the upper half into b.
+inline void interleaveBlocks(Vec<std::int32_t, 16>& a, Vec<std::int32_t, 16>& b) {
+    const __m128i low = _mm_unpacklo_epi32(asInt(a), asInt(b)), high = _mm_unpackhi_epi32(asInt(a), asInt(b));
+    a = fromRegister<std::int32_t>(low);
+    b = fromRegister<std::int32_t>(high);
+}
+#if VLQ_SIMD_BYTES >= 32
+inline void interleaveBlocks(Vec<std::int32_t, 32>& a, Vec<std::int32_t, 32>& b) {
+    const __m256i low = _mm256_unpacklo_epi32(asInt(a), asInt(b)), high = _mm256_unpackhi_epi32(asInt(a), asInt(b));
+    a = fromRegister<std::int32_t>(low);
+    b = fromRegister<std::int32_t>(high);
+}
+#endif
+#if VLQ_SIMD_BYTES >= 64
+inline void interleaveBlocks(Vec<std::int32_t, 64>& a, Vec<std::int32_t, 64>& b) {
+    const __m512i low = _mm512_unpacklo_epi32(asInt(a), asInt(b)), high = _mm512_unpackhi_epi32(asInt(a), asInt(b));
+    a = fromRegister<std::int32_t>(low);
+    b = fromRegister<std::int32_t>(high);
+}
+#endif
+
 // The blocks of a vector, `stride` elements apart in memory.
 template <int B, class T>
 inline Vec<T, B> loadBlocks(const T* p, std::ptrdiff_t stride) {
