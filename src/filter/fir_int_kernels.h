@@ -243,23 +243,28 @@ inline void tileOf(int vectors, const Pairs& taps, const Vlq16s* x, Vlq16s* dst,
     ((vectors == Less + 1 ? tile<Less + 1, B>(taps, x, dst, finish) : void()), ...);
 }
 
-// n words of results, at least one vector. What remains after whole tiles ends flush with the last
-// word: it may make some a second time.
+// Calls make(vectors, first lane) for tiles of at most `most` vectors that cover n lanes, at least one
+// vector, evenly. What remains ends flush with the last lane: it may be made a second time.
+template <class Make>
+inline void eachTile(std::ptrdiff_t n, std::ptrdiff_t lanes, std::ptrdiff_t most, Make&& make) {
+    const std::ptrdiff_t vectors = (n + lanes - 1) / lanes, tiles = (vectors + most - 1) / most, each = (vectors + tiles - 1) / tiles;
+    for (std::ptrdiff_t done = 0; done < n;) {
+        std::ptrdiff_t next = each;
+        if (done + next * lanes > n) {
+            next = std::min((n - done + lanes - 1) / lanes, n / lanes);
+            done = std::min(done, n - next * lanes);
+        }
+        make(static_cast<int>(next), done);
+        done += next * lanes;
+    }
+}
+
+// n words of results, at least one vector.
 template <int A, int B, class F>
 inline void tiles(const Pairs& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n, const F& finish) {
-    constexpr int lanes = Vec<Vlq16s, B>::lanes;
-    constexpr auto sizes = std::make_integer_sequence<int, A>();
-    std::ptrdiff_t done = 0;
-    for (; n - done >= A * lanes; done += A * lanes) tile<A, B>(taps, x + done, dst + done, finish);
-    if (done == n) return;
-    const int vectors = static_cast<int>((n - done + lanes - 1) / lanes);
-    if (vectors * lanes <= n) {
-        done = n - vectors * lanes;
-        tileOf<B>(vectors, taps, x + done, dst + done, finish, sizes);
-    } else {
-        tileOf<B>(vectors - 1, taps, x, dst, finish, sizes);
-        tile<1, B>(taps, x + n - lanes, dst + n - lanes, finish);
-    }
+    eachTile(n, Vec<Vlq16s, B>::lanes, A, [&](int vectors, std::ptrdiff_t done) {
+        tileOf<B>(vectors, taps, x + done, dst + done, finish, std::make_integer_sequence<int, A>());
+    });
 }
 
 // Of all taps of a row; beyond this many words it is not worth the sum.

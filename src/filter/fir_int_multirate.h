@@ -143,7 +143,7 @@ void writePhaseRows(Record<ListPart, Parts>& record) {
 // enough for the widest vector; more than fill a part of the first cache bring nothing.
 inline Vlq64s streamStride(Vlq64s width, Vlq64s reached, Vlq64s bytes) {
     constexpr Vlq64s elementBytes = 4, enough = 16384 / elementBytes, lanes = 16;
-    const Vlq64s useful = roundUp(std::max({enough / width, reached, lanes}) + reached, lanes);
+    const Vlq64s useful = roundUp(std::max({enough / width, reached, 4 * lanes}) + reached, lanes);
     const Vlq64s room = bytes / (elementBytes * width), rounded = roundDown(room, lanes);
     return std::min(useful, rounded >= lanes + reached ? rounded : room);
 }
@@ -177,13 +177,12 @@ State* layOutMultiRate(void* memory, Vlq32s tapsLen, const Rates& rates) {
     state->dlyLine = line + before;
     state->tapRows = cursor.take<Vlq16s>(2 * d.outputElements(parts) * state->rowLen, kRecordAlignment);
 
-    const Vlq64s width = d.inputElements(parts);
-    if (width > 1) {
-        char* const streams = cursor.take<char>(0, kStreamAlignment);
-        const Vlq64s stride = streamStride(width, d.reach(parts) / (2 * width), end - streams);
-        state->blockBuf = cursor.take<Vlq16s>(2 * width * stride);
-        state->streamStride = static_cast<Vlq32s>(stride);
-    }
+    // What is left takes the streams, or of a single stream a copy of the line with what follows.
+    const Vlq64s width = d.inputElements(parts), reached = d.reach(parts) / (2 * width);
+    char* const rest = cursor.take<char>(0, width > 1 ? kStreamAlignment : 1);
+    const Vlq64s stride = streamStride(width, reached, end - rest);
+    state->blockBuf = cursor.take<Vlq16s>(2 * width * stride);
+    state->streamStride = static_cast<Vlq32s>(stride);
     return state;
 }
 
@@ -197,21 +196,48 @@ Cycle cycleOf(const State& state) {
 
 // ---- filtering ---------------------------------------------------------------------------------------
 
-// numIters periods. The first ones see the delay line and are made from its store; the others read
-// src where it lies.
+// Whole periods that begin at x; the `reach` words before them lie at `past`, and before x unless
+// streams are made of many cycles.
 template <class ListPart, int Parts>
-void multiRateBlock(Record<ListPart, Parts>& record, const Vlq16s* src, Vlq16s* dst, Vlq32s numIters, const Finish& finish) {
+void filterPeriods(const Record<ListPart, Parts>& record, const Vlq16s* past, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count,
+                   const Finish& finish) {
     const Cycle cycle = cycleOf(record);
     const std::ptrdiff_t inputWords = std::ptrdiff_t{record.downFactor} * Parts, outputWords = std::ptrdiff_t{record.upFactor} * Parts;
-    const std::ptrdiff_t past = std::ptrdiff_t{record.dlyLen} * Parts;
-    const std::ptrdiff_t seam = std::min<std::ptrdiff_t>(numIters, derivedOf(record).seam() / record.downFactor);
-    const std::ptrdiff_t seamWords = seam * inputWords, words = numIters * inputWords;
-    Vlq16s* line = record.dlyLine;
-    moveWords(src, line + past, seamWords);
-    filterPeriods<Parts>(cycle, line + past, dst, seam, inputWords, outputWords, finish);
-    if (seam == numIters) return moveWords(line + words, line, past);
-    moveWords(src + words - past, line, past);
-    filterPeriods<Parts>(cycle, src + seamWords, dst + seam * outputWords, numIters - seam, inputWords, outputWords, finish);
+    const std::ptrdiff_t periods = 2 * cycle.inputs / inputWords;  // of a cycle
+    std::ptrdiff_t done = periods * manyCycles(cycle, past, x, dst, count / periods, finish);
+    for (; done < count; ++done) onePeriod<Parts>(cycle, x + done * inputWords, inputWords, dst + done * outputWords, outputWords, finish);
+}
+
+// numIters periods. The first ones see the delay line, and need it before their samples: in its own
+// store for few of them, in the copy for a single stream. Streams take it asunder where it lies.
+template <class ListPart, int Parts>
+void multiRateBlock(Record<ListPart, Parts>& record, const Vlq16s* src, Vlq16s* dst, Vlq32s numIters, const Finish& finish) {
+    const Derived d = derivedOf(record);
+    const std::ptrdiff_t inputWords = std::ptrdiff_t{record.downFactor} * Parts, outputWords = std::ptrdiff_t{record.upFactor} * Parts;
+    const std::ptrdiff_t past = std::ptrdiff_t{record.dlyLen} * Parts, reach = d.reach(Parts), words = numIters * inputWords;
+    Vlq16s* const line = record.dlyLine;
+    const Vlq16s* const before = line + past - reach;
+    if (d.inputElements(Parts) > 1 && numIters / d.cycle(Parts) >= kFewestCycles && words > d.seam() * Parts) {
+        filterPeriods(record, before, src, dst, numIters, finish);
+        return moveWords(src + words - past, line, past);
+    }
+    Vlq16s* samples = line + past;
+    std::ptrdiff_t room = d.seam() / record.downFactor;  // periods
+    if (numIters > room && d.inputElements(Parts) == 1) {
+        Vlq16s* const copy = record.blockBuf;
+        moveWords(before, copy, reach);
+        samples = copy + reach;
+        room = (2 * std::ptrdiff_t{record.streamStride} - reach) / (2 * inputWords) * 2;
+    }
+    const std::ptrdiff_t first = std::min<std::ptrdiff_t>(numIters, room), firstWords = first * inputWords;
+    moveWords(src, samples, firstWords);
+    filterPeriods(record, samples - reach, samples, dst, first, finish);
+    if (first < numIters) {
+        const Vlq16s* const others = src + firstWords;
+        filterPeriods(record, others - reach, others, dst + first * outputWords, numIters - first, finish);
+    }
+    if (words < past) moveWords(samples + words - past, line, past);
+    else moveWords(src + words - past, line, past);
 }
 
 }  // namespace vlq::fir::integer

@@ -74,9 +74,11 @@ inline void copyElement(const Vlq16s* src, Vlq16s* dst) { std::memcpy(dst, src, 
 template <int B>
 inline void takeAsunder(const Vlq16s* src, std::ptrdiff_t width, std::ptrdiff_t count, Vlq16s* dst, std::ptrdiff_t stride) {
     constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes, block = 4;
+    // A narrow cycle is read on into the next ones: there must be as many.
+    const std::ptrdiff_t readable = width >= block ? count : count - (block - 1) / width;
     std::ptrdiff_t q = 0;
-    // A narrow cycle is read on into the next ones.
-    for (; q + lanes <= count && (count - q - lanes + 1) * width >= block; q += lanes) {
+    while (q < readable && readable >= lanes) {
+        q = std::min(q, readable - lanes);
         for (std::ptrdiff_t c = 0;;) {
             Vec<Vlq32s, B> columns[block];
             for (int k = 0; k < block; ++k) columns[k] = bitCast<Vlq32s>(loadBlocks<B>(src + 2 * ((q + k) * width + c), 2 * block * width));
@@ -87,9 +89,14 @@ inline void takeAsunder(const Vlq16s* src, std::ptrdiff_t width, std::ptrdiff_t 
             if (c + block >= width) break;
             c = std::min(c + block, width - block);
         }
+        q += lanes;
     }
-    for (; q < count; ++q) {
-        for (std::ptrdiff_t c = 0; c < width; ++c) copyElement(src + 2 * (q * width + c), dst + 2 * (c * stride + q));
+    if constexpr (B > 16) {
+        if (q < count) takeAsunder<16>(src + 2 * q * width, width, count - q, dst + 2 * q, stride);
+    } else {
+        for (; q < count; ++q) {
+            for (std::ptrdiff_t c = 0; c < width; ++c) copyElement(src + 2 * (q * width + c), dst + 2 * (c * stride + q));
+        }
     }
 }
 
@@ -203,59 +210,51 @@ inline void cycleTileOf(int vectors, const Cycle& cycle, const Vlq16s* x, Vlq16s
     ((vectors == Less + 1 ? cycleTile<Less + 1, B>(cycle, x, dst, finish) : void()), ...);
 }
 
-// `count` cycles, at least one vector of them. What remains after whole tiles ends flush with the
-// last cycle: it may make some a second time.
+// `count` cycles, at least one vector of them.
 template <int A, int B, class F>
 inline void cycleTiles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const F& finish) {
-    constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
-    for (std::ptrdiff_t done = 0; done < count;) {
-        int vectors = static_cast<int>(std::min<std::ptrdiff_t>(A, (count - done + lanes - 1) / lanes));
-        if (done + vectors * lanes > count) {
-            if (vectors * lanes <= count) done = count - vectors * lanes;
-            else --vectors;
-        }
+    eachTile(count, Vec<Vlq32s, B>::lanes, A, [&](int vectors, std::ptrdiff_t done) {
         cycleTileOf<B>(vectors, cycle, x + 2 * done, dst + 2 * done * cycle.outputs, finish, std::make_integer_sequence<int, A>());
-        done += vectors * lanes;
-    }
+    });
 }
 
-// The same, x being the input of the first cycle, `reach` words behind what may be read.
+// The same of more than one stream. The `reach` words before x, where the input of the first cycle
+// begins, lie at `past`.
 template <int A, int B, class F>
-inline void cycles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const F& finish) {
+inline void streamCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const F& finish) {
     constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
-    x -= cycle.reach;
-    if (cycle.inputs == 1) return cycleTiles<A, B>(cycle, x, dst, count, finish);
-    const std::ptrdiff_t reached = cycle.reachedCycles();
-    const std::ptrdiff_t most = (cycle.streamStride - reached) / lanes * lanes;
+    const std::ptrdiff_t inputs = cycle.inputs, stride = cycle.streamStride, reached = cycle.reachedCycles();
+    const std::ptrdiff_t most = (stride - reached) / lanes * lanes;
     for (std::ptrdiff_t done = 0; done < count;) {
-        const std::ptrdiff_t piece = std::min(most, count - done);
-        if (piece < lanes) done = count - lanes;
-        const std::ptrdiff_t made = std::max(piece, lanes);
-        takeAsunder<B>(x + 2 * done * cycle.inputs, cycle.inputs, made + reached, cycle.streams, cycle.streamStride);
+        const std::ptrdiff_t made = std::max(std::min(most, count - done), lanes);
+        done = std::min(done, count - made);
+        // Of the cycles before this piece some may come before x.
+        const std::ptrdiff_t before = std::max<std::ptrdiff_t>(reached - done, 0);
+        takeAsunder<B>(past + 2 * (reached - before) * inputs, inputs, before, cycle.streams, stride);
+        takeAsunder<B>(x + 2 * (done + before - reached) * inputs, inputs, made + reached - before, cycle.streams + 2 * before, stride);
         cycleTiles<A, B>(cycle, cycle.streams, dst + 2 * done * cycle.outputs, made, finish);
         done += made;
     }
 }
 
-// Answers how many cycles of `whole` it makes: all, or none where they fill no vector.
+// Fewer are made one by one.
+inline constexpr std::ptrdiff_t kFewestCycles = Vec<Vlq32s, 16>::lanes;
+
+// Answers how many cycles of `whole` it makes: all, or none where they fill no vector. Of a single
+// stream `past` ends where x begins.
 template <class F>
-inline std::ptrdiff_t manyCycles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t whole, const F& finish) {
-    if (whole >= Vec<Vlq32s>::lanes) cycles<kCycleVectors, kVecBytes>(cycle, x, dst, whole, finish);
-    else if (whole >= Vec<Vlq32s, 16>::lanes) cycles<3, 16>(cycle, x, dst, whole, finish);
-    else return 0;
+inline std::ptrdiff_t manyCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t whole, const F& finish) {
+    if (whole < kFewestCycles) return 0;
+    const bool wide = whole >= Vec<Vlq32s>::lanes;
+    if (cycle.inputs == 1 && wide) cycleTiles<kCycleVectors, kVecBytes>(cycle, past, dst, whole, finish);
+    else if (cycle.inputs == 1) cycleTiles<3, 16>(cycle, past, dst, whole, finish);
+    else if (wide) streamCycles<kCycleVectors, kVecBytes>(cycle, past, x, dst, whole, finish);
+    else streamCycles<3, 16>(cycle, past, x, dst, whole, finish);
     return whole;
 }
-
-// `count` periods, each of inputWords and outputWords, that begin at x.
-template <int Parts>
-inline void filterPeriods(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, std::ptrdiff_t inputWords,
-                          std::ptrdiff_t outputWords, const Finish& finish) {
-    const std::ptrdiff_t periodsOfCycle = 2 * cycle.inputs / inputWords;
-    const std::ptrdiff_t whole = count / periodsOfCycle;
-    std::ptrdiff_t done = periodsOfCycle * (NearestFinish::serves(finish, cycle.magnitude)
-                                                ? manyCycles(cycle, x, dst, whole, NearestFinish(finish))
-                                                : manyCycles(cycle, x, dst, whole, finish));
-    for (; done < count; ++done) onePeriod<Parts>(cycle, x + done * inputWords, inputWords, dst + done * outputWords, outputWords, finish);
+inline std::ptrdiff_t manyCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t whole, const Finish& finish) {
+    if (!NearestFinish::serves(finish, cycle.magnitude)) return manyCycles<Finish>(cycle, past, x, dst, whole, finish);
+    return manyCycles(cycle, past, x, dst, whole, NearestFinish(finish));
 }
 
 }  // namespace vlq::fir::integer
