@@ -19,8 +19,8 @@ constexpr RealTurns<T, order, direction> realTurns() {
     RealTurns<T, order, direction> t{};
     constexpr bool forward = direction == Direction::forward;
     for (int k = 0; k < 1 << (order - 1); ++k) {
-        const int turn = k << (6 - order);
-        const double cosine = cosine64(turn), sine = -cosine64(turn + 16);
+        const int turn = k << (7 - order);
+        const double cosine = cosine128(turn), sine = -cosine128(turn + 32);
         t.re[2 * k] = t.re[2 * k + 1] = static_cast<T>(forward ? -sine / 2 : -sine);
         t.im[2 * k] = static_cast<T>(forward ? cosine / 2 : -cosine);
         t.im[2 * k + 1] = static_cast<T>(forward ? -cosine / 2 : cosine);
@@ -60,7 +60,7 @@ template <Direction direction, int order, class T, int B, int registers>
 // Real transform of 2^order points to and from Perm form, order 5 or 6. src may be dst.
 template <class T, int order, Direction direction, bool scaled>
 inline void realInterleaved(const T* src, T* dst, T scale) {
-    constexpr int B = kSmallBytes<T>;
+    constexpr int B = kSmallBytes<T, order - 1>;
     using V = Vec<T, B>;
     constexpr int count = V::lanes / 2, registers = (1 << order) / V::lanes;
     const V factor = V::broadcast(scale);

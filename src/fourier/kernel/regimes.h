@@ -11,7 +11,7 @@ namespace vlq::fft {
 template <class In>
 inline constexpr int kLastSmall = 5;
 template <class P, bool exchanged>
-inline constexpr int kLastSmall<Interleaved<P, exchanged>> = 6;
+inline constexpr int kLastSmall<Interleaved<P, exchanged>> = kVecBytes / sizeof(P) == 16 ? 7 : 6;
 
 // Straight-line code, orders 0 to kLastSmall.
 template <class T, class In, class Out>

@@ -1,5 +1,7 @@
 #include "fourier/kernel/small.h"
 
+#include <algorithm>
+
 #include "fourier/kernel/regimes.h"
 
 namespace vlq::fft {
@@ -10,10 +12,12 @@ void smallTransform(int order, const FloatingRecord<T>& record, In src, Out dst,
     static constexpr Kernel plain[] = {straightLine<T, 0, false, In, Out>, straightLine<T, 1, false, In, Out>,
                                        straightLine<T, 2, false, In, Out>, straightLine<T, 3, false, In, Out>,
                                        straightLine<T, 4, false, In, Out>, straightLine<T, 5, false, In, Out>,
+                                       straightLine<T, std::min(6, kLastSmall<In>), false, In, Out>,
                                        straightLine<T, kLastSmall<In>, false, In, Out>};
     static constexpr Kernel twins[] = {straightLine<T, 0, true, In, Out>, straightLine<T, 1, true, In, Out>,
                                        straightLine<T, 2, true, In, Out>, straightLine<T, 3, true, In, Out>,
                                        straightLine<T, 4, true, In, Out>, straightLine<T, 5, true, In, Out>,
+                                       straightLine<T, std::min(6, kLastSmall<In>), true, In, Out>,
                                        straightLine<T, kLastSmall<In>, true, In, Out>};
     (scaled ? twins : plain)[order](src, dst, record.normFactor);
 }

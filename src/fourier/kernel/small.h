@@ -1,4 +1,4 @@
-// Transforms of up to 32 values, interleaved ones of up to 64, straight-line: everything is read before anything is written, and
+// Transforms of up to 32 values, interleaved ones of up to 128, straight-line: everything is read before anything is written, and
 // every factor is a literal.
 #pragma once
 
@@ -23,9 +23,9 @@ constexpr LastTwiddles<T, B, span> lastTwiddles() {
     for (int k = 0; k < span; k += lanes) {
         for (int p = 1; p < 4; ++p) {
             for (int lane = 0; lane < lanes; ++lane) {
-                const int turn = p * (k + splitLane<T, B>(lane)) * (16 / span);
-                next[lane] = static_cast<T>(cosine64(turn));
-                next[lanes + lane] = static_cast<T>(cosine64(turn + 16));  // minus the sine
+                const int turn = p * (k + splitLane<T, B>(lane)) * (32 / span);
+                next[lane] = static_cast<T>(cosine128(turn));
+                next[lanes + lane] = static_cast<T>(cosine128(turn + 32));  // minus the sine
             }
             next += 2 * lanes;
         }

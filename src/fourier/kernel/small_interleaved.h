@@ -1,6 +1,8 @@
-// 16, 32 and 64 interleaved values, up to four to a register: two steps and the transposition
+// 16 to 128 interleaved values, up to eight to a register: two steps and the transposition
 // between them, all in registers as far as they reach.
 #pragma once
+
+#include <algorithm>
 
 #include "fourier/kernel/butterflies.h"
 #include "fourier/kernel/roots.h"
@@ -13,22 +15,22 @@ namespace vlq::fft {
 template <class T, int rows, int columns, bool inverse>
 struct InnerTwiddles {
     alignas(64) T re[columns][2 * rows], im[columns][2 * rows];
-    alignas(64) T eighth[2 * rows], minusEighth[2 * rows];  // the factor of the second step's eight-point transform
+    alignas(64) T eighth[2 * rows], minusEighth[2 * rows];  // the factor of the eight-point transforms
 };
 template <class T, int rows, int columns, bool inverse>
 constexpr InnerTwiddles<T, rows, columns, inverse> innerTwiddles() {
     InnerTwiddles<T, rows, columns, inverse> t{};
     for (int j = 0; j < columns; ++j) {
         for (int q = 0; q < rows; ++q) {
-            const int turn = j * q * (64 / (rows * columns));
-            const double sine = inverse ? -cosine64(turn + 16) : cosine64(turn + 16);  // minus the sine, forward
-            t.re[j][2 * q] = t.re[j][2 * q + 1] = static_cast<T>(cosine64(turn));
+            const int turn = j * q * (128 / (rows * columns));
+            const double sine = inverse ? -cosine128(turn + 32) : cosine128(turn + 32);  // minus the sine, forward
+            t.re[j][2 * q] = t.re[j][2 * q + 1] = static_cast<T>(cosine128(turn));
             t.im[j][2 * q] = static_cast<T>(-sine);
             t.im[j][2 * q + 1] = static_cast<T>(sine);
         }
     }
     for (int i = 0; i < 2 * rows; ++i) {
-        t.eighth[i] = rows * columns == 32 ? kEightPoint<T> : kRootHalf<T>;
+        t.eighth[i] = rows * columns == 32 || rows * columns == 128 ? kEightPoint<T> : kRootHalf<T>;
         t.minusEighth[i] = -t.eighth[i];
     }
     return t;
@@ -92,15 +94,55 @@ template <class T, int B, bool inverse>
     x[7] = e3 - o3;
 }
 
-// Width of a register of T's kernels: up to four values.
-template <class T>
-inline constexpr int kSmallBytes = kVecBytes < 8 * static_cast<int>(sizeof(T)) ? kVecBytes : 8 * static_cast<int>(sizeof(T));
+// exp(-2 pi i p / 16) for p to 9, or its conjugate, in all values of a register; as InnerTwiddles.
+template <class T, bool inverse>
+struct Sixteenths {
+    alignas(64) T re[10][64 / sizeof(T)], im[10][64 / sizeof(T)];
+};
+template <class T, bool inverse>
+constexpr Sixteenths<T, inverse> sixteenths() {
+    Sixteenths<T, inverse> t{};
+    for (int p = 0; p < 10; ++p) {
+        for (int i = 0; i < static_cast<int>(64 / sizeof(T)); ++i) {
+            const double sine = inverse ? -cosine128(8 * p + 32) : cosine128(8 * p + 32);
+            t.re[p][i] = static_cast<T>(cosine128(8 * p));
+            t.im[p][i] = static_cast<T>(i % 2 ? sine : -sine);
+        }
+    }
+    return t;
+}
+template <class T, bool inverse>
+inline constexpr Sixteenths<T, inverse> kSixteenths = sixteenths<T, inverse>();
 
-// 2^order values, order 4 to 6: get(i) gives value i and those behind it, put(i, vector) takes them.
+template <class T, int B, bool inverse>
+[[gnu::always_inline]] inline void dft(Values<T, B, inverse> (&x)[16], const T*, const T*) {
+    using F = Values<T, B, inverse>;
+    F t[16];
+    unroll<4>([&](auto m) __attribute__((always_inline)) {
+        dft4(x[m], x[m + 4], x[m + 8], x[m + 12]);
+        unroll<4>([&](auto q) __attribute__((always_inline)) {
+            constexpr int p = m * q;
+            const F v = x[m + 4 * q];
+            t[4 * q + m].v = p == 0 ? v.v
+                                    : mulAdd(v.v, loadAligned<T, B>(kSixteenths<T, inverse>.re[p]),
+                                             exchangeParts(v.v) * loadAligned<T, B>(kSixteenths<T, inverse>.im[p]));
+        });
+    });
+    unroll<4>([&](auto q) __attribute__((always_inline)) {
+        dft4(t[4 * q], t[4 * q + 1], t[4 * q + 2], t[4 * q + 3]);
+        unroll<4>([&](auto i) __attribute__((always_inline)) { x[q + 4 * i] = t[4 * q + i]; });
+    });
+}
+
+// Width of a register: up to four values, eight of 64 and 128 where they exist.
+template <class T, int order>
+inline constexpr int kSmallBytes = std::min(kVecBytes, (order < 6 ? 8 : 16) * static_cast<int>(sizeof(T)));
+
+// 2^order values, order 4 to 7: get(i) gives value i and those behind it, put(i, vector) takes them.
 // All are read before the first is put.
 template <class T, int order, bool inverse, class Get, class Put>
 [[gnu::always_inline]] inline void transformRegisters(Get&& get, Put&& put) {
-    constexpr int B = kSmallBytes<T>;
+    constexpr int B = kSmallBytes<T, order>;
     constexpr int rows = order < 6 ? 4 : 8, columns = (1 << order) / rows;
     using F = Values<T, B, inverse>;
     using V = Vec<T, B>;
@@ -133,10 +175,11 @@ template <class T, int order, bool inverse, class Get, class Put>
 // The same between memory; src may be dst.
 template <class T, int order, bool inverse, bool scaled>
 [[gnu::always_inline]] inline void transformInterleaved(const T* src, T* dst, T scale) {
-    using V = Vec<T, kSmallBytes<T>>;
+    constexpr int B = kSmallBytes<T, order>;
+    using V = Vec<T, B>;
     const V factor = V::broadcast(scale);
     transformRegisters<T, order, inverse>(
-        [&](int i) __attribute__((always_inline)) { return load<T, kSmallBytes<T>>(src + 2 * i); },
+        [&](int i) __attribute__((always_inline)) { return load<T, B>(src + 2 * i); },
         [&](int i, V v) __attribute__((always_inline)) { store(dst + 2 * i, scaled ? v * factor : v); });
 }
 

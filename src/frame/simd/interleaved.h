@@ -6,14 +6,15 @@
 
 namespace vlq {
 
-// (im, re) for each value.
-inline Vec<float, 16> exchangeParts(Vec<float, 16> v) { return Vec<float, 16>(_mm_shuffle_ps(v.raw, v.raw, 0xB1)); }
-inline Vec<double, 16> exchangeParts(Vec<double, 16> v) { return Vec<double, 16>(_mm_shuffle_pd(v.raw, v.raw, 1)); }
+// (im, re) for each value. The integer shuffle spares a copy: it does not overwrite its operand.
+inline Vec<float, 16> exchangeParts(Vec<float, 16> v) { return fromRegister<float>(_mm_shuffle_epi32(asInt(v), 0xB1)); }
+inline Vec<double, 16> exchangeParts(Vec<double, 16> v) { return fromRegister<double>(_mm_shuffle_epi32(asInt(v), 0x4E)); }
 #if VLQ_SIMD_BYTES >= 32
 inline Vec<float, 32> exchangeParts(Vec<float, 32> v) { return Vec<float, 32>(_mm256_permute_ps(v.raw, 0xB1)); }
 inline Vec<double, 32> exchangeParts(Vec<double, 32> v) { return Vec<double, 32>(_mm256_permute_pd(v.raw, 0x5)); }
 #endif
 #if VLQ_SIMD_BYTES >= 64
+inline Vec<float, 64> exchangeParts(Vec<float, 64> v) { return Vec<float, 64>(_mm512_permute_ps(v.raw, 0xB1)); }
 inline Vec<double, 64> exchangeParts(Vec<double, 64> v) { return Vec<double, 64>(_mm512_permute_pd(v.raw, 0x55)); }
 #endif
 
@@ -53,6 +54,14 @@ inline void transposeValues(Vec<double, 32> (&m)[2]) {
 }
 #endif
 #if VLQ_SIMD_BYTES >= 64
+inline void transposeValues(Vec<float, 64> (&m)[8]) {
+    Vec<double, 64> pairs[8];
+#pragma GCC unroll 8
+    for (int i = 0; i < 8; ++i) pairs[i] = bitCast<double>(m[i]);
+    transpose(pairs);
+#pragma GCC unroll 8
+    for (int i = 0; i < 8; ++i) m[i] = bitCast<float>(pairs[i]);
+}
 inline void transposeValues(Vec<double, 64> (&m)[4]) {
     const __m512d a = _mm512_shuffle_f64x2(m[0].raw, m[1].raw, 0x44), b = _mm512_shuffle_f64x2(m[0].raw, m[1].raw, 0xEE);
     const __m512d c = _mm512_shuffle_f64x2(m[2].raw, m[3].raw, 0x44), d = _mm512_shuffle_f64x2(m[2].raw, m[3].raw, 0xEE);
