@@ -176,12 +176,13 @@ template <class E>
 
 // ---- stretches in lanes ----------------------------------------------------------------------------
 // The periods are dealt out to the lanes in stretches of equal length; the last ones overlap where
-// the number does not divide. All lanes move through their stretches together.
+// the number does not divide. All lanes move through their stretches together, a few periods at a
+// time: bringing samples in and outputs out then hides behind the products of the periods before.
 
-// Vectors of samples brought into lanes at a time, and vectors of outputs that wait to be brought out.
-inline constexpr int kStaged = 384;
-inline constexpr int kWaiting = 48;
-// Sums in registers beside the taps and a load.
+// Vectors of samples in lanes that are held, vectors of sums that wait to be brought out, and vectors
+// of sums in registers, beside taps and samples.
+inline constexpr int kStaged = 512;
+inline constexpr int kWaiting = 96;
 inline constexpr int kSums = 12;
 
 template <class E>
@@ -191,9 +192,10 @@ class Stretches {
     using Sums = SumOf<E, V>;
     static constexpr int n = kParts<E>;
     static constexpr int lanes = V::lanes;
+    static constexpr int group = lanes / n;  // samples or outputs that a vector holds in the order of memory
     static constexpr int staged = kStaged / n;
-    static constexpr int waiting = kWaiting / n;
-    static constexpr int tile = kSums / (n * n);
+    static constexpr int waiting = kWaiting / (n * n);
+    static constexpr int inTile = kSums / (n * n);
 
 public:
     static bool takes(const Polyphase<E>& f, int periods) { return periods >= lanes && f.down <= staged / 2; }
@@ -207,110 +209,197 @@ public:
         // Long rows go in pieces of taps, for each of which samples are brought in again.
         const int piece = std::min(f_.line, staged / 2);
         const bool once = piece == f_.line;
-        const int atOnce = std::max(1, waiting / f_.up);
-        const int reach = once ? (staged - piece) / f_.down : std::min((staged - piece) / f_.down, atOnce);
-        for (int t = 0; t < length_; t += reach) {
-            const int end = std::min(length_, t + reach);
-            if (once) bringIn(t, end - t, 0, piece);
-            for (int from = t; from < end; from += atOnce) {
-                const int count = std::min(atOnce, end - from);
-                for (int k = 0; k < f_.up; k += waiting) {
-                    const int phases = std::min(waiting, f_.up - k);
-                    for (int i = 0; i < f_.line; i += piece) {
-                        const int last = std::min(f_.line, i + piece);
-                        if (!once) bringIn(from, count, i, last);
-                        add(from, count, k, phases, i, last);
+        const int atOnce = std::min({inTile, length_, (staged - piece) / f_.down});
+        const int periods = atOnce == inTile ? std::min(std::max(1, waiting / (inTile * f_.up)) * inTile, (staged - piece) / f_.down / inTile * inTile) : atOnce;
+        const int phases = waiting / periods;
+        if (once) beginAt(-f_.line);
+        for (int t = 0; t < length_; t += periods) {
+            const int count = std::min(periods, length_ - t);
+            if (once) bringIn(t, count, 0, piece);
+            for (int k = 0; k < f_.up; k += phases) {
+                const int some = std::min(phases, f_.up - k);
+                for (int i = 0; i < f_.line; i += piece) {
+                    const int last = std::min(f_.line, i + piece);
+                    if (!once) {
+                        beginAt(static_cast<std::ptrdiff_t>(t) * f_.down - last);
+                        bringIn(t, count, i, last);
                     }
-                    bringOut(from, count, k, phases);
+                    add(t, count, k, some, i, last);
                 }
+                bringOut(t, count, k, some);
             }
         }
     }
 
 private:
-    // The samples that taps i to last - 1 meet in `count` periods from t on.
+    void beginAt(std::ptrdiff_t sample) {
+        origin_ = end_ = sample;
+    }
+
+    // Makes sure of the samples that taps i to last - 1 meet in `count` periods from t on, all
+    // before them being there or of no more use.
     void bringIn(int t, int count, int i, int last) {
-        origin_ = static_cast<std::ptrdiff_t>(t) * f_.down - last;
-        const int held = (count * f_.down + last - i) * n;
+        const std::ptrdiff_t first = static_cast<std::ptrdiff_t>(t) * f_.down - last;
+        const std::ptrdiff_t wanted = static_cast<std::ptrdiff_t>(t + count) * f_.down - i;
+        if (wanted - origin_ > staged) {
+            const T* from = samples_ + (first - origin_) * n * lanes;
+            const std::ptrdiff_t kept = (end_ - first) * n * lanes;
+            for (std::ptrdiff_t at = 0; at < kept; at += lanes) storeAligned(samples_ + at, loadAligned<T>(from + at));
+            origin_ = first;
+        }
+        const std::ptrdiff_t all = static_cast<std::ptrdiff_t>(length_) * f_.down;
         V m[lanes];
-        for (int at = 0; at < held; at += lanes) {
-            const int some = std::min(lanes, held - at);
-            const T* from = parts(x_ + origin_) + at;
-            if (some == lanes) {
+        for (; end_ < wanted; end_ += group) {
+            const T* from = parts(x_ + end_);
+            if (end_ + group <= all) {
 #pragma GCC unroll 16
                 for (int lane = 0; lane < lanes; ++lane) m[lane] = load<T>(from + start_[lane] * n * f_.down);
             } else {
+                const int some = static_cast<int>(all - end_) * n;
                 for (int lane = 0; lane < lanes; ++lane) m[lane] = loadPartial<T>(from + start_[lane] * n * f_.down, some);
             }
             transpose(m);
-            // Rows past the last one are written too: there is room.
+            T* to = samples_ + (end_ - origin_) * n * lanes;
 #pragma GCC unroll 16
-            for (int row = 0; row < lanes; ++row) storeAligned(samples_ + (at + row) * lanes, m[row]);
+            for (int row = 0; row < lanes; ++row) storeAligned(to + row * lanes, m[row]);
         }
     }
 
-    // A outputs of one phase in successive periods; sums and samples of the next one are `outputs` and
-    // `step` further on.
-    template <int A>
-    static void addTile(const E* taps, int count, const T* x, std::ptrdiff_t step, Sums* sums, int outputs) {
-        Sums sum[A];
+    struct Row {
+        const E* taps;
+        const T* x;
+        int count;
+    };
+
+    // K phases with A outputs of each in successive periods. One phase and the next lie side by side,
+    // the next period `outputs` further on. Phases of one newest sample share the loads.
+    template <int K, int A, bool Shared>
+    static void addTile(const Row* rows, int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
+        Sums sum[K][A];
+        if (!fresh) {
 #pragma GCC unroll 12
-        for (int a = 0; a < A; ++a) sum[a] = sums[a * outputs];
+            for (int k = 0; k < K; ++k) {
+#pragma GCC unroll 12
+                for (int a = 0; a < A; ++a) sum[k][a] = sums[k + a * outputs];
+            }
+        }
+        const E* taps[K];
+        const T* x[K];
+#pragma GCC unroll 12
+        for (int k = 0; k < K; ++k) taps[k] = rows[k].taps, x[k] = rows[k].x;
 #pragma GCC unroll 1
-        for (; count > 0; --count, ++taps, x -= n * lanes) {
-            V g[n];
-            spreadParts(taps, g);
+        for (int i = 0; i < count; ++i) {
+            V s[A][n];
 #pragma GCC unroll 12
-            for (int a = 0; a < A; ++a) {
-                V s[n];
+            for (int k = 0; k < K; ++k) {
+                V g[n];
+                spreadParts(taps[k] + i, g);
+#pragma GCC unroll 12
+                for (int a = 0; a < A; ++a) {
+                    if (!Shared || k == 0) {
 #pragma GCC unroll 2
-                for (int part = 0; part < n; ++part) s[part] = loadAligned<T>(x + a * step + part * lanes);
-                sum[a].add(g, s);
+                        for (int part = 0; part < n; ++part) s[a][part] = loadAligned<T>(x[k] + (part - i * n) * lanes + a * step);
+                    }
+                    sum[k][a].add(g, s[a]);
+                }
             }
         }
 #pragma GCC unroll 12
-        for (int a = 0; a < A; ++a) sums[a * outputs] = sum[a];
+        for (int k = 0; k < K; ++k) {
+#pragma GCC unroll 12
+            for (int a = 0; a < A; ++a) sums[k + a * outputs] = sum[k][a];
+        }
     }
     template <int... Less>
-    static void addSome(int some, const E* taps, int count, const T* x, std::ptrdiff_t step, Sums* sums, int outputs,
-                        std::integer_sequence<int, Less...>) {
-        ((some == Less + 1 ? addTile<Less + 1>(taps, count, x, step, sums, outputs) : void()), ...);
+    static void addSome(int some, const Row* row, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh, std::integer_sequence<int, Less...>) {
+        ((some == Less + 1 ? addTile<1, Less + 1, false>(row, row->count, step, sums, outputs, fresh) : void()), ...);
+    }
+    static void addPhase(const Row& row, int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
+        Row rest = row;
+        for (; count >= inTile; count -= inTile, rest.x += inTile * step, sums += inTile * outputs) {
+            addTile<1, inTile, false>(&rest, rest.count, step, sums, outputs, fresh);
+        }
+        addSome(count, &rest, step, sums, outputs, fresh, std::make_integer_sequence<int, inTile - 1>());
     }
 
-    void add(int t, int count, int k, int phases, int i, int last) {
-        if (i == 0) std::fill_n(sums_, count * phases, Sums{});
-        const std::ptrdiff_t step = static_cast<std::ptrdiff_t>(f_.down) * n * lanes;
-        for (int output = 0; output < phases; ++output) {
-            const Phase& phase = f_.phases[k + output];
-            const int taps = std::min(phase.taps, last) - i;
-            if (taps <= 0) continue;
-            const E* row = f_.rows + phase.row + i;
-            const T* x = samples_ + (static_cast<std::ptrdiff_t>(t) * f_.down + phase.newest - i - origin_) * n * lanes;
-            Sums* sums = sums_ + output;
-            int left = count;
-            for (; left >= tile; left -= tile, x += tile * step, sums += tile * phases) addTile<tile>(row, taps, x, step, sums, phases);
-            addSome(left, row, taps, x, step, sums, phases, std::make_integer_sequence<int, tile - 1>());
+    // K phases with as many terms as all of them have, then what some have more.
+    template <int K, bool Shared>
+    static void addPhases(const Row (&rows)[K], int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
+        constexpr int A = inTile / K;
+        int terms = rows[0].count;
+        for (const Row& row : rows) terms = std::min(terms, row.count);
+        Row now[K];
+        std::copy_n(rows, K, now);
+        int left = count;
+        Sums* to = sums;
+        for (; left >= A; left -= A, to += A * outputs) {
+            addTile<K, A, Shared>(now, terms, step, to, outputs, fresh);
+            for (Row& row : now) row.x += A * step;
+        }
+        for (int k = 0; k < K; ++k) {
+            if (left > 0) {
+                now[k].count = terms;
+                addPhase(now[k], left, step, to + k, outputs, fresh);
+            }
+            if (rows[k].count > terms) {
+                const Row more = {rows[k].taps + terms, rows[k].x - static_cast<std::ptrdiff_t>(terms) * n * lanes, rows[k].count - terms};
+                addPhase(more, count, step, sums + k, outputs, false);
+            }
         }
     }
 
+    void add(int t, int count, int k, int phases, int i, int last) {
+        const std::ptrdiff_t step = static_cast<std::ptrdiff_t>(f_.down) * n * lanes;
+        auto rowOf = [&](int output) {
+            const Phase& phase = f_.phases[k + output];
+            return Row{f_.rows + phase.row + i,
+                       samples_ + (static_cast<std::ptrdiff_t>(t) * f_.down + phase.newest - i - origin_) * n * lanes,
+                       std::max(0, std::min(phase.taps, last) - i)};
+        };
+        constexpr int together = 3;
+        const bool fresh = i == 0;
+        int output = 0;
+        if constexpr (inTile % together == 0) {
+            for (; output + together <= phases; ) {
+                const Row rows[together] = {rowOf(output), rowOf(output + 1), rowOf(output + 2)};
+                const bool shared = rows[0].x == rows[1].x && rows[0].x == rows[2].x;
+                if (shared && count >= inTile / together) {
+                    addPhases<together, true>(rows, count, step, sums_ + output, phases, fresh);
+                    output += together;
+                } else if (count < inTile / 2) {
+                    addPhases<together, false>(rows, count, step, sums_ + output, phases, fresh);
+                    output += together;
+                } else {
+                    addPhase(rows[0], count, step, sums_ + output, phases, fresh);
+                    ++output;
+                }
+            }
+        }
+        for (; output < phases; ++output) addPhase(rowOf(output), count, step, sums_ + output, phases, fresh);
+    }
+
+    // Runs of outputs that lie side by side.
     void bringOut(int t, int count, int k, int phases) {
-        constexpr int outputs = lanes / n;  // that a vector holds in the order of memory
         T* to = parts(dst_ + static_cast<std::ptrdiff_t>(t) * f_.up + k);
+        if (phases == f_.up) return bringOutRun(to, 0, count * phases);
+        for (int period = 0; period < count; ++period, to += static_cast<std::ptrdiff_t>(f_.up) * n) bringOutRun(to, period * phases, phases);
+    }
+    void bringOutRun(T* to, int from, int left) {
         V m[lanes];
-        for (int left = count * phases, at = 0; left > 0; left -= outputs, at += outputs) {
+        for (const Sums* sums = sums_ + from; left > 0; left -= group, sums += group, to += lanes) {
 #pragma GCC unroll 16
-            for (int o = 0; o < outputs; ++o) {
+            for (int o = 0; o < group; ++o) {
                 V y[n];
-                sums_[at + o].finish(y);
+                sums[o].finish(y);
 #pragma GCC unroll 2
                 for (int part = 0; part < n; ++part) m[o * n + part] = y[part];
             }
             transpose(m);
-            if (left >= outputs) {
+            if (left >= group) {
 #pragma GCC unroll 16
-                for (int lane = 0; lane < lanes; ++lane) store(to + start_[lane] * n * f_.up + at * n, m[lane]);
+                for (int lane = 0; lane < lanes; ++lane) store(to + start_[lane] * n * f_.up, m[lane]);
             } else {
-                for (int lane = 0; lane < lanes; ++lane) storePartial(to + start_[lane] * n * f_.up + at * n, m[lane], left * n);
+                for (int lane = 0; lane < lanes; ++lane) storePartial(to + start_[lane] * n * f_.up, m[lane], left * n);
             }
         }
     }
@@ -318,10 +407,11 @@ private:
     const Polyphase<E>& f_;
     const E* x_;
     E* dst_;
-    int length_;                   // of a stretch, in periods
-    std::ptrdiff_t start_[lanes];  // of each lane's stretch
-    std::ptrdiff_t origin_ = 0;    // the sample of the lanes' first periods that samples_ begins with
-    alignas(kVecBytes) T samples_[(kStaged + lanes) * lanes];
+    int length_;                     // of a stretch, in periods
+    std::ptrdiff_t start_[lanes];    // of each lane's stretch
+    std::ptrdiff_t origin_ = 0;      // what samples_ begins with, counted from the lanes' starts
+    std::ptrdiff_t end_ = 0;         // and ends before
+    alignas(kVecBytes) T samples_[(kStaged + 2 * lanes) * lanes];
     Sums sums_[waiting + lanes];
 };
 
