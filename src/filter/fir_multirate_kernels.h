@@ -184,6 +184,8 @@ template <class E>
 inline constexpr int kStaged = 512;
 inline constexpr int kWaiting = 96;
 inline constexpr int kSums = 12;
+// With separate multiplications and additions loads are not what a tile waits for.
+inline constexpr bool kSharesLoads = kVecBytes > 16;
 
 template <class E>
 class Stretches {
@@ -200,9 +202,12 @@ class Stretches {
 public:
     static bool takes(const Polyphase<E>& f, int periods) { return periods >= lanes && f.down <= staged / 2; }
 
-    Stretches(const Polyphase<E>& f, const E* x, E* dst, int periods)
-        : f_(f), x_(x), dst_(dst), length_((periods + lanes - 1) / lanes) {
-        for (int lane = 0; lane < lanes; ++lane) start_[lane] = std::min(lane * length_, periods - length_);
+    Stretches(const Polyphase<E>& f, const E* x, E* dst, int periods) : f_(f), length_((periods + lanes - 1) / lanes) {
+        for (int lane = 0; lane < lanes; ++lane) {
+            const std::ptrdiff_t start = std::min(lane * length_, periods - length_);
+            from_[lane] = parts(x + start * f.down);
+            to_[lane] = parts(dst + start * f.up);
+        }
     }
 
     void run() {
@@ -247,22 +252,29 @@ private:
             for (std::ptrdiff_t at = 0; at < kept; at += lanes) storeAligned(samples_ + at, loadAligned<T>(from + at));
             origin_ = first;
         }
+        // Whole vectors, as long as the stretches have them; they may reach beyond what is wanted.
         const std::ptrdiff_t all = static_cast<std::ptrdiff_t>(length_) * f_.down;
-        V m[lanes];
-        for (; end_ < wanted; end_ += group) {
-            const T* from = parts(x_ + end_);
-            if (end_ + group <= all) {
+        std::ptrdiff_t at = end_ * n;
+        T* to = samples_ + (end_ - origin_) * n * lanes;
+        for (; at < wanted * n && at + lanes <= all * n; at += lanes, to += lanes * lanes) {
+            V m[lanes];
 #pragma GCC unroll 16
-                for (int lane = 0; lane < lanes; ++lane) m[lane] = load<T>(from + start_[lane] * n * f_.down);
-            } else {
-                const int some = static_cast<int>(all - end_) * n;
-                for (int lane = 0; lane < lanes; ++lane) m[lane] = loadPartial<T>(from + start_[lane] * n * f_.down, some);
-            }
+            for (int lane = 0; lane < lanes; ++lane) m[lane] = load<T>(from_[lane] + at);
             transpose(m);
-            T* to = samples_ + (end_ - origin_) * n * lanes;
 #pragma GCC unroll 16
             for (int row = 0; row < lanes; ++row) storeAligned(to + row * lanes, m[row]);
         }
+        if (at < wanted * n) {
+            bringInLast(to, at, static_cast<int>(all * n - at));
+            at = all * n;
+        }
+        end_ = at / n;
+    }
+    [[gnu::noinline]] void bringInLast(T* to, std::ptrdiff_t at, int some) {
+        V m[lanes];
+        for (int lane = 0; lane < lanes; ++lane) m[lane] = loadPartial<T>(from_[lane] + at, some);
+        transpose(m);
+        for (int row = 0; row < some; ++row) storeAligned(to + row * lanes, m[row]);
     }
 
     struct Row {
@@ -274,7 +286,7 @@ private:
     // K phases with A outputs of each in successive periods. One phase and the next lie side by side,
     // the next period `outputs` further on. Phases of one newest sample share the loads.
     template <int K, int A, bool Shared>
-    static void addTile(const Row* rows, int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
+    [[gnu::noinline]] static void addTile(const Row* rows, int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
         Sums sum[K][A];
         if (!fresh) {
 #pragma GCC unroll 12
@@ -289,18 +301,18 @@ private:
         for (int k = 0; k < K; ++k) taps[k] = rows[k].taps, x[k] = rows[k].x;
 #pragma GCC unroll 1
         for (int i = 0; i < count; ++i) {
-            V s[A][n];
+            V g[K][n], s[n];
 #pragma GCC unroll 12
-            for (int k = 0; k < K; ++k) {
-                V g[n];
-                spreadParts(taps[k] + i, g);
+            for (int k = 0; k < K; ++k) spreadParts(taps[k] + i, g[k]);
 #pragma GCC unroll 12
-                for (int a = 0; a < A; ++a) {
+            for (int a = 0; a < A; ++a) {
+#pragma GCC unroll 12
+                for (int k = 0; k < K; ++k) {
                     if (!Shared || k == 0) {
 #pragma GCC unroll 2
-                        for (int part = 0; part < n; ++part) s[a][part] = loadAligned<T>(x[k] + (part - i * n) * lanes + a * step);
+                        for (int part = 0; part < n; ++part) s[part] = loadAligned<T>(x[k] + (part - i * n) * lanes + a * step);
                     }
-                    sum[k][a].add(g, s[a]);
+                    sum[k][a].add(g[k], s);
                 }
             }
         }
@@ -363,7 +375,7 @@ private:
             for (; output + together <= phases; ) {
                 const Row rows[together] = {rowOf(output), rowOf(output + 1), rowOf(output + 2)};
                 const bool shared = rows[0].x == rows[1].x && rows[0].x == rows[2].x;
-                if (shared && count >= inTile / together) {
+                if (kSharesLoads && shared && count >= inTile / together) {
                     addPhases<together, true>(rows, count, step, sums_ + output, phases, fresh);
                     output += together;
                 } else if (count < inTile / 2) {
@@ -380,37 +392,43 @@ private:
 
     // Runs of outputs that lie side by side.
     void bringOut(int t, int count, int k, int phases) {
-        T* to = parts(dst_ + static_cast<std::ptrdiff_t>(t) * f_.up + k);
-        if (phases == f_.up) return bringOutRun(to, 0, count * phases);
-        for (int period = 0; period < count; ++period, to += static_cast<std::ptrdiff_t>(f_.up) * n) bringOutRun(to, period * phases, phases);
-    }
-    void bringOutRun(T* to, int from, int left) {
-        V m[lanes];
-        for (const Sums* sums = sums_ + from; left > 0; left -= group, sums += group, to += lanes) {
-#pragma GCC unroll 16
-            for (int o = 0; o < group; ++o) {
-                V y[n];
-                sums[o].finish(y);
-#pragma GCC unroll 2
-                for (int part = 0; part < n; ++part) m[o * n + part] = y[part];
-            }
-            transpose(m);
-            if (left >= group) {
-#pragma GCC unroll 16
-                for (int lane = 0; lane < lanes; ++lane) store(to + start_[lane] * n * f_.up, m[lane]);
-            } else {
-                for (int lane = 0; lane < lanes; ++lane) storePartial(to + start_[lane] * n * f_.up, m[lane], left * n);
-            }
+        std::ptrdiff_t at = (static_cast<std::ptrdiff_t>(t) * f_.up + k) * n;
+        if (phases == f_.up) return bringOutRun(at, sums_, count * phases);
+        for (int period = 0; period < count; ++period, at += static_cast<std::ptrdiff_t>(f_.up) * n) {
+            bringOutRun(at, sums_ + period * phases, phases);
         }
+    }
+    static void gather(const Sums* sums, V (&m)[lanes]) {
+#pragma GCC unroll 16
+        for (int o = 0; o < group; ++o) {
+            V y[n];
+            sums[o].finish(y);
+#pragma GCC unroll 2
+            for (int part = 0; part < n; ++part) m[o * n + part] = y[part];
+        }
+        transpose(m);
+    }
+    void bringOutRun(std::ptrdiff_t at, const Sums* sums, int left) {
+        for (; left >= group; left -= group, sums += group, at += lanes) {
+            V m[lanes];
+            gather(sums, m);
+#pragma GCC unroll 16
+            for (int lane = 0; lane < lanes; ++lane) store(to_[lane] + at, m[lane]);
+        }
+        if (left > 0) bringOutLast(at, sums, left);
+    }
+    [[gnu::noinline]] void bringOutLast(std::ptrdiff_t at, const Sums* sums, int left) {
+        V m[lanes];
+        gather(sums, m);
+        for (int lane = 0; lane < lanes; ++lane) storePartial(to_[lane] + at, m[lane], left * n);
     }
 
     const Polyphase<E>& f_;
-    const E* x_;
-    E* dst_;
-    int length_;                     // of a stretch, in periods
-    std::ptrdiff_t start_[lanes];    // of each lane's stretch
-    std::ptrdiff_t origin_ = 0;      // what samples_ begins with, counted from the lanes' starts
-    std::ptrdiff_t end_ = 0;         // and ends before
+    int length_;               // of a stretch, in periods
+    const T* from_[lanes];     // where each lane's stretch begins
+    T* to_[lanes];
+    std::ptrdiff_t origin_ = 0;  // what samples_ begins with, counted from the lanes' starts
+    std::ptrdiff_t end_ = 0;     // and ends before
     alignas(kVecBytes) T samples_[(kStaged + 2 * lanes) * lanes];
     Sums sums_[waiting + lanes];
 };
