@@ -180,10 +180,11 @@ template <class E>
 // time: bringing samples in and outputs out then hides behind the products of the periods before.
 
 // Vectors of samples in lanes that are held, vectors of sums that wait to be brought out, and vectors
-// of sums in registers, beside taps and samples.
+// of sums in registers, beside taps and samples: of one phase, and of three that share their samples.
 inline constexpr int kStaged = 512;
-inline constexpr int kWaiting = 96;
+inline constexpr int kWaiting = 144;
 inline constexpr int kSums = 12;
+inline constexpr int kSharedSums = kVecBytes == 64 ? 24 : 12;
 // With separate multiplications and additions loads are not what a tile waits for.
 inline constexpr bool kSharesLoads = kVecBytes > 16;
 
@@ -214,9 +215,17 @@ public:
         // Long rows go in pieces of taps, for each of which samples are brought in again.
         const int piece = std::min(f_.line, staged / 2);
         const bool once = piece == f_.line;
-        const int atOnce = std::min({inTile, length_, (staged - piece) / f_.down});
-        const int periods = atOnce == inTile ? std::min(std::max(1, waiting / (inTile * f_.up)) * inTile, (staged - piece) / f_.down / inTile * inTile) : atOnce;
-        const int phases = waiting / periods;
+        const int room = (staged - piece) / f_.down;
+        if (length_ < inTile || room < inTile) {
+            periods_ = std::min({inTile, length_, room});
+        } else {
+            // Multiples of four tiles, or of two, come out in whole vectors more often than others.
+            const int tiles = std::min({waiting / f_.up, room, length_}) / inTile;
+            periods_ = (tiles >= 4 ? 4 : tiles >= 2 ? 2 : 1) * inTile;
+        }
+        const int phases = std::min(f_.up, waiting / periods_);
+        orderOutputs(phases);
+        const int periods = periods_;
         if (once) beginAt(-f_.line);
         for (int t = 0; t < length_; t += periods) {
             const int count = std::min(periods, length_ - t);
@@ -283,79 +292,72 @@ private:
         int count;
     };
 
-    // K phases with A outputs of each in successive periods. One phase and the next lie side by side,
-    // the next period `outputs` further on. Phases of one newest sample share the loads.
+    // K phases with A outputs of each in successive periods, `tiles` times over. The sums of a phase lie
+    // side by side, those of the next one `outputs` further on. Phases of one newest sample share loads.
     template <int K, int A, bool Shared>
-    [[gnu::noinline]] static void addTile(const Row* rows, int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
-        Sums sum[K][A];
-        if (!fresh) {
+    [[gnu::noinline]] static void addTiles(int tiles, const Row* rows, int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
+        std::ptrdiff_t at = 0;
+        for (; tiles > 0; --tiles, at += A * step, sums += A) {
+            Sums sum[K][A];
+            if (!fresh) {
+#pragma GCC unroll 12
+                for (int k = 0; k < K; ++k) {
+#pragma GCC unroll 12
+                    for (int a = 0; a < A; ++a) sum[k][a] = sums[k * outputs + a];
+                }
+            }
+            const E* taps[K];
+            const T* x[K];
+#pragma GCC unroll 12
+            for (int k = 0; k < K; ++k) taps[k] = rows[k].taps, x[k] = rows[k].x + at;
+#pragma GCC unroll 1
+            for (int i = 0; i < count; ++i) {
+                V g[K][n], s[n];
+#pragma GCC unroll 12
+                for (int k = 0; k < K; ++k) spreadParts(taps[k] + i, g[k]);
+#pragma GCC unroll 12
+                for (int a = 0; a < A; ++a) {
+#pragma GCC unroll 12
+                    for (int k = 0; k < K; ++k) {
+                        if (!Shared || k == 0) {
+#pragma GCC unroll 2
+                            for (int part = 0; part < n; ++part) s[part] = loadAligned<T>(x[k] + (part - i * n) * lanes + a * step);
+                        }
+                        sum[k][a].add(g[k], s);
+                    }
+                }
+            }
 #pragma GCC unroll 12
             for (int k = 0; k < K; ++k) {
 #pragma GCC unroll 12
-                for (int a = 0; a < A; ++a) sum[k][a] = sums[k + a * outputs];
+                for (int a = 0; a < A; ++a) sums[k * outputs + a] = sum[k][a];
             }
-        }
-        const E* taps[K];
-        const T* x[K];
-#pragma GCC unroll 12
-        for (int k = 0; k < K; ++k) taps[k] = rows[k].taps, x[k] = rows[k].x;
-#pragma GCC unroll 1
-        for (int i = 0; i < count; ++i) {
-            V g[K][n], s[n];
-#pragma GCC unroll 12
-            for (int k = 0; k < K; ++k) spreadParts(taps[k] + i, g[k]);
-#pragma GCC unroll 12
-            for (int a = 0; a < A; ++a) {
-#pragma GCC unroll 12
-                for (int k = 0; k < K; ++k) {
-                    if (!Shared || k == 0) {
-#pragma GCC unroll 2
-                        for (int part = 0; part < n; ++part) s[part] = loadAligned<T>(x[k] + (part - i * n) * lanes + a * step);
-                    }
-                    sum[k][a].add(g[k], s);
-                }
-            }
-        }
-#pragma GCC unroll 12
-        for (int k = 0; k < K; ++k) {
-#pragma GCC unroll 12
-            for (int a = 0; a < A; ++a) sums[k + a * outputs] = sum[k][a];
         }
     }
     template <int... Less>
-    static void addSome(int some, const Row* row, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh, std::integer_sequence<int, Less...>) {
-        ((some == Less + 1 ? addTile<1, Less + 1, false>(row, row->count, step, sums, outputs, fresh) : void()), ...);
+    static void addSome(int some, const Row* row, std::ptrdiff_t step, Sums* sums, bool fresh, std::integer_sequence<int, Less...>) {
+        ((some == Less + 1 ? addTiles<1, Less + 1, false>(1, row, row->count, step, sums, 0, fresh) : void()), ...);
     }
-    static void addPhase(const Row& row, int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
-        Row rest = row;
-        for (; count >= inTile; count -= inTile, rest.x += inTile * step, sums += inTile * outputs) {
-            addTile<1, inTile, false>(&rest, rest.count, step, sums, outputs, fresh);
-        }
-        addSome(count, &rest, step, sums, outputs, fresh, std::make_integer_sequence<int, inTile - 1>());
+    static void addPhase(const Row& row, int count, std::ptrdiff_t step, Sums* sums, bool fresh) {
+        const int tiles = count / inTile;
+        if (tiles > 0) addTiles<1, inTile, false>(tiles, &row, row.count, step, sums, 0, fresh);
+        if (count == tiles * inTile) return;
+        const Row rest = {row.taps, row.x + tiles * inTile * step, row.count};
+        addSome(count - tiles * inTile, &rest, step, sums + tiles * inTile, fresh, std::make_integer_sequence<int, inTile - 1>());
     }
 
     // K phases with as many terms as all of them have, then what some have more.
-    template <int K, bool Shared>
-    static void addPhases(const Row (&rows)[K], int count, std::ptrdiff_t step, Sums* sums, int outputs, bool fresh) {
-        constexpr int A = inTile / K;
+    template <int K, int A, bool Shared>
+    void addPhases(const Row (&rows)[K], int count, std::ptrdiff_t step, Sums* sums, bool fresh) {
         int terms = rows[0].count;
         for (const Row& row : rows) terms = std::min(terms, row.count);
-        Row now[K];
-        std::copy_n(rows, K, now);
-        int left = count;
-        Sums* to = sums;
-        for (; left >= A; left -= A, to += A * outputs) {
-            addTile<K, A, Shared>(now, terms, step, to, outputs, fresh);
-            for (Row& row : now) row.x += A * step;
-        }
-        for (int k = 0; k < K; ++k) {
-            if (left > 0) {
-                now[k].count = terms;
-                addPhase(now[k], left, step, to + k, outputs, fresh);
-            }
-            if (rows[k].count > terms) {
-                const Row more = {rows[k].taps + terms, rows[k].x - static_cast<std::ptrdiff_t>(terms) * n * lanes, rows[k].count - terms};
-                addPhase(more, count, step, sums + k, outputs, false);
+        const int tiles = count / A;
+        addTiles<K, A, Shared>(tiles, rows, terms, step, sums, periods_, fresh);
+        for (int k = 0; k < K; ++k, sums += periods_) {
+            const Row& row = rows[k];
+            if (tiles * A < count) addPhase({row.taps, row.x + tiles * A * step, terms}, count - tiles * A, step, sums + tiles * A, fresh);
+            if (row.count > terms) {
+                addPhase({row.taps + terms, row.x - static_cast<std::ptrdiff_t>(terms) * n * lanes, row.count - terms}, count, step, sums, false);
             }
         }
     }
@@ -368,69 +370,82 @@ private:
                        samples_ + (static_cast<std::ptrdiff_t>(t) * f_.down + phase.newest - i - origin_) * n * lanes,
                        std::max(0, std::min(phase.taps, last) - i)};
         };
-        constexpr int together = 3;
         const bool fresh = i == 0;
         int output = 0;
-        if constexpr (inTile % together == 0) {
-            for (; output + together <= phases; ) {
+        if constexpr (n == 1) {
+            constexpr int together = 3;
+            while (output + together <= phases) {
                 const Row rows[together] = {rowOf(output), rowOf(output + 1), rowOf(output + 2)};
-                const bool shared = rows[0].x == rows[1].x && rows[0].x == rows[2].x;
-                if (kSharesLoads && shared && count >= inTile / together) {
-                    addPhases<together, true>(rows, count, step, sums_ + output, phases, fresh);
-                    output += together;
+                Sums* sums = sums_ + output * periods_;
+                const bool shared = kSharesLoads && rows[0].x == rows[1].x && rows[0].x == rows[2].x;
+                if (shared && count >= kSharedSums / together) {
+                    addPhases<together, kSharedSums / together, true>(rows, count, step, sums, fresh);
                 } else if (count < inTile / 2) {
-                    addPhases<together, false>(rows, count, step, sums_ + output, phases, fresh);
-                    output += together;
+                    addPhases<together, 2, false>(rows, count, step, sums, fresh);
                 } else {
-                    addPhase(rows[0], count, step, sums_ + output, phases, fresh);
+                    addPhase(rows[0], count, step, sums, fresh);
                     ++output;
+                    continue;
                 }
+                output += together;
             }
         }
-        for (; output < phases; ++output) addPhase(rowOf(output), count, step, sums_ + output, phases, fresh);
+        for (; output < phases; ++output) addPhase(rowOf(output), count, step, sums_ + output * periods_, fresh);
     }
 
-    // Runs of outputs that lie side by side.
+    // Where the sums lie that come out side by side: those of all phases and periods, or of the phases
+    // of one period.
+    void orderOutputs(int phases) {
+        int* order = order_;
+        const int periods = phases == f_.up ? periods_ : 1;
+        for (int period = 0; period < periods; ++period) {
+            for (int k = 0; k < phases; ++k) *order++ = k * periods_ + period;
+        }
+        std::fill_n(order, group, 0);
+    }
     void bringOut(int t, int count, int k, int phases) {
         std::ptrdiff_t at = (static_cast<std::ptrdiff_t>(t) * f_.up + k) * n;
         if (phases == f_.up) return bringOutRun(at, sums_, count * phases);
         for (int period = 0; period < count; ++period, at += static_cast<std::ptrdiff_t>(f_.up) * n) {
-            bringOutRun(at, sums_ + period * phases, phases);
+            bringOutRun(at, sums_ + period, phases);
         }
     }
-    static void gather(const Sums* sums, V (&m)[lanes]) {
+    static void gather(const Sums* sums, const int* order, V (&m)[lanes]) {
 #pragma GCC unroll 16
         for (int o = 0; o < group; ++o) {
             V y[n];
-            sums[o].finish(y);
+            sums[order[o]].finish(y);
 #pragma GCC unroll 2
             for (int part = 0; part < n; ++part) m[o * n + part] = y[part];
         }
         transpose(m);
     }
     void bringOutRun(std::ptrdiff_t at, const Sums* sums, int left) {
-        for (; left >= group; left -= group, sums += group, at += lanes) {
+        const int* order = order_;
+        for (; left >= group; left -= group, order += group, at += lanes) {
             V m[lanes];
-            gather(sums, m);
+            gather(sums, order, m);
 #pragma GCC unroll 16
             for (int lane = 0; lane < lanes; ++lane) store(to_[lane] + at, m[lane]);
         }
-        if (left > 0) bringOutLast(at, sums, left);
+        if (left > 0) bringOutLast(at, sums, order, left);
     }
-    [[gnu::noinline]] void bringOutLast(std::ptrdiff_t at, const Sums* sums, int left) {
+    [[gnu::noinline]] void bringOutLast(std::ptrdiff_t at, const Sums* sums, const int* order, int left) {
         V m[lanes];
-        gather(sums, m);
+        gather(sums, order, m);
         for (int lane = 0; lane < lanes; ++lane) storePartial(to_[lane] + at, m[lane], left * n);
     }
 
     const Polyphase<E>& f_;
     int length_;               // of a stretch, in periods
+    int periods_ = 0;          // at a time, at most
     const T* from_[lanes];     // where each lane's stretch begins
     T* to_[lanes];
     std::ptrdiff_t origin_ = 0;  // what samples_ begins with, counted from the lanes' starts
     std::ptrdiff_t end_ = 0;     // and ends before
     alignas(kVecBytes) T samples_[(kStaged + 2 * lanes) * lanes];
-    Sums sums_[waiting + lanes];
+    Sums sums_[waiting];  // phase by phase
+    int order_[waiting + group];
 };
 
 template <class E>
