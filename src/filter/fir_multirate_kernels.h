@@ -203,7 +203,7 @@ class Stretches {
 public:
     static bool takes(const Polyphase<E>& f, int periods) { return periods >= lanes && f.down <= staged / 2; }
 
-    Stretches(const Polyphase<E>& f, const E* x, E* dst, int periods) : f_(f), length_((periods + lanes - 1) / lanes) {
+    Stretches(const Polyphase<E>& f, const E* x, E* dst, int periods) : f_(f), length_(lengthFor(f, periods)) {
         for (int lane = 0; lane < lanes; ++lane) {
             const std::ptrdiff_t start = std::min(lane * length_, periods - length_);
             from_[lane] = parts(x + start * f.down);
@@ -246,6 +246,20 @@ public:
     }
 
 private:
+    // Stretches that lie whole pages apart would all use the same few lines of the cache: such ones are
+    // made a little longer.
+    static int lengthFor(const Polyphase<E>& f, int periods) {
+        constexpr std::ptrdiff_t page = 4096, line = 64;
+        auto crowds = [](std::ptrdiff_t elements) {
+            const std::ptrdiff_t bytes = elements * static_cast<std::ptrdiff_t>(sizeof(E));
+            return bytes >= page && (bytes + line) % page < 2 * line;
+        };
+        int length = (periods + lanes - 1) / lanes;
+        const int most = std::min(periods, length + length / 32);
+        while (length < most && (crowds(static_cast<std::ptrdiff_t>(length) * f.up) || crowds(static_cast<std::ptrdiff_t>(length) * f.down))) ++length;
+        return length;
+    }
+
     void beginAt(std::ptrdiff_t sample) {
         origin_ = end_ = sample;
     }
