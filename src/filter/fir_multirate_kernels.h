@@ -20,22 +20,16 @@
 
 #include "filter/fir_direct_kernels.h"
 #include "filter/fir_element.h"
+#include "filter/fir_multirate_rows.h"
 #include "frame/simd/transpose.h"
 
 namespace vlq::fir {
-
-// An output of a period: its newest sample, counted from the first of the period, and its taps.
-struct Phase {
-    Vlq32s newest;
-    Vlq32s taps;
-    Vlq32s row;  // where they begin in the rows
-    Vlq32s spare;
-};
 
 template <class E>
 struct Polyphase {
     const Phase* phases;  // `up` of them
     const E* rows;        // a row for each phase: every up-th tap
+    const E* groups;      // the same for vectors of outputs of one period, or null
     int up, down;
     int line;  // samples before the period that a window reaches back to
 };
@@ -46,6 +40,11 @@ struct Sum {
     V sum[1]{};
     void add(const V (&tap)[1], const V (&x)[1]) { sum[0] = mulAdd(tap[0], x[0], sum[0]); }
     void finish(V (&y)[1]) const { y[0] = sum[0]; }
+    // The lanes of `other` where the mask is set.
+    template <class Mask>
+    void take(Mask mask, const Sum& other) {
+        sum[0] = select(mask, other.sum[0], sum[0]);
+    }
 };
 template <class V>
 struct Sum<V, 2> {
@@ -59,6 +58,13 @@ struct Sum<V, 2> {
     void finish(V (&y)[2]) const {
         y[0] = straight[0] - straight[1];
         y[1] = crossed[0] + crossed[1];
+    }
+    template <class Mask>
+    void take(Mask mask, const Sum& other) {
+        for (int i = 0; i < 2; ++i) {
+            straight[i] = select(mask, other.straight[i], straight[i]);
+            crossed[i] = select(mask, other.crossed[i], crossed[i]);
+        }
     }
 };
 template <class E, class V>
@@ -98,62 +104,116 @@ template <class E>
 
 // ---- windows in lanes ------------------------------------------------------------------------------
 
-// Lane l takes the window that ends at newest + l * step; each is read on its own.
-template <int Bytes, class E>
-inline void windowSums(const E* taps, int count, const E* newest, std::ptrdiff_t step,
-                       Vec<Part<E>, Bytes> (&y)[kParts<E>]) {
+// `count` terms of the windows in the lanes, each read on its own. newest(lane) is the newest sample
+// of a window, tap(i, g) puts term i's tap of each lane into g.
+template <int Bytes, class E, class Newest, class Tap>
+inline SumOf<E, Vec<Part<E>, Bytes>> windowSums(int count, Newest newest, Tap tap) {
     using T = Part<E>;
     using V = Vec<T, Bytes>;
     constexpr int n = kParts<E>;
     constexpr int samples = V::lanes / n;  // that a vector holds of one window
     SumOf<E, V> sum;
     V m[V::lanes];
+    int i = 0;
     auto addNewestFirst = [&](int held) {
-        for (int s = held - 1; s >= 0; --s, ++taps) {
+        for (int s = held - 1; s >= 0; --s, ++i) {
             V g[n], x[n];
-            spreadParts(taps, g);
+            tap(i, g);
 #pragma GCC unroll 2
             for (int part = 0; part < n; ++part) x[part] = m[s * n + part];
             sum.add(g, x);
         }
     };
-    int left = count;
-    for (; left >= samples; left -= samples) {
-        const E* oldest = newest - (samples - 1);
+    while (i + samples <= count) {
+        const std::ptrdiff_t oldest = i + samples - 1;
 #pragma GCC unroll 16
-        for (int lane = 0; lane < V::lanes; ++lane) m[lane] = load<T, Bytes>(parts(oldest + lane * step));
+        for (int lane = 0; lane < V::lanes; ++lane) m[lane] = load<T, Bytes>(parts(newest(lane) - oldest));
         transpose(m);
         addNewestFirst(samples);
-        newest -= samples;
     }
-    if (left > 0) {
-        const E* oldest = newest - (left - 1);
-        for (int lane = 0; lane < V::lanes; ++lane) m[lane] = loadPartial<T, Bytes>(parts(oldest + lane * step), left * n);
+    if (i < count) {
+        const int some = count - i;
+        for (int lane = 0; lane < V::lanes; ++lane) m[lane] = loadPartial<T, Bytes>(parts(newest(lane) - (count - 1)), some * n);
         transpose(m);
-        addNewestFirst(left);
+        addNewestFirst(some);
     }
-    sum.finish(y);
+    return sum;
+}
+
+// Stores the parts of the first `some` lanes, `step` outputs apart.
+template <class E, int Bytes>
+inline void storeLanes(const Vec<Part<E>, Bytes> (&y)[kParts<E>], E* dst, std::ptrdiff_t step, int some) {
+    using T = Part<E>;
+    if (kParts<E> == 1 && step == 1) return storePartial(parts(dst), y[0], some);
+    for (int part = 0; part < kParts<E>; ++part) {
+        T lanes[Vec<T, Bytes>::lanes];
+        store(lanes, y[part]);
+        for (int lane = 0; lane < some; ++lane) write(parts(dst + lane * step) + part, lanes[lane]);
+    }
 }
 
 // As many periods as there are lanes.
 template <int Bytes, class E>
 inline void windowPeriods(const Polyphase<E>& f, const E* x, E* dst) {
-    using T = Part<E>;
-    using V = Vec<T, Bytes>;
+    using V = Vec<Part<E>, Bytes>;
     for (int k = 0; k < f.up; ++k) {
         const Phase& phase = f.phases[k];
+        const E* taps = f.rows + phase.row;
+        const E* newest = x + phase.newest;
         V y[kParts<E>];
-        windowSums<Bytes>(f.rows + phase.row, phase.taps, x + phase.newest, f.down, y);
-        if (kParts<E> == 1 && f.up == 1) {
-            store(parts(dst), y[0]);
-            continue;
+        windowSums<Bytes, E>(
+            phase.taps, [&](int lane) { return newest + static_cast<std::ptrdiff_t>(lane) * f.down; },
+            [&](int i, V(&g)[kParts<E>]) { spreadParts(taps + i, g); })
+            .finish(y);
+        storeLanes(y, dst + k, f.up, V::lanes);
+    }
+}
+
+// Outputs of one period in lanes.
+template <class E>
+[[gnu::noinline]] void groupedOutputs(const Polyphase<E>& f, const E* x, E* dst, int periods) {
+    using T = Part<E>;
+    using V = Vec<T>;
+    constexpr int n = kParts<E>;
+    constexpr int lanes = V::lanes;
+    const E* taps = f.groups;
+    for (int first = 0; first < f.up; first += lanes, taps += static_cast<std::ptrdiff_t>(lanes) * f.line) {
+        const int some = std::min(lanes, f.up - first);
+        // One term that not all lanes have, the last one, is added to those that have it.
+        const E* newest[lanes];
+        BitsOf<T> longer[lanes];
+        int terms = f.line;
+        for (int lane = 0; lane < some; ++lane) terms = std::min(terms, f.phases[first + lane].taps);
+        for (int lane = 0; lane < lanes; ++lane) {
+            const Phase& phase = f.phases[first + std::min(lane, some - 1)];
+            newest[lane] = x + phase.newest;
+            longer[lane] = phase.taps > terms ? -1 : 0;
         }
-        for (int part = 0; part < kParts<E>; ++part) {
-            T lanes[V::lanes];
-            store(lanes, y[part]);
-            for (int lane = 0; lane < V::lanes; ++lane) {
-                write(parts(dst + k + static_cast<std::ptrdiff_t>(lane) * f.up) + part, lanes[lane]);
+        const auto mask = load<BitsOf<T>>(longer);
+        const bool isEven = !any(mask);
+        auto tap = [&](int i, V(&g)[n]) {
+#pragma GCC unroll 2
+            for (int part = 0; part < n; ++part) g[part] = load<T>(parts(taps + static_cast<std::ptrdiff_t>(i) * lanes) + part * lanes);
+        };
+        E* to = dst + first;
+        for (int period = 0; period < periods; ++period, to += f.up) {
+            const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(period) * f.down;
+            auto sum = windowSums<kVecBytes, E>(terms, [&](int lane) { return newest[lane] + at; }, tap);
+            if (!isEven) {
+                T last[n][lanes];
+                for (int part = 0; part < n; ++part) {
+                    for (int lane = 0; lane < lanes; ++lane) last[part][lane] = longer[lane] ? read(parts(newest[lane] + (at - terms)) + part) : 0;
+                }
+                V g[n], s[n];
+                tap(terms, g);
+                for (int part = 0; part < n; ++part) s[part] = load<T>(last[part]);
+                auto more = sum;
+                more.add(g, s);
+                sum.take(mask, more);
             }
+            V y[n];
+            sum.finish(y);
+            storeLanes(y, to, 1, some);
         }
     }
 }
@@ -476,6 +536,7 @@ inline void multiRate(const Polyphase<E>& f, const E* x, E* dst, int periods) {
     // Windows that do not overlap share nothing.
     const bool sharing = static_cast<Vlq64s>(f.line) * f.up > f.down;
     if (sharing && Stretches<E>::takes(f, periods)) stretchOutputs(f, x, dst, periods);
+    else if (f.groups) groupedOutputs(f, x, dst, periods);
     else windowOutputs(f, x, dst, periods);
 }
 

@@ -18,7 +18,9 @@ inline constexpr bool kHasSingleRate = !Complex<typename State::Element> || std:
 
 template <class E>
 inline Polyphase<E> polyphaseOf(const Record<E>& record) {
-    return {record.mrDlyPtr, record.tapsWide, record.upFactor, record.downFactor, record.dlyLen};
+    const E* rows = record.tapsWide;
+    const E* groups = hasGroups<E>(record.upFactor) ? rows + Vlq64s{record.upFactor} * record.dlyLen : nullptr;
+    return {record.mrDlyPtr, rows, groups, record.upFactor, record.downFactor, record.dlyLen};
 }
 
 // Lays a record and its arrays into memory of plan.bytes() bytes.

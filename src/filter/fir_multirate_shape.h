@@ -78,8 +78,7 @@ struct MultiRatePlan {
 
     Vlq64s tapBytes() const { return roundUp(tapsLen * element, 16); }
     Vlq64s phaseBytes() const { return 16 * up; }
-    // Each phase's taps in a row of `line`, and room for as much twice where a vector holds outputs
-    // of one period.
+    // A row of `line` taps for each phase, and room for as much twice where there are groups.
     Vlq64s rowBytes() const { return roundUp((kind == 1 ? (up < 4 ? 1 : 3) * up * line : 4 * slots) * element, 16); }
     Vlq64s blockBufLength() const { return std::max<Vlq64s>(4096, (kind == 1 ? 2 : 8) * slots); }
     Vlq64s storeLength() const { return line + firstChunk; }

@@ -9,6 +9,7 @@
 #include "filter/fir_direct_complex_kernels.h"
 #include "filter/fir_direct_kernels.h"
 #include "filter/fir_element.h"
+#include "filter/fir_multirate_rows.h"
 #include "filter/fir_shape.h"
 #include "fourier/filter.h"
 #include "frame/record.h"
@@ -16,8 +17,6 @@
 #include "vlqs/filter.h"
 
 namespace vlq::fir {
-
-struct Phase;
 
 template <class E>
 struct Record {
@@ -37,7 +36,7 @@ struct Record {
     Vlq32s fftLen;  // -1 without a transform path
     Vlq32s dlyIndex;
     RelPtr<Phase> mrDlyPtr;  // multi-rate only: the outputs of a period
-    RelPtr<E> tapsWide;      // each tap over 16 bytes, in natural order; multi-rate: the phases' rows
+    RelPtr<E> tapsWide;      // each tap over 16 bytes, in natural order; multi-rate: rows
     Vlq32s mrSamples;        // multi-rate only
     Vlq32s mrKind;           // 1, 2 or 3 in multi-rate records: the layout of their tables
     Vlq32s dlyLen;
@@ -120,10 +119,9 @@ void writeTaps(Record<E>& record, const Tap* taps) {
     for (Vlq32s k = 0; k < len; ++k) {
         const E tap = convertTo<E>(read(taps + k));
         reversed[len - 1 - k] = tap;
-        // Of a multi-rate record the rows, of dlyLen taps each.
-        if (record.mrKind > 0) wide[Vlq64s{k % record.upFactor} * record.dlyLen + k / record.upFactor] = tap;
-        else wide = writeWide(wide, tap);
+        if (record.mrKind == 0) wide = writeWide(wide, tap);
     }
+    if (record.mrKind > 0) writeRows(record);
 }
 
 // Transform of the taps, zero-extended, in the form that the filter wants.
