@@ -113,29 +113,33 @@ inline SumOf<E, Vec<Part<E>, Bytes>> windowSums(int count, Newest newest, Tap ta
     constexpr int n = kParts<E>;
     constexpr int samples = V::lanes / n;  // that a vector holds of one window
     SumOf<E, V> sum;
-    V m[V::lanes];
-    int i = 0;
-    auto addNewestFirst = [&](int held) {
-        for (int s = held - 1; s >= 0; --s, ++i) {
-            V g[n], x[n];
-            tap(i, g);
+    auto add = [&](int i, const V* from) {
+        V g[n], x[n];
+        tap(i, g);
 #pragma GCC unroll 2
-            for (int part = 0; part < n; ++part) x[part] = m[s * n + part];
-            sum.add(g, x);
-        }
+        for (int part = 0; part < n; ++part) x[part] = from[part];
+        sum.add(g, x);
     };
-    while (i + samples <= count) {
-        const std::ptrdiff_t oldest = i + samples - 1;
+    int i = 0;
+    for (; i + samples <= count; i += samples) {
+        V m[V::lanes];
 #pragma GCC unroll 16
-        for (int lane = 0; lane < V::lanes; ++lane) m[lane] = load<T, Bytes>(parts(newest(lane) - oldest));
+        for (int lane = 0; lane < V::lanes; ++lane) m[lane] = load<T, Bytes>(parts(newest(lane) - (i + samples - 1)));
         transpose(m);
-        addNewestFirst(samples);
+#pragma GCC unroll 16
+        for (int s = 0; s < samples; ++s) add(i + s, m + (samples - 1 - s) * n);
     }
     if (i < count) {
-        const int some = count - i;
-        for (int lane = 0; lane < V::lanes; ++lane) m[lane] = loadPartial<T, Bytes>(parts(newest(lane) - (count - 1)), some * n);
+        // The oldest samples, with newer ones behind them that have been added where there are any.
+        V m[V::lanes];
+        if (i > 0) {
+#pragma GCC unroll 16
+            for (int lane = 0; lane < V::lanes; ++lane) m[lane] = load<T, Bytes>(parts(newest(lane) - (count - 1)));
+        } else {
+            for (int lane = 0; lane < V::lanes; ++lane) m[lane] = loadPartial<T, Bytes>(parts(newest(lane) - (count - 1)), count * n);
+        }
         transpose(m);
-        addNewestFirst(some);
+        for (; i < count; ++i) add(i, m + (count - 1 - i) * n);
     }
     return sum;
 }
