@@ -13,22 +13,40 @@ namespace vlq::fir {
 
 // Outputs wait here until there are enough of them to be brought into the type of the samples.
 inline constexpr int kDirectOutputs = 256;
+// Filters of no more taps have their rows put in order once a call.
+inline constexpr int kOrderedTaps = 1024;
 
 template <class Tap, class Sample, class Scale>
 void polyphaseDirect(const Sample* src, Sample* dst, Vlq32s periods, const Tap* taps, Vlq32s tapsLen, const Rates& rates, Sample* line, Scale scale) {
-    const Vlq32s length = lineLength(tapsLen, rates.up);
+    const Vlq32s up = rates.up, length = lineLength(tapsLen, up);
     const Vlq64s samples = Vlq64s{periods} * rates.down;
+    // The rows end to end, each as its samples lie: oldest first.
+    Tap rows[kOrderedTaps];
+    const bool ordered = tapsLen <= kOrderedTaps && periods > 1;
+    Tap* row = rows;
+    for (Vlq32s first = 0; ordered && first < std::min(up, tapsLen); ++first) {
+        for (Vlq32s i = tapsFrom(first, tapsLen, up) - 1; i >= 0; --i) *row++ = read(taps + (first + Vlq64s{i} * up));
+    }
+    const Vlq32s longer = tapsLen % up == 0 ? up : tapsLen % up;  // rows of `length` taps; the others have one less
+
+    const Vlq32s whole = rates.down / up, rest = rates.down % up;  // of the way from one output to the next
     auto [newest, firstTap] = placeOf(rates, 0);
     DirectSum<Tap> sums[kDirectOutputs];
     Vlq64s last = newest;
-    for (Vlq64s left = Vlq64s{periods} * rates.up; left > 0;) {
+    for (Vlq64s left = Vlq64s{periods} * up; left > 0;) {
         const auto some = static_cast<Vlq32s>(std::min<Vlq64s>(left, kDirectOutputs));
         for (Vlq32s o = 0; o < some; ++o) {
-            sums[o] = directSum(taps + firstTap, tapsFrom(firstTap, tapsLen, rates.up), rates.up, src, last, line);
-            last += rates.down / rates.up;
-            firstTap += rates.down % rates.up;
-            if (firstTap >= rates.up) {
-                firstTap -= rates.up;
+            const Vlq32s count = firstTap < longer ? length : length - 1;
+            if (ordered && count <= last + 1) {
+                const Tap* itsRow = rows + (Vlq64s{firstTap} * length - std::max(0, firstTap - longer));
+                sums[o] = directSum(itsRow, src + (last + 1 - count), count);
+            } else {
+                sums[o] = directSum(taps + firstTap, up, src, last, line, count);
+            }
+            last += whole;
+            firstTap += rest;
+            if (firstTap >= up) {
+                firstTap -= up;
                 ++last;
             }
         }

@@ -1,4 +1,6 @@
-// One output of a multi-rate FIR filter whose taps and delay line are the caller's.
+// One output of a multi-rate FIR filter whose taps and delay line are the caller's: products in the
+// type of the taps, sums in double precision. Eight sums take the terms by turns, oldest sample
+// first.
 #pragma once
 
 #include "filter/fir_direct_kernels.h"
@@ -19,46 +21,69 @@ struct DirectSumOf<Tap> {
 template <class Tap>
 using DirectSum = typename detail::DirectSumOf<Tap>::type;
 
-// Eight sums by turns.
+inline constexpr int kTurns = 8;
+
+inline double totalOf(const double (&s)[kTurns]) { return ((s[0] + s[4]) + (s[2] + s[6])) + ((s[1] + s[5]) + (s[3] + s[7])); }
+
+template <class Tap>
 class TurningSums {
 public:
-    void add(int i, double product) { sums_[i % 8] += product; }
-    double total() const {
-        return ((sums_[0] + sums_[4]) + (sums_[2] + sums_[6])) + ((sums_[1] + sums_[5]) + (sums_[3] + sums_[7]));
+    // A term for each of the first `some` sums.
+    template <class Sample>
+    void add(const Tap* taps, const Sample* x, int some) {
+        for (int i = 0; i < some; ++i) sums_[i] += static_cast<double>(read(taps + i) * convertTo<Tap>(read(x + i)));
     }
+    double total() const { return totalOf(sums_); }
 
 private:
-    double sums_[8] = {};
+    double sums_[kTurns] = {};
+};
+template <Complex Tap>
+class TurningSums<Tap> {
+public:
+    template <class Sample>
+    void add(const Tap* taps, const Sample* x, int some) {
+        for (int i = 0; i < some; ++i) {
+            const Tap tap = read(taps + i), sample = convertTo<Tap>(read(x + i));
+            straight_[0][i] += static_cast<double>(tap.re * sample.re);
+            straight_[1][i] += static_cast<double>(tap.im * sample.im);
+            crossed_[0][i] += static_cast<double>(tap.re * sample.im);
+            crossed_[1][i] += static_cast<double>(tap.im * sample.re);
+        }
+    }
+    Vlq64fc total() const { return {totalOf(straight_[0]) - totalOf(straight_[1]), totalOf(crossed_[0]) + totalOf(crossed_[1])}; }
+
+private:
+    double straight_[2][kTurns] = {}, crossed_[2][kTurns] = {};
 };
 
-// Calls visit(i, sample i of the window, newest first): those from x[newest] down to x[0], then
-// those of the line, which is newest first.
-template <class Sample, class Visit>
-inline void eachSample(const Sample* x, Vlq64s newest, const Sample* line, int count, Visit&& visit) {
-    const int inside = newest + 1 < count ? static_cast<int>(newest + 1) : count;
-    for (int i = 0; i < inside; ++i) visit(i, read(x + (newest - i)));
-    for (int i = inside; i < count; ++i) visit(i, read(line + (i - newest - 1)));
+// sum of row[j] * oldest[j].
+template <class Tap, class Sample>
+inline DirectSum<Tap> directSum(const Tap* row, const Sample* oldest, int count) {
+    TurningSums<Tap> sums;
+    int j = 0;
+    for (; j + kTurns <= count; j += kTurns) sums.add(row + j, oldest + j, kTurns);
+    if (j < count) sums.add(row + j, oldest + j, count - j);
+    return sums.total();
 }
 
-// sum of taps[i * stride] * x[newest - i], i from 0 to count - 1.
+// The same with the taps from the impulse response, every stride-th, and the samples before x[0]
+// from the line, which is newest first. The window ends at x[newest].
 template <class Tap, class Sample>
-inline DirectSum<Tap> directSum(const Tap* taps, int count, int stride, const Sample* x, Vlq64s newest, const Sample* line) {
-    auto tapAt = [&](int i) { return read(taps + static_cast<Vlq64s>(i) * stride); };
-    if constexpr (Complex<Tap>) {
-        TurningSums straight[2], crossed[2];
-        eachSample(x, newest, line, count, [&](int i, Sample from) {
-            const Tap tap = tapAt(i), sample = convertTo<Tap>(from);
-            straight[0].add(i, tap.re * sample.re);
-            straight[1].add(i, tap.im * sample.im);
-            crossed[0].add(i, tap.re * sample.im);
-            crossed[1].add(i, tap.im * sample.re);
-        });
-        return {straight[0].total() - straight[1].total(), crossed[0].total() + crossed[1].total()};
-    } else {
-        TurningSums sums;
-        eachSample(x, newest, line, count, [&](int i, Sample from) { sums.add(i, tapAt(i) * convertTo<Tap>(from)); });
-        return sums.total();
+inline DirectSum<Tap> directSum(const Tap* taps, int stride, const Sample* x, Vlq64s newest, const Sample* line, int count) {
+    TurningSums<Tap> sums;
+    Tap row[kTurns];
+    Sample window[kTurns];
+    for (int j = 0; j < count; j += kTurns) {
+        const int some = count - j < kTurns ? count - j : kTurns;
+        for (int k = 0; k < some; ++k) {
+            const int age = count - 1 - j - k;
+            row[k] = read(taps + static_cast<Vlq64s>(age) * stride);
+            window[k] = read(age <= newest ? x + (newest - age) : line + (age - newest - 1));
+        }
+        sums.add(row, window, some);
     }
+    return sums.total();
 }
 
 }  // namespace vlq::fir
