@@ -155,11 +155,12 @@ inline Sums<Rows> dots(const Vlq16s* x, const Vlq16s* const (&rows)[Rows], std::
 // ---- blocks ------------------------------------------------------------------------------------------
 
 // The impulse response reversed: one row of a real filter, with two zeros before and one behind it;
-// two of a complex one. `words` is the length of a row.
+// two of a complex one. `words` is the length of a row, `magnitude` that of its taps together.
 template <int Parts>
 struct TapRows {
     const Vlq16s* row[Parts];
     std::ptrdiff_t words;
+    Vlq64s magnitude;
 };
 
 // A tile is this many vectors of results, at most. Its sums, two vectors for each, the taps of two
@@ -267,23 +268,6 @@ inline void tiles(const Pairs& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_
     });
 }
 
-// Of all taps of a row; beyond this many words it is not worth the sum.
-inline Vlq64s magnitudeOf(const Vlq16s* row, std::ptrdiff_t words) {
-    constexpr std::ptrdiff_t most = 16384;
-    if (words > most) return std::numeric_limits<Vlq32s>::max();
-    using V = Vec<Vlq16s>;
-    Vec<Vlq32s> sums = Vec<Vlq32s>::zero();
-    std::ptrdiff_t i = 0;
-    for (; i + V::lanes <= words; i += V::lanes) {
-        // The product of a tap and its sign, two at a time.
-        const V taps = load<Vlq16s>(row + i);
-        sums += pairSums(taps, (taps < V::zero()) | V::broadcast(1));
-    }
-    Vlq64s magnitude = laneSum(sums);
-    for (; i < words; ++i) magnitude += std::abs(Vlq32s{row[i]});
-    return magnitude;
-}
-
 // n words of results of the windows that begin at x, x + Parts ...: no word behind the last window
 // is read, of a real filter the word before x may be. dst does not overlap the samples.
 template <int Parts, class F>
@@ -312,7 +296,7 @@ inline void filterWords(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst
                 std::memcpy(dst + i + p, &result, sizeof result);
             }
         }
-    } else if (NearestFinish::serves(finish, magnitudeOf(taps.row[0], taps.words))) {
+    } else if (NearestFinish::serves(finish, taps.magnitude)) {
         filterWordsBy(taps, x, dst, n, NearestFinish(finish));
     } else {
         filterWordsBy(taps, x, dst, n, finish);

@@ -117,10 +117,10 @@ void writePhase(const Record<ListPart, Parts>& record, Vlq64s phase, Vlq16s* row
 template <class ListPart, int Parts>
 void writePhaseRows(Record<ListPart, Parts>& record) {
     const Derived d = derivedOf(record);
-    PhaseTable& phases = *record.phases;
+    const PhaseTable& phases = *record.phases;
     const Vlq64s rowLen = record.rowLen, count = d.outputElements(Parts);
     Vlq16s* row = record.tapRows;
-    Vlq64s magnitude = 0;
+    record.magnitude = 0;
     std::fill(row, row + 2 * count * rowLen, Vlq16s{0});
     for (Vlq64s e = 0; e < count; ++e, row += 2 * rowLen) {
         if constexpr (Parts == 2) {
@@ -132,9 +132,8 @@ void writePhaseRows(Record<ListPart, Parts>& record) {
                 writePhase<ListPart, Parts>(record, placeOf(record, output).phase, row + i * rowLen + before, nullptr);
             }
         }
-        magnitude = std::max({magnitude, magnitudeOf(row, rowLen), magnitudeOf(row + rowLen, rowLen)});
+        record.magnitude = std::max({record.magnitude, magnitudeOf(row, rowLen), magnitudeOf(row + rowLen, rowLen)});
     }
-    phases.magnitude = static_cast<Vlq32s>(magnitude);
 }
 
 // ---- the record --------------------------------------------------------------------------------------
@@ -182,7 +181,7 @@ State* layOutMultiRate(void* memory, Vlq32s tapsLen, const Rates& rates) {
     char* const rest = cursor.take<char>(0, width > 1 ? kStreamAlignment : 1);
     const Vlq64s stride = streamStride(width, reached, end - rest);
     state->blockBuf = cursor.take<Vlq16s>(2 * width * stride);
-    state->streamStride = static_cast<Vlq32s>(stride);
+    state->phases->streamStride = static_cast<Vlq32s>(stride);
     return state;
 }
 
@@ -190,8 +189,8 @@ template <class State>
 Cycle cycleOf(const State& state) {
     const Derived d = derivedOf(state);
     constexpr int parts = State::kParts;
-    return {state.phases->magnitude, state.phases->rowPairs(), state.tapRows, state.rowLen, d.outputElements(parts), d.inputElements(parts), d.reach(parts),
-            state.blockBuf, state.streamStride};
+    return {state.magnitude, state.phases->rowPairs(), state.tapRows, state.rowLen, d.outputElements(parts), d.inputElements(parts), d.reach(parts),
+            state.blockBuf, state.phases->streamStride};
 }
 
 // ---- filtering ---------------------------------------------------------------------------------------
@@ -227,7 +226,7 @@ void multiRateBlock(Record<ListPart, Parts>& record, const Vlq16s* src, Vlq16s* 
         Vlq16s* const copy = record.blockBuf;
         moveWords(before, copy, reach);
         samples = copy + reach;
-        room = (2 * std::ptrdiff_t{record.streamStride} - reach) / (2 * inputWords) * 2;
+        room = (2 * std::ptrdiff_t{record.phases->streamStride} - reach) / (2 * inputWords) * 2;
     }
     const std::ptrdiff_t first = std::min<std::ptrdiff_t>(numIters, room), firstWords = first * inputWords;
     moveWords(src, samples, firstWords);

@@ -23,7 +23,7 @@ struct RowPair {
 
 // The table of row pairs stands behind this.
 struct PhaseTable {
-    Vlq32s magnitude;  // of the taps of a row, at most
+    Vlq32s streamStride;
 
     RowPair* rowPairs() { return reinterpret_cast<RowPair*>(this + 1); }
     const RowPair* rowPairs() const { return reinterpret_cast<const RowPair*>(this + 1); }

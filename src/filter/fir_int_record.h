@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <new>
@@ -63,10 +64,10 @@ struct Record {
     Vlq32s dlyLen;              // samples in the delay line
     RelPtr<Vlq16s> blockBuf;    // kBlock samples; multi-rate: the streams
     Vlq32s ownsMemory;
-    Vlq32s upPhase;      // multi-rate only, as those that follow
+    Vlq32s upPhase;    // multi-rate only, as the next two
     Vlq32s downPhase;
-    Vlq32s mrSamples;    // taps of a phase, room for the decimator's steps included
-    Vlq32s streamStride;
+    Vlq32s mrSamples;  // taps of a phase, room for the decimator's steps included
+    Vlq32s magnitude;  // of all taps of an output together; of every record
 };
 using RealRecord = Record<Vlq32s, 1>;
 static_assert(sizeof(RealRecord) == 80 && offsetof(RealRecord, ownsMemory) == 60);
@@ -199,8 +200,8 @@ inline constexpr int kZeros = 2;
 
 template <class ListPart, int Parts>
 TapRows<Parts> rowsOf(const Record<ListPart, Parts>& record) {
-    if constexpr (Parts == 1) return {{record.tapRows + kZeros}, record.tapsLen};
-    else return {{record.tapRows, record.tapRows + record.rowLen}, 2 * std::ptrdiff_t{record.tapsLen}};
+    if constexpr (Parts == 1) return {{record.tapRows + kZeros}, record.tapsLen, record.magnitude};
+    else return {{record.tapRows, record.tapRows + record.rowLen}, 2 * std::ptrdiff_t{record.tapsLen}, record.magnitude};
 }
 
 // The list that is read back, from taps in natural order.
@@ -223,6 +224,13 @@ void writeComplexTap(const ListPart* tap, Vlq16s* re, Vlq16s* im) {
     im[0] = saturated(tap[1]);
 }
 
+// Of all words of a row together; of a long one the top of the type.
+inline Vlq32s magnitudeOf(const Vlq16s* row, std::ptrdiff_t words) {
+    Vlq64s sum = 0;
+    for (std::ptrdiff_t i = 0; i < words; ++i) sum += std::abs(Vlq32s{row[i]});
+    return static_cast<Vlq32s>(std::min<Vlq64s>(sum, std::numeric_limits<Vlq32s>::max()));
+}
+
 // The rows of a single-rate filter, from the list.
 template <class ListPart, int Parts>
 void writeRows(Record<ListPart, Parts>& record) {
@@ -235,6 +243,7 @@ void writeRows(Record<ListPart, Parts>& record) {
     } else {
         for (std::ptrdiff_t i = 0; i < 2 * len; i += 2) writeComplexTap(list + i, row + i, row + record.rowLen + i);
     }
+    record.magnitude = magnitudeOf(row, record.rowLen);
 }
 
 // The sum stays in range: a factor that far out moves every sum out of its range anyway.
