@@ -32,7 +32,7 @@ void largeTransform(int order, const FloatingRecord<T>& record, In src, Middle m
     constexpr int B = kVecBytes;
     if (order > kLastSplitTwice<T>) return runPhases<T>(order, record, src, middle, dst, work, inPlace, scaled);
     const std::ptrdiff_t length = std::ptrdiff_t{1} << (order - 4);
-    splitRows<T, B>(src, middle, length, work, scaled ? record.normFactor : T(1));
+    splitRows<T, B>(src, middle, length, work, order % 2 ? kEightPoint<T> : kRootHalf<T>, scaled ? record.normFactor : T(1));
     for (int r = 0; r < 16; ++r) {
         const Middle row = middle.from(r * length);
         if (order <= kLastSplitOnce<T>) rowTransform<T>(order - 4, 4, record.twiddleTable.get(), row, workView(middle, work, length));

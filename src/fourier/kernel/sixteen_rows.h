@@ -30,15 +30,15 @@ template <class T, int B, class Get>
 }
 
 // The second one; turn(column, b, c, d) may multiply values 1 to 3, put(q, column, value) takes
-// value q of the transform.
+// value q of the transform. eighth is the factor of the eight-point transform in it.
 template <class T, int B, class Turn, class Put>
-[[gnu::always_inline]] inline void secondStage(Blocks<T> block, int columns, Turn&& turn, Put&& put) {
+[[gnu::always_inline]] inline void secondStage(Blocks<T> block, int columns, T eighth, Turn&& turn, Put&& put) {
     using S = Split<T, B>;
     unroll<4>([&](auto q) __attribute__((always_inline)) {
         for (int column = 0; column < columns; column += S::lanes) {
             S a = block.template get<B>(4 * q * columns + column), b = block.template get<B>((4 * q + 1) * columns + column),
               c = block.template get<B>((4 * q + 2) * columns + column), d = block.template get<B>((4 * q + 3) * columns + column);
-            turnSixteenths<q, T, B>(b, c, d, kRootHalf<T>);
+            turnSixteenths<q, T, B>(b, c, d, eighth);
             turn(column, b, c, d);
             dft4(a, b, c, d);
             put(q, column, a);
@@ -54,7 +54,7 @@ constexpr int slotOf(int q) { return 4 * (q % 4) + q / 4; }
 
 // The rows' first pass, src to middle, times scale. src may be the memory of middle.
 template <class T, int B, class In, class Middle>
-void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T scale) {
+void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T eighth, T scale) {
     using V = Vec<T, B>;
     using S = Split<T, B>;
     constexpr int lanes = V::lanes;
@@ -65,7 +65,7 @@ void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T scale) {
             return times(src.template get<B>(row * length + j + column), factor);
         });
         secondStage<T, B>(
-            block, 16, [](int, S&, S&, S&) {},
+            block, 16, eighth, [](int, S&, S&, S&) {},
             [&](int q, int column, S v) __attribute__((always_inline)) { block.template put<B>(slotOf(q) * 16 + column, v); });
         for (int column = 0; column < 16; column += lanes) {
             for (int first = 0; first < 16; first += lanes) {
@@ -114,7 +114,7 @@ void splitGroups(Middle row, std::ptrdiff_t length, std::ptrdiff_t span, const T
                 return powers.times(row.template get<B>(at), part, column % chunk);
             });
             secondStage<T, B>(
-                block, columns,
+                block, columns, kRootHalf<T>,
                 [&](int column, S& b, S& c, S& d) __attribute__((always_inline)) { powers.turn(column % chunk, b, c, d); },
                 [&](int q, int column, S v) __attribute__((always_inline)) { block.template put<B>(slotOf(q) * columns + column, v); });
             for (int group = 0; group < 16; ++group) {
@@ -141,7 +141,7 @@ void joinRows(Middle middle, Out dst, std::ptrdiff_t length, const T* table, T* 
             return powers.times(middle.template get<B>(row * length + k + column), row, column);
         });
         secondStage<T, B>(
-            block, columns,
+            block, columns, kRootHalf<T>,
             [&](int column, S& b, S& c, S& d) __attribute__((always_inline)) { powers.turn(column, b, c, d); },
             [&](int q, int column, S v) __attribute__((always_inline)) { dst.template put<B>(q * length + k + column, v); });
     }

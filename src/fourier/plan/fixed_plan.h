@@ -20,6 +20,9 @@ struct FixedRecord16 {
     Vlq32s workBytes;
     Vlq32s useFloat;  // runs on floatRecord
     Vlq32s owned;
+    RelPtr<Vlq32s> bitRevTable;  // of the integer path, whose constants stand in its code: null
+    RelPtr<Vlq16s> twiddleTable;
+    RelPtr<Vlq16s> realTwiddle;
     RelPtr<Inner> floatRecord;
 };
 

@@ -5,7 +5,8 @@
 
 namespace vlq::fft {
 
-// Fields in one order for every kind; a table that a kind or an order does not need is null.
+// Fields in one order for every kind; a table that a kind or an order does not need is null. Passes
+// sort as they go, so that the bit-reversal table has a place but no user.
 template <class T>
 struct FloatingRecord {
     Vlq32s ident;       // names the kind; 0 in a dead record
