@@ -11,42 +11,6 @@
 
 namespace vlq::fft {
 
-// One radix-R step over `rows` rows: row j + p * rows / R meets its kind, output q is multiplied by
-// factor [j][q], but not in the last step, and goes to row q * rows / R + j. eighth is the factor of the
-// eight-point transform in it.
-template <class T, int B, int R, bool last, class Get, class Put>
-[[gnu::always_inline]] inline void columnStep(std::ptrdiff_t rows, const T* factors, T eighth, Get&& get, Put&& put) {
-    using V = Vec<T, B>;
-    using S = Split<T, B>;
-    constexpr int vectors = kTileColumns<T> / V::lanes;
-    const std::ptrdiff_t stride = rows / R;
-    for (std::ptrdiff_t j = 0; j < stride; ++j, factors += 2 * R) {
-        for (int c = 0; c < vectors; ++c) {
-            auto finish = [&](auto q, S v) __attribute__((always_inline)) {
-                if constexpr (!last && q != 0) {
-                    v = v * S{V::broadcast(factors[2 * q]), V::broadcast(factors[2 * q + 1])};
-                }
-                put(q * stride + j, c, v);
-            };
-            if constexpr (R == 16) {
-                dft16<T, B>(
-                    eighth, [&](auto p) __attribute__((always_inline)) { return get(j + p * stride, c); }, finish);
-            } else {
-                S x[8];
-                unroll<8>([&](auto p) __attribute__((always_inline)) { x[p] = get(j + p * stride, c); });
-                dft8(x, V::broadcast(eighth));
-                unroll<8>([&](auto q) __attribute__((always_inline)) { finish(q, x[q]); });
-            }
-        }
-    }
-}
-template <class T, int B, bool last, class Get, class Put>
-[[gnu::always_inline]] inline void columnStepOf(int radix, std::ptrdiff_t rows, const T* factors, T eighth, Get get,
-                                                Put put) {
-    if (radix == 16) columnStep<T, B, 16, last>(rows, factors, eighth, get, put);
-    else columnStep<T, B, 8, last>(rows, factors, eighth, get, put);
-}
-
 // The tile in the work buffer, a row of columns after the other.
 template <class T, int B>
 struct Tile {
@@ -60,8 +24,37 @@ struct Tile {
     Tile from(std::ptrdiff_t row) const { return {p + 2 * row * kTileColumns<T>}; }
 };
 
-// A column transform of 2^bits rows whose first step reads where the caller says. Output q lies at
-// row place(q) of the tile: its digits by radix stand in the opposite order.
+// One radix-R step over `rows` rows: row j + p * rows / R meets its kind, output q is multiplied by
+// factor [j][q], but not in the last step (without factors), and goes to row q * rows / R + j. eighth
+// is the factor of the eight-point transform in it.
+template <class T, int B, int R>
+[[gnu::noinline]] void columnStep(std::ptrdiff_t rows, const T* factors, T eighth, Tile<T, B> tile) {
+    using V = Vec<T, B>;
+    using S = Split<T, B>;
+    constexpr int vectors = kTileColumns<T> / V::lanes;
+    const std::ptrdiff_t stride = rows / R;
+    for (std::ptrdiff_t j = 0; j < stride; ++j) {
+        const T* const factor = factors ? factors + 2 * R * j : nullptr;
+        for (int c = 0; c < vectors; ++c) {
+            auto finish = [&](auto q, S v) __attribute__((always_inline)) {
+                if (q != 0 && factor) v = v * S{V::broadcast(factor[2 * q]), V::broadcast(factor[2 * q + 1])};
+                tile.put(q * stride + j, c, v);
+            };
+            if constexpr (R == 16) {
+                dft16<T, B>(
+                    eighth, [&](auto p) __attribute__((always_inline)) { return tile.get(j + p * stride, c); }, finish);
+            } else {
+                S x[8];
+                unroll<8>([&](auto p) __attribute__((always_inline)) { x[p] = tile.get(j + p * stride, c); });
+                dft8(x, V::broadcast(eighth));
+                unroll<8>([&](auto q) __attribute__((always_inline)) { finish(q, x[q]); });
+            }
+        }
+    }
+}
+
+// A column transform of 2^bits rows in the tile. Output q is left at row place(q): its digits by
+// radix stand in the opposite order.
 template <class T, int B>
 struct ColumnTransform {
     int bits;
@@ -73,52 +66,23 @@ struct ColumnTransform {
     int bits1 = plan.count == 3 ? std::countr_zero(static_cast<unsigned>(plan.radix[1])) : 0;
 
     std::ptrdiff_t rows() const { return std::ptrdiff_t{1} << bits; }
-    std::ptrdiff_t ranks() const { return std::ptrdiff_t{1} << (bits0 + bits1); }
 
     std::ptrdiff_t place(std::ptrdiff_t q) const {
         const std::ptrdiff_t q0 = q & ((1 << bits0) - 1), q1 = (q >> bits0) & ((1 << bits1) - 1);
         return (((q0 << bits1) + q1) << (bits - bits0 - bits1)) + (q >> (bits0 + bits1));
     }
 
-    // Up to the last step: the tile then holds `ranks` transforms still to be done, each of
-    // adjacent rows.
-    template <class Get>
-    [[gnu::always_inline]] void begin(Get get) const {
-        columnStepOf<T, B, false>(
-            plan.radix[0], rows(), factors, eighth, get,
-            [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) { tile.put(row, c, v); });
-        if (plan.count == 3) {
-            const std::ptrdiff_t inner = rows() >> bits0;
-            for (std::ptrdiff_t row = 0; row < rows(); row += inner) step<false>(tile.from(row), plan.radix[1], inner);
+    void run() const {
+        const T* next = factors;
+        std::ptrdiff_t inner = rows();
+        for (int i = 0; i < plan.count; ++i) {
+            const auto step = plan.radix[i] == 16 ? columnStep<T, B, 16> : columnStep<T, B, 8>;
+            for (std::ptrdiff_t row = 0; row < rows(); row += inner) {
+                step(inner, i + 1 < plan.count ? next : nullptr, i == 0 ? eighth : kRootHalf<T>, tile.from(row));
+            }
+            next += 2 * inner;
+            inner /= plan.radix[i];
         }
-    }
-    // The last step, outputs left in their places.
-    void endInTile() const {
-        const int radix = plan.radix[plan.count - 1];
-        for (std::ptrdiff_t row = 0; row < rows(); row += radix) step<true>(tile.from(row), radix, radix);
-    }
-    // The last step; put(q, vector, value) takes the outputs.
-    template <class Put>
-    [[gnu::always_inline]] void end(Put put) const {
-        const int radix = plan.radix[plan.count - 1];
-        for (std::ptrdiff_t rank = 0; rank < ranks(); ++rank) {
-            const Tile<T, B> part = tile.from(place(rank));
-            columnStepOf<T, B, true>(
-                radix, radix, factors, kRootHalf<T>,
-                [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) { return part.get(row, c); },
-                [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) {
-                    put(rank + row * ranks(), c, v);
-                });
-        }
-    }
-
-private:
-    template <bool last>
-    [[gnu::noinline]] void step(Tile<T, B> part, int radix, std::ptrdiff_t count) const {
-        columnStepOf<T, B, last>(
-            radix, count, factors + (last ? 0 : 2 * rows()), kRootHalf<T>,
-            [&](std::ptrdiff_t row, int c) __attribute__((always_inline)) { return part.get(row, c); },
-            [&](std::ptrdiff_t row, int c, Split<T, B> v) __attribute__((always_inline)) { part.put(row, c, v); });
     }
 };
 
@@ -184,10 +148,12 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
     const V factor = V::broadcast(scale);
     for (std::ptrdiff_t m = 0; m < pitch; m += size) {
         for (std::ptrdiff_t r = 0; r < size; r += columns) {
-            transform.begin([&](std::ptrdiff_t row, int c) __attribute__((always_inline)) {
-                return times(src.template get<B>(row * pitch + m + r + c * lanes), factor);
-            });
-            transform.endInTile();
+            for (std::ptrdiff_t row = 0; row < size; ++row) {
+                for (int c = 0; c < columns / lanes; ++c) {
+                    transform.tile.put(row, c, times(src.template get<B>(row * pitch + m + r + c * lanes), factor));
+                }
+            }
+            transform.run();
             if (inPlace) {
                 for (std::ptrdiff_t q = 0; q < size; ++q) {
                     for (int c = 0; c < columns / lanes; ++c) {
@@ -220,18 +186,22 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
 template <class T, int B, class In, class Out>
 void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, In in, Out out, std::ptrdiff_t base,
                 T* work) {
-    using S = Split<T, B>;
     constexpr int lanes = Vec<T, B>::lanes, columns = kTileColumns<T>;
     const PhaseTwiddles<T, B> twiddles(table, rowBits);
     const ColumnTransform<T, B> transform{rowBits, factors, {work}};
     const T* scalars = twiddles.tiles;
     for (std::ptrdiff_t k = 0; k < std::ptrdiff_t{1} << columnBits; k += columns, scalars += 2 << rowBits) {
-        transform.begin([&](std::ptrdiff_t row, int c) __attribute__((always_inline)) {
-            return in.template get<B>(base + (row << columnBits) + k + c * lanes) * twiddles.of(row, c, scalars);
-        });
-        transform.end([&](std::ptrdiff_t row, int c, S v) __attribute__((always_inline)) {
-            out.template put<B>(base + (row << columnBits) + k + c * lanes, v);
-        });
+        for (std::ptrdiff_t row = 0; row < transform.rows(); ++row) {
+            for (int c = 0; c < columns / lanes; ++c) {
+                transform.tile.put(row, c, in.template get<B>(base + (row << columnBits) + k + c * lanes) * twiddles.of(row, c, scalars));
+            }
+        }
+        transform.run();
+        for (std::ptrdiff_t row = 0; row < transform.rows(); ++row) {
+            for (int c = 0; c < columns / lanes; ++c) {
+                out.template put<B>(base + (row << columnBits) + k + c * lanes, transform.tile.get(transform.place(row), c));
+            }
+        }
     }
 }
 

@@ -12,8 +12,8 @@
 
 namespace vlq::fft {
 
-// The first stage of 16-point transforms of `columns` columns, 16 at most: row m + 4 q of the block
-// becomes value q of the four-point transform over rows m, m + 4, m + 8, m + 12.
+// The first stage of the 16-point transforms of so many columns: row m + 4 q of the block then
+// holds value q of the four-point transforms over rows m, m + 4, m + 8, m + 12.
 template <class T, int B, class Get>
 [[gnu::always_inline]] inline void firstStage(Blocks<T> block, int columns, Get&& get) {
     using S = Split<T, B>;
@@ -30,7 +30,7 @@ template <class T, int B, class Get>
 }
 
 // The second one; turn(column, b, c, d) may multiply values 1 to 3, put(q, column, value) takes
-// value q of the transform. eighth is the factor of the eight-point transform in it.
+// value q of the transform, eighth is the factor of the eight-point transform in it.
 template <class T, int B, class Turn, class Put>
 [[gnu::always_inline]] inline void secondStage(Blocks<T> block, int columns, T eighth, Turn&& turn, Put&& put) {
     using S = Split<T, B>;

@@ -13,7 +13,7 @@ struct PassPlan {
     int radix[5];
 };
 
-inline constexpr int kFirstPlanned = 6, kLastPlanned = 15;  // orders
+inline constexpr int kFirstPlanned = 6;  // order
 
 // Radices by order from 6, as measured. Radix 16 saves passes over the data where a vector's lanes
 // and the number of registers allow; vectors of 16 bytes are better off without.
