@@ -48,10 +48,49 @@ void directBlock(Record<E>& record, const E* src, E* dst, Vlq32s len) {
     }
 }
 
+// Samples of another type, in equal shares for a team, each thread with buffers of its own. dst may
+// be src, so the samples before each share come first into the staging area, before they are written
+// over. Short filters alone: the past of every share must find room there.
+inline constexpr Vlq32s kSharedPast = 63;
+
+template <class E, class Sample, class Scale>
+void directShares(Record<E>& record, Vlq32s shares, const Sample* src, Sample* dst, Vlq32s len, Scale scale) {
+    const Vlq32s tapsLen = record.tapsLen, past = tapsLen - 1;
+    const Vlq32s share = len / shares;
+    const E* tapsWide = record.tapsWide;
+    E* line = record.dlyLine;
+    E* pasts = record.blockBuf;
+    if (past > 0) {
+        shift(line + record.dlyIndex + 1, pasts, past);
+        for (Vlq32s i = 1; i < shares; ++i) widen(src + (i * share - past), pasts + i * past, past);
+    }
+    record.dlyIndex = 0;
+    widen(src + (len - tapsLen), line, tapsLen);
+
+    shareEvenly(shares, shares, [=](Vlq32s first, Vlq32s count) {
+        constexpr Vlq32s piece = 512;
+        E window[kSharedPast + piece], filtered[piece];
+        for (Vlq32s i = first; i < first + count; ++i) {
+            const Vlq32s end = i == shares - 1 ? len : (i + 1) * share;
+            std::copy_n(pasts + i * past, past, window);
+            for (Vlq32s at = i * share; at < end; at += piece) {
+                const Vlq32s outputs = std::min(piece, end - at);
+                widen(src + at, window + past, outputs);
+                direct<E>(tapsWide, window, filtered, outputs, tapsLen);
+                narrow(filtered, dst + at, outputs, scale);
+                std::copy_n(window + outputs, past, window);
+            }
+        }
+    });
+}
+
 // Samples of another type, in pieces that half the staging area holds widened and the other half
 // filtered. dst may be src.
 template <class E, class Sample, class Scale>
 void directPieces(Record<E>& record, const Sample* src, Sample* dst, Vlq32s len, Scale scale) {
+    const Vlq32s threads = threadsFor<E>(len);
+    const bool isShort = record.tapsLen <= kSharedPast + 1 && threads <= Shape<E>::kBlockBuf / (kSharedPast + 1);
+    if (threads > 1 && isShort && len / threads >= record.tapsLen) return directShares(record, threads, src, dst, len, scale);
     constexpr Vlq32s half = Shape<E>::kBlockBuf / 2;
     E* widened = record.blockBuf;
     E* filtered = widened + half;

@@ -146,4 +146,34 @@ TYPED_TEST(FirStream, LongCutsInPlace) {
     }
 }
 
+template <class K>
+class FirLong : public FirStream<K> {};
+using OwnTypes = ::testing::Types<Fir32f, Fir32fc, Fir64f, Fir64fc>;
+TYPED_TEST_SUITE(FirLong, OwnTypes);
+
+// Transforms beyond the caches, and beyond the tables of single factors. A few taps that are not
+// zero keep the definition short.
+TYPED_TEST(FirLong, ManyTaps) {
+    using K = TypeParam;
+    using Tap = typename K::Tap;
+    for (const int n : {20000, 70000, 140000}) {
+        std::vector<Tap> taps(count(n));
+        const std::vector<int> places = {0, 1, n / 3, n - 2, n - 1};
+        for (const int k : places) taps[count(k)] = drawn<Tap>(1, [&] { return uniformVector<Part<Tap>>(1, -1, 1, this->rng)[0]; })[0];
+        const auto past = randomSamples<Tap>(count(n), this->rng), src = randomSamples<Tap>(count(n + 3000), this->rng);
+        auto dst = src;
+        typename K::State* state = nullptr;
+        ASSERT_EQ(vlqStsOk, K::initAlloc(&state, taps.data(), n, past.data()));
+        ASSERT_EQ(vlqStsOk, K::block(src.data(), dst.data(), n + 3000, state, 0));
+        ASSERT_EQ(vlqStsOk, K::free(state));
+        const Wide size = 4.0L * n, norm = std::sqrt(10.0L);  // of five complex taps at most
+        const Wide bound = 4 * std::log2(size) * kUnit<Tap> * std::sqrt(size) * peakOf<Tap>() * norm;
+        for (int i = 0; i < n + 3000; ++i) {
+            WideComplex want = 0;
+            for (const int k : places) want += wide(taps[count(k)]) * (i >= k ? wide(src[count(i - k)]) : wide(past[count(k - i - 1)]));
+            ASSERT_TRUE(isAllowed(want, bound, 0, dst[count(i)])) << n << " taps, output " << i << ": " << wide(dst[count(i)]) << " for " << want;
+        }
+    }
+}
+
 }  // namespace

@@ -13,9 +13,10 @@
 
 namespace vlq::fft {
 
-// Below, every block of factors is a vector each of Re s, Im s, Re d, Im d of consecutive k, from
-// k = 1 to H/2 in the lane order of loadSplit. Value H/2 has a real s and an imaginary d; the other parts of its lane, the last
-// one, hold the factors of value 0, both real.
+// The factors 2/N s and 2/N d out of a spectrum in Perm form, scale being 1/N: the inverse transform
+// is then left without a division. Every block is a vector each of Re s, Im s, Re d, Im d for
+// consecutive k from 1 to H/2, in the lane order of loadSplit. At H/2, the last lane, s is real and
+// d imaginary; the other two places hold the factors of value 0, both real.
 template <class T>
 inline void filterFactors(int order, T scale, const T* perm, T* factors) {
     constexpr int lanes = Vec<T>::lanes;
