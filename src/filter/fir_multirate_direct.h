@@ -44,10 +44,12 @@ void polyphaseDirect(const Sample* src, Sample* dst, Vlq32s periods, const Tap* 
                 sums[o] = directSum(taps + firstTap, up, src, last, line, count);
             }
             last += whole;
-            firstTap += rest;
-            if (firstTap >= up) {
-                firstTap -= up;
+            // A sum of the two may leave 32 bits.
+            if (firstTap >= up - rest) {
+                firstTap -= up - rest;
                 ++last;
+            } else {
+                firstTap += rest;
             }
         }
         narrow(sums, dst, some, scale);
