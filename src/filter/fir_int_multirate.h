@@ -94,9 +94,11 @@ Vlq64s writeRowPairs(const State& state, const Derived& d, RowPair* rowPairs) {
     for (Vlq64s e = 0; e < d.outputElements(parts); ++e) {
         // Both outputs of a real element have seen their windows; a complex element is one output.
         const Vlq64s first = 2 / parts * e, last = first + 2 / parts - 1;
-        const Vlq64s start = roundDown(windowStart(state, d, first), 2);
-        const Vlq64s end = roundUp(windowStart(state, d, last) + d.dlyLen() * parts, 2);
-        rowPairs[e] = {static_cast<Vlq32s>(start / 2), static_cast<Vlq32s>((end - start) / 2)};
+        const Vlq64s starts[] = {windowStart(state, d, first), windowStart(state, d, last)}, len = d.dlyLen() * parts;
+        const Vlq64s start = roundDown(starts[0], 2), end = roundUp(starts[1] + len, 2);
+        const Vlq64s lead = roundDown(starts[1], 2) - start, trail = std::min(end - roundUp(starts[0] + len, 2), end - start - lead);
+        rowPairs[e] = {static_cast<Vlq32s>(start / 2), static_cast<Vlq32s>((end - start) / 2), static_cast<Vlq32s>(lead / 2),
+                       static_cast<Vlq32s>(trail / 2)};
         longest = std::max(longest, end - start);
     }
     return longest;

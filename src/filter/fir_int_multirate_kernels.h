@@ -15,10 +15,11 @@
 namespace vlq::fir::integer {
 
 // The taps of one output element: `pairs` pairs of either row. They begin `start` elements into the
-// input of a cycle, counted from `reach` words before it.
+// input of a cycle, counted from `reach` words before it. The second row has zeros in its first `lead`
+// pairs, the first row in its last `trail` ones.
 struct RowPair {
-    Vlq32s start;
-    Vlq32s pairs;
+    Vlq32s start, pairs;
+    Vlq32s lead, trail;
 };
 
 // The table of row pairs stands behind this.
@@ -100,6 +101,37 @@ inline void takeAsunder(const Vlq16s* src, std::ptrdiff_t width, std::ptrdiff_t 
     }
 }
 
+// Where the pairs of an element come from: one stream after the other, then the next cycle.
+struct StreamPlace {
+    const Vlq16s* x;  // of the first stream
+    std::ptrdiff_t stream;
+};
+
+// Adds the next `left` pairs of taps, of both rows or of one, to a tile.
+template <bool hasFirst, bool hasSecond, int A, int B>
+[[gnu::always_inline]] inline void addStreams(Vec<Vlq32s, B> (&first)[A], Vec<Vlq32s, B> (&second)[A], const Vlq16s*& firstRow,
+                                              const Vlq16s*& secondRow, StreamPlace& place, std::ptrdiff_t inputs, std::ptrdiff_t stride,
+                                              std::ptrdiff_t left) {
+    constexpr int lanes = Vec<Vlq16s, B>::lanes;
+    while (left > 0) {
+        const std::ptrdiff_t run = std::min(left, inputs - place.stream);
+        const Vlq16s* samples = place.x + 2 * place.stream * stride;
+#pragma GCC unroll 1
+        for (std::ptrdiff_t i = 0; i < run; ++i, samples += 2 * stride, firstRow += 2, secondRow += 2) {
+            const auto firstTap = broadcastPair<B>(firstRow), secondTap = broadcastPair<B>(secondRow);
+#pragma GCC unroll 16
+            for (int a = 0; a < A; ++a) {
+                const auto v = opaque(load<Vlq16s, B>(samples + a * lanes));  // held, not loaded twice
+                if constexpr (hasFirst) first[a] = opaque(first[a] + pairSums(firstTap, v));
+                if constexpr (hasSecond) second[a] = opaque(second[a] + pairSums(secondTap, v));
+            }
+        }
+        left -= run;
+        place.stream += run;
+        if (place.stream == inputs) place = {place.x + 2, 0};
+    }
+}
+
 // A vectors of cycles of one output element, from streams; x is the first of them at the cycle
 // `reach` words before the one that is first in the result.
 template <int A, int B, class F>
@@ -109,23 +141,10 @@ inline void streamTile(const RowPair& taps, const Vlq16s* firstRow, const Vlq16s
     Vec<Vlq32s, B> first[A], second[A];
 #pragma GCC unroll 16
     for (int a = 0; a < A; ++a) first[a] = second[a] = finish.template start<B>();
-    std::ptrdiff_t stream = taps.start % inputs;
-    x += 2 * (taps.start / inputs);
-    for (std::ptrdiff_t left = taps.pairs; left > 0; stream = 0, x += 2) {
-        const std::ptrdiff_t run = std::min(left, inputs - stream);
-        const Vlq16s* samples = x + 2 * stream * stride;
-        left -= run;
-#pragma GCC unroll 1
-        for (std::ptrdiff_t i = 0; i < run; ++i, samples += 2 * stride, firstRow += 2, secondRow += 2) {
-            const auto firstTap = broadcastPair<B>(firstRow), secondTap = broadcastPair<B>(secondRow);
-#pragma GCC unroll 16
-            for (int a = 0; a < A; ++a) {
-                const auto v = opaque(load<Vlq16s, B>(samples + a * lanes));  // held, not loaded twice
-                first[a] = opaque(first[a] + pairSums(firstTap, v));
-                second[a] = opaque(second[a] + pairSums(secondTap, v));
-            }
-        }
-    }
+    StreamPlace place{x + 2 * (taps.start / inputs), taps.start % inputs};
+    addStreams<true, false>(first, second, firstRow, secondRow, place, inputs, stride, taps.lead);
+    addStreams<true, true>(first, second, firstRow, secondRow, place, inputs, stride, taps.pairs - taps.lead - taps.trail);
+    addStreams<false, true>(first, second, firstRow, secondRow, place, inputs, stride, taps.trail);
 #pragma GCC unroll 16
     for (int a = 0; a < A; ++a) store(dst + a * lanes, interleaveSat(finish(first[a]), finish(second[a])));
 }
@@ -223,6 +242,7 @@ inline void cycleTiles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::pt
 template <int A, int B, class F>
 inline void streamCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const F& finish) {
     constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
+    constexpr int columns = B > 32 ? 32 : B;  // wider ones cost more to put together than they save
     const std::ptrdiff_t inputs = cycle.inputs, stride = cycle.streamStride, reached = cycle.reachedCycles();
     const std::ptrdiff_t most = (stride - reached) / lanes * lanes;
     for (std::ptrdiff_t done = 0; done < count;) {
@@ -230,8 +250,8 @@ inline void streamCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x
         done = std::min(done, count - made);
         // Of the cycles before this piece some may come before x.
         const std::ptrdiff_t before = std::max<std::ptrdiff_t>(reached - done, 0);
-        takeAsunder<B>(past + 2 * (reached - before) * inputs, inputs, before, cycle.streams, stride);
-        takeAsunder<B>(x + 2 * (done + before - reached) * inputs, inputs, made + reached - before, cycle.streams + 2 * before, stride);
+        takeAsunder<columns>(past + 2 * (reached - before) * inputs, inputs, before, cycle.streams, stride);
+        takeAsunder<columns>(x + 2 * (done + before - reached) * inputs, inputs, made + reached - before, cycle.streams + 2 * before, stride);
         cycleTiles<A, B>(cycle, cycle.streams, dst + 2 * done * cycle.outputs, made, finish);
         done += made;
     }
