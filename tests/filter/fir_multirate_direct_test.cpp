@@ -11,13 +11,6 @@ namespace {
 
 using namespace vlqtest;
 
-std::size_t count(long n) { return static_cast<std::size_t>(n); }
-
-template <class T>
-bool sameBits(const std::vector<T>& a, const std::vector<T>& b) {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
-}
-
 template <class K>
 class FirMultiRateDirect : public ::testing::Test {
 protected:
