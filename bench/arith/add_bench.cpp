@@ -57,9 +57,35 @@ template <class T, class Exact>
 [[gnu::noinline]] void plainAddC(const T* __restrict x, T val, T* __restrict z, int len, int s) {
     for (int i = 0; i < len; ++i) z[i] = scaleRule<T, Exact>(static_cast<Exact>(x[i]) + static_cast<Exact>(val), s);
 }
+template <class T, class Exact>
+[[gnu::noinline]] void plainSubC(const T* __restrict x, T val, T* __restrict z, int len, int s) {
+    for (int i = 0; i < len; ++i) z[i] = scaleRule<T, Exact>(static_cast<Exact>(x[i]) - static_cast<Exact>(val), s);
+}
+template <class T, class Exact>
+[[gnu::noinline]] void plainSubCRev(const T* __restrict x, T val, T* __restrict z, int len, int s) {
+    for (int i = 0; i < len; ++i) z[i] = scaleRule<T, Exact>(static_cast<Exact>(val) - static_cast<Exact>(x[i]), s);
+}
+template <class T, class Exact>
+[[gnu::noinline]] void plainAddComplexC(const T* __restrict x, T re, T im, T* __restrict z, int len, int s) {
+    for (int i = 0; i < 2 * len; i += 2) {
+        z[i] = scaleRule<T, Exact>(static_cast<Exact>(x[i]) + static_cast<Exact>(re), s);
+        z[i + 1] = scaleRule<T, Exact>(static_cast<Exact>(x[i + 1]) + static_cast<Exact>(im), s);
+    }
+}
 template <class S, class D>
 [[gnu::noinline]] void plainWide(const S* __restrict x, const S* __restrict y, D* __restrict z, int len) {
     for (int i = 0; i < len; ++i) z[i] = static_cast<D>(x[i] + y[i]);
+}
+template <class S, class D>
+[[gnu::noinline]] void plainWideSub(const S* __restrict x, const S* __restrict y, D* __restrict z, int len) {
+    for (int i = 0; i < len; ++i) z[i] = static_cast<D>(y[i] - x[i]);
+}
+[[gnu::noinline]] void plainAddOnto(const Vlq16s* __restrict x, Vlq32s* __restrict z, int len) {
+    for (int i = 0; i < len; ++i) z[i] = scaleRule<Vlq32s, long>(static_cast<long>(z[i]) + x[i], 0);
+}
+template <class T>
+[[gnu::noinline]] void plainFloatC(const T* __restrict x, T val, T* __restrict z, int len) {
+    for (int i = 0; i < len; ++i) z[i] = val - x[i];
 }
 template <class T>
 [[gnu::noinline]] void plainFloat(const T* __restrict x, const T* __restrict y, T* __restrict z, int len) {
@@ -84,13 +110,31 @@ void addScaled(const char* name, VlqStatus (*add)(const T*, const T*, T*, Vlq32s
     }
 }
 
+// A form with a constant: sum, difference and reverse difference, each against its own plain loop.
+template <class T>
+using ConstantCall = VlqStatus (*)(const T*, T, T*, Vlq32s, Vlq32s);
 template <class T, class Exact>
-void addConstant(const char* name, VlqStatus (*call)(const T*, T, T*, Vlq32s, Vlq32s), const std::initializer_list<int>& factors) {
+void addConstant(const char* type, ConstantCall<T> sum, ConstantCall<T> difference, ConstantCall<T> reverse,
+                 const std::initializer_list<int>& factors) {
     const Vectors<T> v = vectors<T>();
     const T val = 77;
+    const auto row = [&](const char* name, ConstantCall<T> call, auto plain, int s) {
+        vlqbench::add({at((std::string(name) + type).c_str(), s), kL1, kL1, "plain loop", 0.33, [=] { call(v.a, val, v.d, kL1, s); },
+                       [=] { plain(v.a, val, v.d, kL1, s); }});
+    };
     for (const int s : factors) {
-        vlqbench::add({at(name, s), kL1, kL1, "plain loop", 0.33, [=] { call(v.a, val, v.d, kL1, s); },
-                       [=] { plainAddC<T, Exact>(v.a, val, v.d, kL1, s); }});
+        row("add constant ", sum, plainAddC<T, Exact>, s);
+        row("sub constant ", difference, plainSubC<T, Exact>, s);
+        row("constant minus ", reverse, plainSubCRev<T, Exact>, s);
+    }
+}
+template <class T, class C, class Exact>
+void addComplexConstant(const char* name, VlqStatus (*call)(const C*, C, C*, Vlq32s, Vlq32s), const std::initializer_list<int>& factors) {
+    const Vectors<T> v = vectors<T>();
+    for (const int s : factors) {
+        vlqbench::add({at(name, s), kL1, kL1, "plain loop", 0.33,
+                       [=] { call(reinterpret_cast<const C*>(v.a), C{77, -5}, reinterpret_cast<C*>(v.d), kL1, s); },
+                       [=] { plainAddComplexC<T, Exact>(v.a, 77, -5, v.d, kL1, s); }});
     }
 }
 
@@ -146,16 +190,29 @@ int main(int argc, char** argv) {
     vlqbench::add({"add 8u to 16u", kL1, kL1, "plain loop", 1,
                    [=] { vlqsAdd_8u16u(u.a, u.b, reinterpret_cast<Vlq16u*>(w.d), kL1); },
                    [=] { plainWide(u.a, u.b, reinterpret_cast<Vlq16u*>(w.d), kL1); }});
-    vlqbench::add({"add 16s onto 32s", kL1, kL1, "", 0, [=] { vlqsAdd_16s32s_I(w.a, n.d, kL1); }, nullptr});
+    vlqbench::add({"add 16s onto 32s", kL1, kL1, "plain loop", 0.33, [=] { vlqsAdd_16s32s_I(w.a, n.d, kL1); },
+                   [=] { plainAddOnto(w.a, n.d, kL1); }});
+    vlqbench::add({"sub 16s to 32f", kL1, kL1, "plain loop", 1, [=] { vlqsSub_16s32f(w.a, w.b, f.d, kL1); },
+                   [=] { plainWideSub(w.a, w.b, f.d, kL1); }});
+    vlqbench::add({"add 32u", kL1, kL1, "plain loop", 0.33,
+                   [=] { vlqsAdd_32u(reinterpret_cast<Vlq32u*>(n.a), reinterpret_cast<Vlq32u*>(n.b), reinterpret_cast<Vlq32u*>(n.d), kL1); },
+                   [=] { plainAdd<Vlq32u, long>(reinterpret_cast<Vlq32u*>(n.a), reinterpret_cast<Vlq32u*>(n.b), reinterpret_cast<Vlq32u*>(n.d), kL1, 0); }});
+    vlqbench::add({"constant minus 32f", kL1, kL1, "plain loop", 1, [=] { vlqsSubCRev_32f(f.a, 1.5f, f.d, kL1); },
+                   [=] { plainFloatC(f.a, 1.5f, f.d, kL1); }});
+    vlqbench::add({"constant minus 64f", kL1, kL1, "plain loop", 1, [=] { vlqsSubCRev_64f(g.a, 1.5, g.d, kL1); },
+                   [=] { plainFloatC(g.a, 1.5, g.d, kL1); }});
 
     addScaled<Vlq8u, int>("8u", vlqsAdd_8u_Sfs, vlqsSub_8u_Sfs, {0, 1, 4, 8, 10, -3, -8}, 0.33);
     addScaled<Vlq16s, int>("16s", vlqsAdd_16s_Sfs, vlqsSub_16s_Sfs, {0, 1, 4, 16, 17, -3, -16}, 0.33);
     addScaled<Vlq16u, long>("16u", vlqsAdd_16u_Sfs, vlqsSub_16u_Sfs, {0, 1, 4, 16, 17, 18, -3, -16}, 0.33);
     addScaled<Vlq32s, long>("32s", vlqsAdd_32s_Sfs, vlqsSub_32s_Sfs, {0, 1, 2, 4, 32, 33, -3, -29}, 0.33);
     addScaled<Vlq64s, Int128>("64s", vlqsAdd_64s_Sfs, nullptr, {0, 1, 4, 63, -3, -62}, 1);
-    addConstant<Vlq8u, int>("add constant 8u", vlqsAddC_8u_Sfs, {0, 1, 4, -3});
-    addConstant<Vlq16s, int>("add constant 16s", vlqsAddC_16s_Sfs, {0, 1, 4, -3});
-    addConstant<Vlq32s, long>("add constant 32s", vlqsAddC_32s_Sfs, {0, 1, 4, -3});
+    addConstant<Vlq8u, int>("8u", vlqsAddC_8u_Sfs, vlqsSubC_8u_Sfs, vlqsSubCRev_8u_Sfs, {0, 1, 4, -3});
+    addConstant<Vlq16s, int>("16s", vlqsAddC_16s_Sfs, vlqsSubC_16s_Sfs, vlqsSubCRev_16s_Sfs, {0, 1, 4, -3});
+    addConstant<Vlq16u, long>("16u", vlqsAddC_16u_Sfs, vlqsSubC_16u_Sfs, vlqsSubCRev_16u_Sfs, {0, 1, 4, -3});
+    addConstant<Vlq32s, long>("32s", vlqsAddC_32s_Sfs, vlqsSubC_32s_Sfs, vlqsSubCRev_32s_Sfs, {0, 1, 4, -3});
+    addComplexConstant<Vlq16s, Vlq16sc, int>("add constant 16sc", vlqsAddC_16sc_Sfs, {0, 4, -3});
+    addComplexConstant<Vlq32s, Vlq32sc, long>("add constant 32sc", vlqsAddC_32sc_Sfs, {0, 4, -3});
     addRounded<Vlq64s>("add constant 64s", vlqsAddC_64s_Sfs);
     addRounded<Vlq64u>("add constant 64u", vlqsAddC_64u_Sfs);
 

@@ -129,6 +129,13 @@ int main(int argc, char** argv) {
     addDiv<Vlq32s, double>("div 32s", vlqsDiv_32s_Sfs, {0, 3, -3});
     vlqbench::add({"div 16sc S=0", n, n, "", 0,
                    [] { vlqsDiv_16sc_Sfs(reinterpret_cast<Vlq16sc*>(vectors<Vlq16s>().a), reinterpret_cast<Vlq16sc*>(vectors<Vlq16s>().b), reinterpret_cast<Vlq16sc*>(vectors<Vlq16s>().d), n, 0); }, {}});
+    vlqbench::add({"div 32s by 16s to 16s S=0", n, n, "", 0,
+                   [] { vlqsDiv_32s16s_Sfs(vectors<Vlq16s>().a, vectors<Vlq32s>().b, vectors<Vlq16s>().d, n, 0); }, {}});
+    vlqbench::add({"divC 8u S=2", n, n, "", 0, [] { vlqsDivC_8u_Sfs(vectors<Vlq8u>().a, 77, vectors<Vlq8u>().d, n, 2); }, {}});
+    vlqbench::add({"divC 16u S=2", n, n, "", 0, [] { vlqsDivC_16u_Sfs(vectors<Vlq16u>().a, 77, vectors<Vlq16u>().d, n, 2); }, {}});
+    vlqbench::add({"divC 16sc S=2", n, n, "", 0,
+                   [] { vlqsDivC_16sc_Sfs(reinterpret_cast<Vlq16sc*>(vectors<Vlq16s>().a), {77, -5}, reinterpret_cast<Vlq16sc*>(vectors<Vlq16s>().d), n, 2); }, {}});
+    vlqbench::add({"divCRev 32f", n, n, "", 0, [&v] { vlqsDivCRev_32f(v.a, 1.5f, v.d, n); }, {}});
     vlqbench::add({"div 16s rounded by mode 2", n, n, "", 0, [] { vlqsDiv_Round_16s_Sfs(vectors<Vlq16s>().a, vectors<Vlq16s>().b, vectors<Vlq16s>().d, n, vlqRndFinancial, 1); }, {}});
     vlqbench::add({"divC 16s S=2", n, n, "", 0, [] { vlqsDivC_16s_Sfs(vectors<Vlq16s>().a, 77, vectors<Vlq16s>().d, n, 2); }, {}});
     vlqbench::add({"divCRev 16u", n, n, "", 0, [] { vlqsDivCRev_16u(vectors<Vlq16u>().a, 7777, vectors<Vlq16u>().d, n); }, {}});

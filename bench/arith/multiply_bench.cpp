@@ -60,6 +60,24 @@ template <class T, class Exact>
         z[i + 1] = scaleRule<T, Exact>(a * d + b * c, s);
     }
 }
+template <class T, class Exact>
+[[gnu::noinline]] void plainRealByComplex(const T* __restrict x, const T* __restrict y, T* __restrict z, int len, int s) {
+    for (int i = 0; i < len; ++i) {
+        z[2 * i] = scaleRule<T, Exact>(static_cast<Exact>(x[i]) * static_cast<Exact>(y[2 * i]), s);
+        z[2 * i + 1] = scaleRule<T, Exact>(static_cast<Exact>(x[i]) * static_cast<Exact>(y[2 * i + 1]), s);
+    }
+}
+template <class T, class Exact>
+[[gnu::noinline]] void plainComplexMulC(const T* __restrict x, T c, T d, T* __restrict z, int len, int s) {
+    for (int i = 0; i < 2 * len; i += 2) {
+        const Exact a = x[i], b = x[i + 1];
+        z[i] = scaleRule<T, Exact>(a * c - b * d, s);
+        z[i + 1] = scaleRule<T, Exact>(a * d + b * c, s);
+    }
+}
+[[gnu::noinline]] void plainMulTo16u(const Vlq8u* __restrict x, const Vlq8u* __restrict y, Vlq16u* __restrict z, int len) {
+    for (int i = 0; i < len; ++i) z[i] = static_cast<Vlq16u>(x[i] * y[i]);
+}
 template <class D, class Exact, class A>
 [[gnu::noinline]] void plainAddProduct(const A* __restrict x, const A* __restrict y, D* __restrict z, int len, int s) {
     for (int i = 0; i < len; ++i) z[i] = scaleRule<D, Exact>(static_cast<Exact>(z[i]) + static_cast<Exact>(x[i]) * static_cast<Exact>(y[i]), s);
@@ -106,6 +124,12 @@ void addComplexMul(const char* form, VlqStatus (*call)(const C*, const C*, C*, V
     addScales(form, scales, bar,
               [=](int n, int s) { call(reinterpret_cast<const C*>(v.a), reinterpret_cast<const C*>(v.b), reinterpret_cast<C*>(v.d), n, s); },
               [=](int n, int s) { plainComplexMul<T, Exact>(v.a, v.b, v.d, n, s); });
+}
+template <class T, class C, class Exact>
+void addComplexMulC(const char* form, VlqStatus (*call)(const C*, C, C*, Vlq32s, Vlq32s), std::initializer_list<int> scales, double bar) {
+    const auto& v = vectors<T>();
+    addScales(form, scales, bar, [=](int n, int s) { call(reinterpret_cast<const C*>(v.a), C{77, -5}, reinterpret_cast<C*>(v.d), n, s); },
+              [=](int n, int s) { plainComplexMulC<T, Exact>(v.a, 77, -5, v.d, n, s); });
 }
 template <class D, class Exact, class A>
 void addAddProduct(const char* form, VlqStatus (*call)(const A*, const A*, D*, Vlq32s, Vlq32s), std::initializer_list<int> scales, double bar) {
@@ -173,6 +197,16 @@ int main(int argc, char** argv) {
     addMul<Vlq32s, Vlq64s>("mul 32s", vlqsMul_32s_Sfs, {0, 1, 15, 25, 40, -3}, 1);
     addComplexMul<Vlq16s, Vlq16sc, Vlq64s>("mul 16sc", vlqsMul_16sc_Sfs, {0, 1, 15, -3}, three);
     addComplexMul<Vlq32s, Vlq32sc, Vlq64s>("mul 32sc", vlqsMul_32sc_Sfs, {0, 1, 31, 50, -3}, 1);
+    const auto w = vectors<Vlq32s>();
+    addScales("mul 32s by 32sc", {0, 15, 40, -3}, 1,
+              [w](int n, int s) { vlqsMul_32s32sc_Sfs(w.a, reinterpret_cast<const Vlq32sc*>(w.b), reinterpret_cast<Vlq32sc*>(w.d), n, s); },
+              [w](int n, int s) { plainRealByComplex<Vlq32s, Vlq64s>(w.a, w.b, w.d, n, s); });
+    addComplexMulC<Vlq16s, Vlq16sc, Vlq64s>("mulC 16sc", vlqsMulC_16sc_Sfs, {0, 15, -3}, three);
+    addComplexMulC<Vlq32s, Vlq32sc, Vlq64s>("mulC 32sc", vlqsMulC_32sc_Sfs, {0, 31, -3}, 1);
+    vlqbench::add({"mul 8u to 16u", 1024, 1024, "plain loop", 1,
+                   [] { vlqsMul_8u16u(vectors<Vlq8u>().a, vectors<Vlq8u>().b, reinterpret_cast<Vlq16u*>(vectors<Vlq16s>().d), 1024); },
+                   [] { plainMulTo16u(vectors<Vlq8u>().a, vectors<Vlq8u>().b, reinterpret_cast<Vlq16u*>(vectors<Vlq16s>().d), 1024); }});
+    vlqbench::add({"mulC 64s by a double, in place", 1024, 1024, "", 0, [] { vlqsMulC_64f64s_ISfs(0.9999, vectors<Vlq64s>().d, 1024, 0); }, {}});
     addMulC<Vlq8u, Vlq32s>("mulC 8u", vlqsMulC_8u_Sfs, {0, 1, 5, -3}, three);
     addMulC<Vlq16s, Vlq32s>("mulC 16s", vlqsMulC_16s_Sfs, {0, 1, 5, 15, 20, -3}, three);
     addMulC<Vlq16u, Vlq64s>("mulC 16u", vlqsMulC_16u_Sfs, {0, 1, 15, -3}, three);
