@@ -25,12 +25,15 @@ template <int B>
 using Bytes = Vec<Byte, B>;
 
 // The C library moves and fills with the widest vectors that the processor has. The baseline build
-// has narrow ones alone and calls it for runs of middle length; the others gain nothing by it.
+// has narrow ones alone and calls it for runs of middle length; the widest gains nothing by it.
 inline constexpr bool kCLibraryIsWider = kVecBytes == 16;
+// Copies of these lengths are the library's.
+inline constexpr std::size_t kLibraryCopiesFrom = kVecBytes == 16 ? 0 : 512;
+inline constexpr std::size_t kLibraryCopiesBelow = kVecBytes == 64 ? 0 : 4096;
 
 // From here on the string instruction copies. Where vectors are narrow it is soon the wider path;
 // wide ones lose to it when source and destination no longer fit the first cache.
-inline constexpr std::size_t kCopyByWords = kVecBytes == 16 ? 1536 : 24 << 10;
+inline constexpr std::size_t kCopyByWords = kVecBytes == 16 ? 4096 : 24 << 10;
 // The same for a fill, which has the first and second caches to itself.
 inline constexpr std::size_t kFillByWords = kVecBytes == 16 ? 6 << 10 : 1 << 20;
 // From here on the processor is asked for its cache, which may take microseconds.
@@ -211,9 +214,10 @@ inline void copyStreaming(Byte* dst, const Byte* src, std::size_t n) {
 // More than kShort bytes; the regions are apart.
 inline void copyLong(Byte* dst, const Byte* src, std::size_t n) {
     using namespace detail;
-    if (n < kCopyByWords) {
-        if (kCLibraryIsWider) std::memcpy(dst, src, n);
-        else copyUpwards(dst, src, n);
+    if (n >= kLibraryCopiesFrom && n < kLibraryCopiesBelow) {
+        std::memcpy(dst, src, n);
+    } else if (n < kCopyByWords) {
+        copyUpwards(dst, src, n);
     } else if (copySweepsCache(n)) {
         copyStreaming(dst, src, n);
     } else {
@@ -289,7 +293,7 @@ inline void fillTwoWords(Byte* dst, std::size_t n, std::uint64_t pattern) {
 namespace detail {
 
 template <class Put>
-inline void fillVectors(Byte* dst, Byte* end, Bytes<kVecBytes> pattern, Put put) {
+[[gnu::always_inline]] inline void fillVectors(Byte* dst, Byte* end, Bytes<kVecBytes> pattern, Put put) {
     constexpr int B = kVecBytes;
     const Four four = {pattern, pattern, pattern, pattern};
     for (; end - dst > 4 * B; dst += 4 * B) storeFour(dst, four, put);
