@@ -48,10 +48,32 @@ VlqStatus realByComplex(const Vlq32s* real, const Vlq32sc* complex, Vlq32sc* dst
     return vlqStsOk;
 }
 
+// Hands `run` the operation on vectors of complex products that serves this scale factor; says whether
+// there is one.
+template <class Run>
+bool withComplexVectors(Vlq32s scaleFactor, Run run) {
+    if (scaleFactor <= kLastInDouble) {
+        const StandardFloatMode hold;
+        run(ComplexProduct32scInDouble{factorInDouble(scaleFactor)});
+        return true;
+    }
+#if VLQ_SIMD_BYTES >= 32
+    run(ComplexProduct32scRight(scaleFactor));
+    return true;
+#else
+    return false;
+#endif
+}
+
+// Complex values move as 64-bit elements.
+const std::int64_t* values(const Vlq32sc* p) { return reinterpret_cast<const std::int64_t*>(p); }
+std::int64_t* values(Vlq32sc* p) { return reinterpret_cast<std::int64_t*>(p); }
+
 VlqStatus complexProduct(const Vlq32sc* a, const Vlq32sc* b, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (!a || !b || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (vanishes<ComplexExact32s>(scaleFactor)) return clear(dst, len);
+    if (withComplexVectors(scaleFactor, [&](auto op) { vlq::map(values(dst), len, op, values(a), values(b)); })) return vlqStsOk;
     withScalarScale<Vlq32s, std::int64_t>(scaleFactor, [&](auto scale) {
         vlq::mapScalars(dst, len, ComplexProduct32sc<decltype(scale)>{scale}, a, b);
     });
@@ -62,6 +84,10 @@ VlqStatus complexProductByConstant(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (vanishes<ComplexExact32s>(scaleFactor)) return clear(dst, len);
+    const auto constant = Vec<std::int64_t>::broadcast(std::bit_cast<std::int64_t>(val));
+    if (withComplexVectors(scaleFactor, [&](auto op) { vlq::map(values(dst), len, [op, constant](auto x) { return op(x, constant); }, values(src)); })) {
+        return vlqStsOk;
+    }
     withScalarScale<Vlq32s, std::int64_t>(scaleFactor, [&](auto scale) {
         vlq::mapScalars(dst, len, [op = ComplexProduct32sc<decltype(scale)>{scale}, val](Vlq32sc x) { return op(x, val); }, src);
     });

@@ -73,6 +73,22 @@ struct SumOfProduct32sInDouble {
     }
 };
 
+// Complex values. One factor goes in by its upper and its lower half, whose products and their sums are
+// exact; the sum of both is, as far as a double holds it.
+struct ComplexProduct32scInDouble {
+    Vec<double> factor;
+    Vec<std::int64_t> operator()(Vec<std::int64_t> x, Vec<std::int64_t> y) const {
+        using V = Vec<std::int32_t>;
+        const V b = bitCast<std::int32_t>(y), lowerHalf = V::broadcast(0xFFFF);
+        const auto a = toDouble(bitCast<std::int32_t>(x)), upper = toDouble(b & ~lowerHalf), lower = toDouble(b & lowerHalf);
+        return bitCast<std::int64_t>(storedFromDouble({{(product(a.part[0], upper.part[0]) + product(a.part[0], lower.part[0])) * factor,
+                                                        (product(a.part[1], upper.part[1]) + product(a.part[1], lower.part[1])) * factor}}));
+    }
+
+private:
+    static Vec<double> product(Vec<double> x, Vec<double> y) { return subtractAdd(realParts(x) * y, imaginaryParts(x) * swapParts(y)); }
+};
+
 // Hands `run` the operation on vectors that serves this scale factor; not for a range that vanishes.
 template <class Run>
 inline void withScale32s(std::int32_t scaleFactor, Run run) {
@@ -124,6 +140,28 @@ struct ComplexProduct32sc {
         return {scale(re), scale(im)};
     }
 };
+
+#if VLQ_SIMD_BYTES >= 32
+// The same in vectors, a value to a lane: scale factors from 2 on.
+struct ComplexProduct32scRight {
+    ScaleRight<std::int64_t> scale;
+    using V = Vec<std::int64_t>;
+
+    explicit ComplexProduct32scRight(std::int32_t scaleFactor) : scale(scaleFactor) {}
+    V operator()(V x, V y) const {
+        const V xIm = shiftRight(x, 32), yIm = shiftRight(y, 32);
+        const V re = productLower(x, y) - productLower(xIm, yIm), wrapped = productLower(x, yIm) + productLower(xIm, y);
+        const V im = wrapped + (wrapped == V::broadcast(std::numeric_limits<std::int64_t>::min()));
+        return shiftLeft(part(im), 32) | (part(re) & V::broadcast(0xFFFFFFFF));
+    }
+
+private:
+    V part(V e) const {
+        const V v = scale({shiftRight(e, 1), e});
+        return minimum(maximum(v, V::broadcast(std::numeric_limits<std::int32_t>::min())), V::broadcast(std::numeric_limits<std::int32_t>::max()));
+    }
+};
+#endif
 
 struct SumOfProduct32s {
     template <class>

@@ -144,6 +144,12 @@ inline Vec<std::uint64_t> productOdd(Vec<std::uint32_t> a, Vec<std::uint32_t> b)
     const auto x = shiftRight(bitCast<std::uint64_t>(a), 32), y = shiftRight(bitCast<std::uint64_t>(b), 32);
     return fromRegister<std::uint64_t>(VLQ_INTRINSIC(mul_epu32)(asInt(x), asInt(y)));
 }
+#if VLQ_SIMD_BYTES >= 32
+// Of the lower words of each lane, as signed integers; the narrow build has no instruction for it.
+inline Vec<std::int64_t> productLower(Vec<std::int64_t> a, Vec<std::int64_t> b) {
+    return fromRegister<std::int64_t>(VLQ_INTRINSIC(mul_epi32)(asInt(a), asInt(b)));
+}
+#endif
 // The low words of both, back in place.
 inline Vec<std::uint32_t> joinEvenOdd(Vec<std::uint64_t> even, Vec<std::uint64_t> odd) {
     const auto low = even & Vec<std::uint64_t>::broadcast(0xFFFFFFFF);
