@@ -242,7 +242,6 @@ inline void cycleTiles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::pt
 template <int A, int B, class F>
 inline void streamCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t count, const F& finish) {
     constexpr std::ptrdiff_t lanes = Vec<Vlq32s, B>::lanes;
-    constexpr int columns = B > 32 ? 32 : B;  // wider ones cost more to put together than they save
     const std::ptrdiff_t inputs = cycle.inputs, stride = cycle.streamStride, reached = cycle.reachedCycles();
     const std::ptrdiff_t most = (stride - reached) / lanes * lanes;
     for (std::ptrdiff_t done = 0; done < count;) {
@@ -250,8 +249,8 @@ inline void streamCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x
         done = std::min(done, count - made);
         // Of the cycles before this piece some may come before x.
         const std::ptrdiff_t before = std::max<std::ptrdiff_t>(reached - done, 0);
-        takeAsunder<columns>(past + 2 * (reached - before) * inputs, inputs, before, cycle.streams, stride);
-        takeAsunder<columns>(x + 2 * (done + before - reached) * inputs, inputs, made + reached - before, cycle.streams + 2 * before, stride);
+        takeAsunder<B>(past + 2 * (reached - before) * inputs, inputs, before, cycle.streams, stride);
+        takeAsunder<B>(x + 2 * (done + before - reached) * inputs, inputs, made + reached - before, cycle.streams + 2 * before, stride);
         cycleTiles<A, B>(cycle, cycle.streams, dst + 2 * done * cycle.outputs, made, finish);
         done += made;
     }
