@@ -17,7 +17,7 @@ VlqStatus stateSize(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* 
     if (tapsLen < 1) return vlqStsBadTapCount;
     if (const VlqStatus status = checked({upFactor, 0, downFactor, 0}); status != vlqStsOk) return status;
     const fir::Derived numbers{tapsLen, upFactor, downFactor};
-    *stateBytes = static_cast<Vlq32s>(std::min<Vlq64s>(fir::multiRateBytes<State>(numbers), std::numeric_limits<Vlq32s>::max()));
+    *stateBytes = vlq::toldSize(fir::multiRateBytes<State>(numbers));
     return vlqStsOk;
 }
 

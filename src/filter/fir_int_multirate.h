@@ -75,7 +75,7 @@ constexpr Vlq64s multiRateBytes(const Derived& d) {
 }
 template <class State>
 constexpr bool fitsMultiRate(const Derived& d) {
-    return multiRateBytes<State>(d) <= std::numeric_limits<Vlq32s>::max();
+    return fitsRecord(multiRateBytes<State>(d));
 }
 
 // ---- rows --------------------------------------------------------------------------------------------

@@ -8,7 +8,7 @@ template <class State>
 VlqStatus stateSize(Vlq32s tapsLen, Vlq32s* stateBytes) {
     if (!stateBytes) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
-    *stateBytes = static_cast<Vlq32s>(fir::recordBytes<State>(tapsLen));
+    *stateBytes = vlq::toldSize(fir::recordBytes<State>(tapsLen));
     return vlqStsOk;
 }
 
@@ -16,6 +16,7 @@ template <class State, class Take>
 VlqStatus init(State** outState, const auto* taps, Vlq32s tapsLen, const typename State::Sample* dlyLine, Vlq8u* buffer, Take take) {
     if (!outState || !taps || !buffer) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
+    if (!vlq::fitsRecord(fir::recordBytes<State>(tapsLen))) return vlqStsNoMemory;
     State* state = fir::layOut<State>(buffer, tapsLen);
     take(*state, taps);
     fir::writeDelayLine(*state, fir::reals(dlyLine));

@@ -299,7 +299,7 @@ State* layOut(void* memory, Vlq32s tapsLen) {
 template <class State>
 State* allocate(Vlq32s tapsLen) {
     const Vlq64s bytes = recordBytes<State>(tapsLen);
-    if (bytes > std::numeric_limits<Vlq32s>::max()) return nullptr;
+    if (!fitsRecord(bytes)) return nullptr;
     Vlq8u* memory = vlqsMalloc_8u(static_cast<Vlq32s>(bytes));
     if (!memory) return nullptr;
     State* state = layOut<State>(memory, tapsLen);

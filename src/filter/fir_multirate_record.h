@@ -63,13 +63,12 @@ VlqStatus multiRateSize(Vlq32s tapsLen, Vlq32s up, Vlq32s down, Vlq32s* stateByt
     if (!stateBytes) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
     if (const VlqStatus status = checkFactors(up, down); status != vlqStsOk) return status;
-    constexpr Vlq64s most = std::numeric_limits<Vlq32s>::max();
     const bool single = up == 1 && down == 1;
     Vlq64s bytes = 0;
     // The complex kinds of one shape have one size, whichever record is made.
     if (!single || Complex<E>) bytes = MultiRatePlan<E>(tapsLen, up, down).bytes();
     if (single) bytes = std::max(bytes, Plan<E>(tapsLen).bytes());
-    *stateBytes = static_cast<Vlq32s>(std::min(bytes, most));
+    *stateBytes = toldSize(bytes);
     return vlqStsOk;
 }
 

@@ -47,8 +47,8 @@ constexpr Vlq32s tapsFrom(Vlq32s firstTap, Vlq32s tapsLen, Vlq32s up) {
     return firstTap < tapsLen ? (tapsLen - firstTap - 1) / up + 1 : 0;
 }
 
-// How the tables of a record of elements E are laid out. Kind 1 keeps the rows of the phases; kinds
-// 2 and 3, for filters that are short against the step, have room for four outputs at once. The
+// How the tables of a record of elements E are laid out: the rows of the phases. Kinds 2 and 3, for
+// filters that are short against the step, have room for four outputs at once besides. The
 // sizes of kinds 2 and 3 in single precision are public.
 template <class E>
 struct MultiRatePlan {
@@ -88,7 +88,7 @@ struct MultiRatePlan {
                roundDown(storeLength() * element + 19, 16) + Shape<E>::kHeaderBytes + (Shape<E>::kAlignment - 16);
     }
     // Everything in the record is counted and reached in 32 bits.
-    bool fits() const { return bytes() < std::numeric_limits<Vlq32s>::max(); }
+    bool fits() const { return fitsRecord(bytes()); }
 
 private:
     static constexpr Vlq64s element = sizeof(E);

@@ -30,7 +30,7 @@ struct Record {
     Vlq32s upFactor;  // multi-rate only
     Vlq32s firstChunk;
     Vlq32s downFactor;   // multi-rate only
-    Vlq32s tapsStride;   // multi-rate and complex only
+    Vlq32s tapsStride;   // multi-rate only
     Spec* fftSpec;       // in this block or one of its own; null without a transform
     RelPtr<E> tapsSpectrum;
     Vlq32s fftLen;  // -1 without a transform path
@@ -38,7 +38,7 @@ struct Record {
     RelPtr<Phase> mrDlyPtr;  // multi-rate only: the outputs of a period
     RelPtr<E> tapsWide;      // each tap over 16 bytes, in natural order; multi-rate: rows
     Vlq32s mrSamples;        // multi-rate only
-    Vlq32s mrKind;           // 1, 2 or 3 in multi-rate records: the layout of their tables
+    Vlq32s mrKind;           // 1, 2 or 3 in multi-rate records: what their tables have room for
     Vlq32s dlyLen;
     RelPtr<E> fftWork;  // fftLen elements a thread
     RelPtr<Vlq8u> fftBuf;  // fftBufSize bytes a thread
@@ -211,7 +211,7 @@ template <class E>
 VlqStatus stateSize(Vlq32s tapsLen, Vlq32s* stateBytes) {
     if (!stateBytes) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
-    *stateBytes = static_cast<Vlq32s>(Plan<E>(tapsLen).bytes());
+    *stateBytes = toldSize(Plan<E>(tapsLen).bytes());
     return vlqStsOk;
 }
 
@@ -221,6 +221,7 @@ VlqStatus init(State** outState, const Tap* taps, Vlq32s tapsLen, const SampleOf
     if (!outState || !taps || !buffer) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
     const Plan<E> plan(tapsLen);
+    if (!fitsRecord(plan.bytes())) return vlqStsNoMemory;
     const Block<State> block = layOut<State>(buffer, plan);
     build(block, taps, dlyLine, [&](typename State::Spec** spec) {
         return Shape<E>::makeTransform(spec, plan.order, vlqNormInvByN, vlqHintNone, block.specMemory, block.specScratch);
@@ -231,7 +232,7 @@ VlqStatus init(State** outState, const Tap* taps, Vlq32s tapsLen, const SampleOf
 
 // Memory of our own; null when there is none, as for a record of 2 GiB.
 inline Vlq8u* allocate(Vlq64s bytes) {
-    return bytes > std::numeric_limits<Vlq32s>::max() ? nullptr : vlqsMalloc_8u(static_cast<Vlq32s>(bytes));
+    return fitsRecord(bytes) ? vlqsMalloc_8u(static_cast<Vlq32s>(bytes)) : nullptr;
 }
 
 // The transform is a block of its own here.

@@ -35,12 +35,13 @@ State* layOut(void* memory, Vlq32s tapsLen) {
 VlqStatus vlq::vlqsFIRGetStateSize_32s(Vlq32s tapsLen, Vlq32s* stateBytes) {
     if (!stateBytes) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
-    *stateBytes = static_cast<Vlq32s>(recordBytes(tapsLen));
+    *stateBytes = vlq::toldSize(recordBytes(tapsLen));
     return vlqStsOk;
 }
 VlqStatus vlq::vlqsFIRInit_32s(VlqsFIRState_32s** outState, const Vlq32s* taps, Vlq32s tapsLen, const Vlq32s* dlyLine, Vlq8u* buffer) {
     if (!outState || !taps || !buffer) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
+    if (!vlq::fitsRecord(recordBytes(tapsLen))) return vlqStsNoMemory;
     State* state = layOut(buffer, tapsLen);
     fir::writeTaps(*state, taps);
     fir::writeDelayLine(*state, dlyLine);

@@ -5,6 +5,7 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <type_traits>
 
 #include "vlqs/frame.h"
@@ -43,6 +44,11 @@ inline T* alignUp(T* p, std::size_t alignment) {
 
 constexpr Vlq64s roundUp(Vlq64s bytes, Vlq64s multiple) { return (bytes + multiple - 1) & -multiple; }
 constexpr Vlq64s roundDown(Vlq64s bytes, Vlq64s multiple) { return bytes & -multiple; }
+
+// Lengths are 32-bit: a larger record cannot be built, and its size query answers the greatest number.
+constexpr Vlq64s kLargestRecord = std::numeric_limits<Vlq32s>::max();
+constexpr bool fitsRecord(Vlq64s bytes) { return bytes < kLargestRecord; }
+constexpr Vlq32s toldSize(Vlq64s bytes) { return static_cast<Vlq32s>(bytes < kLargestRecord ? bytes : kLargestRecord); }
 
 // Carves a block from front to back. The size of the block is the size query's answer; debug
 // builds assert that the tables stay inside it.

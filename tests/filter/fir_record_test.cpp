@@ -377,4 +377,34 @@ TEST_F(FirRecord, Checks) {
     EXPECT_EQ(vlqStsOk, vlqsFIRFree32f_16s(mixed));
 }
 
+// A record of 2 GiB has no size that a caller could be told, and is refused before its taps are read.
+TEST_F(FirRecord, TwoGibibytesAreTooMany) {
+    constexpr Vlq32s most = 2147483647, taps = 1000000000;
+    Vlq32s bytes = 0, multiRate = 0;
+    ASSERT_EQ(vlqStsOk, vlqsFIRGetStateSize_32f(taps, &bytes));
+    EXPECT_EQ(most, bytes);
+    ASSERT_EQ(vlqStsOk, vlqsFIRGetStateSize64f_32s(taps, &bytes));
+    EXPECT_EQ(most, bytes);
+    ASSERT_EQ(vlqStsOk, vlqsFIRMRGetStateSize64f_32s(taps, 1, 1, &multiRate));
+    EXPECT_EQ(most, multiRate);
+    ASSERT_EQ(vlqStsOk, vlqsFIRGetStateSize_32s(taps, &bytes));
+    EXPECT_EQ(most, bytes);
+    ASSERT_EQ(vlqStsOk, vlqsFIRGetStateSize32s_16s(taps, &bytes));
+    EXPECT_EQ(most, bytes);
+
+    Vlq8u buffer[16] = {};
+    const Vlq32f tap = 0;
+    const Vlq32s integerTap = 0;
+    VlqsFIRState_32f* single = nullptr;
+    VlqsFIRState_32s* widened = nullptr;
+    VlqsFIRState32s_16s* integer = nullptr;
+    EXPECT_EQ(vlqStsNoMemory, vlqsFIRInit_32f(&single, &tap, taps, nullptr, buffer));
+    EXPECT_EQ(vlqStsNoMemory, vlqsFIRMRInit_32f(&single, &tap, taps, 1, 0, 1, 0, nullptr, buffer));
+    EXPECT_EQ(vlqStsNoMemory, vlqsFIRInit_32s(&widened, &integerTap, taps, nullptr, buffer));
+    EXPECT_EQ(vlqStsNoMemory, vlqsFIRInit32s_16s(&integer, &integerTap, taps, 0, nullptr, buffer));
+    EXPECT_EQ(nullptr, single);
+    EXPECT_EQ(nullptr, widened);
+    EXPECT_EQ(nullptr, integer);
+}
+
 }  // namespace
