@@ -45,10 +45,10 @@ awk -F '\t' '
         print "u = 2^-24 in single and 2^-53 in double precision. The limit is 0.75 forward and 1.5 for the round trip,"
         print "which is a forward and a normalized inverse transform compared with the samples. The transforms are"
         print "within the limit at every order.\n"
-        print "Odd orders in single precision begin with eight-point transforms whose factor 0x1.6a09e8p-1 is one unit in"
-        print "the last place above 1/sqrt(2) as rounded: results are tied to that word. What it costs is in the last"
-        print "column, the error of a transform that is exact but for this factor. The two add as squares, so it costs"
-        print "little beside the rounding of the other stages.\n"
+        print "Odd orders in single precision have one stage of eight-point transforms, whose factor 0x1.6a09e8p-1 is one"
+        print "unit in the last place above 1/sqrt(2) as rounded: results are tied to that word. What it costs is in the"
+        print "last column, the error of a transform that is exact but for this factor. The two add as squares, so it"
+        print "costs little beside the rounding of the other stages.\n"
         print "![Error of the forward transform by order](accuracy.svg)\n"
     }
     {

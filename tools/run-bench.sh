@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds and runs every benchmark on every build that this processor supports, and writes the
-# results to docs/benchmarks.md, and the error of the transforms to docs/accuracy.md. Usage: tools/run-bench.sh [program-name-pattern]
+# results to docs/benchmarks.md, and the error of the transforms to docs/accuracy.md.
+# Usage: tools/run-bench.sh [program-name-pattern]
 # With a pattern only the matching programs run, and the document stays as it is.
 set -eu
 cd "$(dirname "$0")/.."

@@ -25,8 +25,8 @@ std::vector<float> randomSamples(std::size_t count) {
     return samples;
 }
 
-// Odd orders of single precision begin with eight-point transforms whose factor is one unit in
-// the last place above 1/sqrt(2). This is the transform that errs there and nowhere else.
+// Odd orders of single precision have one stage of eight-point transforms, whose factor is one unit
+// in the last place above 1/sqrt(2). This is the transform that errs there and nowhere else.
 void dftWithEightPointFactor(const Extended* x, Extended* result, std::size_t n, std::size_t stride,
                              const std::vector<Extended>& roots, const std::vector<Extended>& eightRoots) {
     if (n == 8) return vlqtest::dftByHalves(x, result, n, stride, eightRoots);
