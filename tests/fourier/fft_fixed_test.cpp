@@ -391,7 +391,7 @@ TYPED_TEST(FftFixed16, Halves) {
                         ASSERT_EQ(vlqStsOk, status);
                         for (std::size_t i = 0; i < len; ++i) {
                             const long double v = std::ldexp(std::nearbyint(exact[i]), -scale);
-                            const long double rounded = hint == vlqHintAccurate ? std::nearbyint(v) : std::floor(v + 0.5L);
+                            const long double rounded = inIntegers(true, order, hint) ? std::floor(v + 0.5L) : std::nearbyint(v);
                             ASSERT_EQ(std::clamp(rounded, -32768.0L, 32767.0L), y[i]) << v << " hint " << hint << " scale " << scale;
                         }
                     }
@@ -422,7 +422,7 @@ TYPED_TEST(FftFixed16, Fields) {
                 EXPECT_EQ(flag == vlqNormFwdByN ? order : flag == vlqNormBySqrtN ? order / 2 : 0, head.fwdShift);
                 EXPECT_EQ(flag == vlqNormInvByN ? order : flag == vlqNormBySqrtN ? order / 2 : 0, head.invShift);
                 EXPECT_EQ(flag == vlqNormBySqrtN ? order % 2 : 0, head.halfStep);
-                EXPECT_EQ(order > 3 || (order > 0 && hint == vlqHintAccurate), head.useFloat != 0);
+                EXPECT_EQ(!inIntegers(true, order, hint), head.useFloat != 0);
             }
         }
     }
