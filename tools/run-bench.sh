@@ -30,7 +30,8 @@ processor=$(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
 {
     echo "# Benchmarks"
     echo
-    echo "Written by \`make bench\` on $(date -u +%Y-%m-%d)."
+    # FFT_ORDERS=from-to limits the FFT rows: FFTW takes minutes to measure its plans of long transforms.
+    echo "Written by \`${FFT_ORDERS:+FFT_ORDERS=$FFT_ORDERS }make bench\` on $(date -u +%Y-%m-%d)."
     echo
     echo "- Processor: $processor, $(nproc) cores; L1d $(getconf LEVEL1_DCACHE_SIZE), L2 $(getconf LEVEL2_CACHE_SIZE), L3 $(getconf LEVEL3_CACHE_SIZE) bytes"
     echo "- Compiler: $(g++ --version | head -n 1), -O3; $(. /etc/os-release && echo "$PRETTY_NAME"), Linux $(uname -r)"
