@@ -37,7 +37,7 @@ processor=$(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
     echo "- Compiler: $(g++ --version | head -n 1), -O3; $(. /etc/os-release && echo "$PRETTY_NAME"), Linux $(uname -r)"
     echo "- Peers: the C library $(ldd --version | sed -n '1s/.* //p'), FFTW $(pkg-config --modversion fftw3f), VOLK $(pkg-config --modversion volk), liquid-dsp $(dpkg-query -W -f='${Version}' libliquid-dev 2>/dev/null)"
     echo
-    echo "Times are the fastest of seven repetitions, in ns for one element of the given size; rows marked"
+    echo "Times are the fastest of 25 repetitions, in ns for one element of the given size; rows marked"
     echo "\`call\` give ns for one call. Ours and the peer run in one process, interleaved, on the same data,"
     echo "one thread unless the row says otherwise. The number in brackets is ours over the peer: below 1 we are"
     echo "faster. s2, v3 and v4 are the SSE2, AVX2 and AVX-512 builds; the bar is the ratio or time aimed at."

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <random>
-#include <type_traits>
+#include <vector>
 
 #include "fourier/fft_complex_ref.h"
 #include "vlqs/fourier.h"
@@ -65,55 +65,28 @@ void check(VlqStatus status) {
     std::exit(1);
 }
 
-template <class T>
-struct ComplexKind;
-template <>
-struct ComplexKind<float> {
-    using Spec = VlqsFFTSpec_C_32fc;
-    using Value = Vlq32fc;
-    static constexpr const char* name = "complex single";
-    static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32fc;
-    static constexpr auto free = vlqsFFTFree_C_32fc;
-    static constexpr auto forward = vlqsFFTFwd_CToC_32fc;
-    static constexpr auto inverse = vlqsFFTInv_CToC_32fc;
+template <class SpecType, class ValueType, auto initAllocCall, auto freeCall, auto forwardCall, auto inverseCall>
+struct Kind {
+    using Spec = SpecType;
+    using Value = ValueType;
+    static constexpr auto initAlloc = initAllocCall;
+    static constexpr auto free = freeCall;
+    static constexpr auto forward = forwardCall;
+    static constexpr auto inverse = inverseCall;
 };
-template <>
-struct ComplexKind<double> {
-    using Spec = VlqsFFTSpec_C_64fc;
-    using Value = Vlq64fc;
-    static constexpr const char* name = "complex double";
-    static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64fc;
-    static constexpr auto free = vlqsFFTFree_C_64fc;
-    static constexpr auto forward = vlqsFFTFwd_CToC_64fc;
-    static constexpr auto inverse = vlqsFFTInv_CToC_64fc;
-};
-template <class T>
-struct RealKind;
-template <>
-struct RealKind<float> {
-    using Spec = VlqsFFTSpec_R_32f;
-    using Value = Vlq32f;
-    static constexpr const char* name = "real single";
-    static constexpr auto initAlloc = vlqsFFTInitAlloc_R_32f;
-    static constexpr auto free = vlqsFFTFree_R_32f;
-    static constexpr auto forward = vlqsFFTFwd_RToCCS_32f;
-    static constexpr auto inverse = vlqsFFTInv_CCSToR_32f;
-};
-template <>
-struct RealKind<double> {
-    using Spec = VlqsFFTSpec_R_64f;
-    using Value = Vlq64f;
-    static constexpr const char* name = "real double";
-    static constexpr auto initAlloc = vlqsFFTInitAlloc_R_64f;
-    static constexpr auto free = vlqsFFTFree_R_64f;
-    static constexpr auto forward = vlqsFFTFwd_RToCCS_64f;
-    static constexpr auto inverse = vlqsFFTInv_CCSToR_64f;
-};
+using ComplexSingle = Kind<VlqsFFTSpec_C_32fc, Vlq32fc, vlqsFFTInitAlloc_C_32fc, vlqsFFTFree_C_32fc,
+                           vlqsFFTFwd_CToC_32fc, vlqsFFTInv_CToC_32fc>;
+using ComplexDouble = Kind<VlqsFFTSpec_C_64fc, Vlq64fc, vlqsFFTInitAlloc_C_64fc, vlqsFFTFree_C_64fc,
+                           vlqsFFTFwd_CToC_64fc, vlqsFFTInv_CToC_64fc>;
+using RealSingle = Kind<VlqsFFTSpec_R_32f, Vlq32f, vlqsFFTInitAlloc_R_32f, vlqsFFTFree_R_32f, vlqsFFTFwd_RToCCS_32f,
+                        vlqsFFTInv_CCSToR_32f>;
+using RealDouble = Kind<VlqsFFTSpec_R_64f, Vlq64f, vlqsFFTInitAlloc_R_64f, vlqsFFTFree_R_64f, vlqsFFTFwd_RToCCS_64f,
+                        vlqsFFTInv_CCSToR_64f>;
 
 // Transforms the samples there and back, and prints the row. `spectrum` has `bins` values that count.
 template <class Kind, class T>
-void measure(int order, const std::vector<float>& samples, const std::vector<Extended>& spectrum, std::size_t bins,
-             long double eightPointShare) {
+void measure(const char* name, int order, const std::vector<float>& samples, const std::vector<Extended>& spectrum,
+             std::size_t bins, long double eightPointShare) {
     using Value = typename Kind::Value;
     T* in = vectorOf<T>(samples.size());
     T* out = vectorOf<T>(samples.size() + 2);  // CCS has two values more than the signal
@@ -133,7 +106,7 @@ void measure(int order, const std::vector<float>& samples, const std::vector<Ext
         norm += x * x;
     }
     const long double unit = std::sqrt(static_cast<long double>(order)) * (sizeof(T) == 4 ? 0x1p-24L : 0x1p-53L);
-    std::printf("%s\t%s\t%d\t%.3Lf\t%.3Lf\t%.3Lf\n", vlqsGetLibVersion()->targetTag, Kind::name, order,
+    std::printf("%s\t%s\t%d\t%.3Lf\t%.3Lf\t%.3Lf\n", vlqsGetLibVersion()->targetTag, name, order,
                 relativeError(out, spectrum, bins) / unit, std::sqrt(roundTrip / norm) / unit, eightPointShare / unit);
     std::fflush(stdout);
     for (T* vector : {in, out, back}) vlqsFree(vector);
@@ -163,13 +136,13 @@ int main() {
             }
             share = std::sqrt(difference / norm);
         }
-        measure<ComplexKind<float>, float>(order, samples, spectrum, n, share);
-        measure<ComplexKind<double>, double>(order, samples, spectrum, n, 0);
+        measure<ComplexSingle, float>("complex single", order, samples, spectrum, n, share);
+        measure<ComplexDouble, double>("complex double", order, samples, spectrum, n, 0);
 
         const std::vector<float> realSamples(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(n));
         const std::vector<Extended> realSpectrum = vlqtest::dft(realSignal, -1);
-        measure<RealKind<float>, float>(order, realSamples, realSpectrum, n / 2 + 1, 0);
-        measure<RealKind<double>, double>(order, realSamples, realSpectrum, n / 2 + 1, 0);
+        measure<RealSingle, float>("real single", order, realSamples, realSpectrum, n / 2 + 1, 0);
+        measure<RealDouble, double>("real double", order, realSamples, realSpectrum, n / 2 + 1, 0);
     }
     return 0;
 }
