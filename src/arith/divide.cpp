@@ -25,7 +25,7 @@ template <class Op, class A, class B, class D>
 VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s len) {
     auto found0 = Vec<vlq::BitsOf<A>>::zero();
     const auto is0 = [](Vec<A> v) { return v == Vec<A>::zero(); };
-    vlq::mapBlocks(dst, len, vlq::Watching<Op, decltype(is0), decltype(found0)>{op, is0, &found0}, divisors, numerators);
+    vlq::mapBlocks(dst, len, vlq::Watching<Op, decltype(is0), decltype(found0)>(op, is0, &found0), divisors, numerators);
     return vlq::any(found0) ? vlqStsWarnDivByZero : vlqStsOk;
 }
 

@@ -18,19 +18,28 @@ inline bool anyOf(const T* src, std::ptrdiff_t len, Condition condition) {
 }
 
 // An operation of a loop that also tells whether any element of its first source satisfied the
-// condition. Unused lanes have all bits set and must not satisfy it.
+// condition. Unused lanes have all bits set and must not satisfy it. A loop works on a copy, which
+// keeps what it saw in a register and hands it over when it ends.
 template <class Op, class Condition, class Mask>
-struct Watching {
+class Watching {
+public:
     static constexpr bool kMarkUnused = true;
-    Op op;
-    Condition condition;
-    Mask* found;
+    Watching(Op op, Condition condition, Mask* found) : op_(op), condition_(condition), found_(found) {}
+    ~Watching() { *found_ = *found_ | seen_; }
+    Watching(const Watching&) = default;
+    Watching& operator=(const Watching&) = delete;
 
     template <class First, class... Others>
     auto operator()(const First& first, const Others&... others) const {
-        *found = *found | condition(first.part[0]);
-        return op(first, others...);
+        seen_ = seen_ | condition_(first.part[0]);
+        return op_(first, others...);
     }
+
+private:
+    Op op_;
+    Condition condition_;
+    Mask* found_;
+    mutable Mask seen_ = Mask::zero();
 };
 
 }  // namespace vlq
