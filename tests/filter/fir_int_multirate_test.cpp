@@ -689,7 +689,7 @@ TYPED_TEST(FirIntMultirate, ForeignRecords) {
 
 // ---- digests -------------------------------------------------------------------------------------------------
 
-// The same bits in every build, whatever the seed.
+// The same bits in every build: the data are fixed, unlike those of the other tests.
 template <class K>
 std::uint64_t digest() {
     using Sample = typename K::Sample;
