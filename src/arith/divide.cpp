@@ -1,15 +1,17 @@
 // Quotients of integers. The second vector is divided by the first.
+#include "arith/forms.h"
 #include "arith/divide_kernels.h"
 #include "arith/divide_wide_kernels.h"
 
 #include <algorithm>
 
 #include "frame/simd/control.h"
-#include "vlqs/arith.h"
 
 namespace {
 
 using namespace vlq::divide;
+using vlq::clear;
+using vlq::elements;
 using vlq::StandardFloatMode;
 using vlq::Vec;
 
@@ -17,9 +19,6 @@ template <class T>
 bool anyZero(const T* divisors, Vlq32s len) {
     return vlq::anyOf(divisors, len, [](Vec<T> v) { return v == Vec<T>::zero(); });
 }
-
-const Vlq32s* elements(const Vlq16sc* p) { return reinterpret_cast<const Vlq32s*>(p); }
-Vlq32s* elements(Vlq16sc* p) { return reinterpret_cast<Vlq32s*>(p); }
 
 template <class Op, class A, class B, class D>
 VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s len) {
@@ -48,10 +47,6 @@ VlqStatus scaled(const T* src1, const T* src2, T* dst, Vlq32s len, Vlq32s scaleF
     if (len < 1) return vlqStsBadSize;
     return divided(Nearest{}, src1, src2, dst, len, scaleFactor);
 }
-
-VlqStatus clear(Vlq8u* dst, Vlq32s len) { return vlq::vlqsZero_8u(dst, len); }
-VlqStatus clear(Vlq16s* dst, Vlq32s len) { return vlq::vlqsZero_16s(dst, len); }
-VlqStatus clear(Vlq16u* dst, Vlq32s len) { return vlq::vlqsZero_16s(reinterpret_cast<Vlq16s*>(dst), len); }
 
 template <class T>
 VlqStatus roundedByMode(const T* src1, const T* src2, T* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {

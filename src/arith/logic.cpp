@@ -1,10 +1,11 @@
+#include "arith/forms.h"
 #include "arith/logic_kernels.h"
-
-#include "vlqs/arith.h"
 
 namespace {
 
 using namespace vlq::logic;
+using vlq::clear;
+using vlq::copy;
 
 template <class T, class Op>
 VlqStatus twoVectors(const T* src1, const T* src2, T* dst, Vlq32s len, Op op) {
@@ -20,18 +21,6 @@ VlqStatus oneVector(const T* src, T* dst, Vlq32s len, Op op) {
     if (len < 1) return vlqStsBadSize;
     vlq::map(dst, len, op, src);
     return vlqStsOk;
-}
-
-// The clear and the copy of each width.
-VlqStatus clear(Vlq8u* dst, Vlq32s len) { return vlq::vlqsZero_8u(dst, len); }
-VlqStatus clear(Vlq16u* dst, Vlq32s len) { return vlq::vlqsZero_16s(reinterpret_cast<Vlq16s*>(dst), len); }
-VlqStatus clear(Vlq32u* dst, Vlq32s len) { return vlq::vlqsZero_32s(reinterpret_cast<Vlq32s*>(dst), len); }
-VlqStatus copy(const Vlq8u* src, Vlq8u* dst, Vlq32s len) { return vlq::vlqsCopy_8u(src, dst, len); }
-VlqStatus copy(const Vlq16u* src, Vlq16u* dst, Vlq32s len) {
-    return vlq::vlqsCopy_16s(reinterpret_cast<const Vlq16s*>(src), reinterpret_cast<Vlq16s*>(dst), len);
-}
-VlqStatus copy(const Vlq32u* src, Vlq32u* dst, Vlq32s len) {
-    return vlq::vlqsCopy_32s(reinterpret_cast<const Vlq32s*>(src), reinterpret_cast<Vlq32s*>(dst), len);
 }
 
 // A constant of 0 makes a clear or a copy of the operation. The clear tests dst and len itself, the

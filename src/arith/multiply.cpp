@@ -1,13 +1,14 @@
 // Products of 8 and 16-bit integers.
+#include "arith/forms.h"
 #include "arith/multiply_kernels.h"
 
 #include <bit>
 
-#include "vlqs/arith.h"
-
 namespace {
 
 using namespace vlq::multiply;
+using vlq::clear;
+using vlq::elements;
 using vlq::Block;
 using vlq::Scaling;
 using vlq::Vec;
@@ -15,19 +16,11 @@ using vlq::Vec;
 template <class Family>
 bool vanishes(Vlq32s scaleFactor) { return vlq::classify<Family, Vlq32s>(scaleFactor) == Scaling::Vanish; }
 
-// All results are 0: the clear of that width tests and writes the destination.
-VlqStatus clear(Vlq8u* dst, Vlq32s len) { return vlq::vlqsZero_8u(dst, len); }
-VlqStatus clear(Vlq16s* dst, Vlq32s len) { return vlq::vlqsZero_16s(dst, len); }
-VlqStatus clear(Vlq16u* dst, Vlq32s len) { return vlq::vlqsZero_16s(reinterpret_cast<Vlq16s*>(dst), len); }
-VlqStatus clear(Vlq32s* dst, Vlq32s len) { return vlq::vlqsZero_32s(dst, len); }
-
 // What the kernels see of a vector: 16-bit complex values move as 32-bit elements.
 template <class T>
 const T* elements(const T* p) { return p; }
 template <class T>
 T* elements(T* p) { return p; }
-const Vlq32s* elements(const Vlq16sc* p) { return reinterpret_cast<const Vlq32s*>(p); }
-Vlq32s* elements(Vlq16sc* p) { return reinterpret_cast<Vlq32s*>(p); }
 template <class T>
 T element(T value) { return value; }
 Vlq32s element(Vlq16sc value) { return std::bit_cast<Vlq32s>(value); }

@@ -1,23 +1,19 @@
 // Products of 32 and 64-bit integers, and of floats stored as integers.
+#include "arith/forms.h"
 #include "arith/multiply_wide_kernels.h"
 
 #include "frame/simd/control.h"
-#include "vlqs/arith.h"
 
 namespace {
 
 using namespace vlq::multiply;
+using vlq::clear;
 using vlq::Scaling;
 using vlq::StandardFloatMode;
 using vlq::Vec;
 
 template <class Family>
 bool vanishes(Vlq32s scaleFactor) { return vlq::classify<Family, Vlq32s>(scaleFactor) == Scaling::Vanish; }
-
-// All results are 0: the clear of that width tests and writes the destination.
-VlqStatus clear(Vlq32s* dst, Vlq32s len) { return vlq::vlqsZero_32s(dst, len); }
-VlqStatus clear(Vlq64s* dst, Vlq32s len) { return vlq::vlqsZero_64s(dst, len); }
-VlqStatus clear(Vlq32sc* dst, Vlq32s len) { return vlq::vlqsZero_64s(reinterpret_cast<Vlq64s*>(dst), len); }
 
 VlqStatus product(const Vlq32s* a, const Vlq32s* b, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (!a || !b || !dst) return vlqStsNullPtr;

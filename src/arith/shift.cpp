@@ -1,22 +1,11 @@
+#include "arith/forms.h"
 #include "arith/shift_kernels.h"
-
-#include "vlqs/arith.h"
 
 namespace {
 
 using namespace vlq::shift;
-
-// The clear and the copy of each width.
-VlqStatus clear(Vlq8u* dst, Vlq32s len) { return vlq::vlqsZero_8u(dst, len); }
-VlqStatus clear(Vlq16s* dst, Vlq32s len) { return vlq::vlqsZero_16s(dst, len); }
-VlqStatus clear(Vlq16u* dst, Vlq32s len) { return clear(reinterpret_cast<Vlq16s*>(dst), len); }
-VlqStatus clear(Vlq32s* dst, Vlq32s len) { return vlq::vlqsZero_32s(dst, len); }
-VlqStatus copy(const Vlq8u* src, Vlq8u* dst, Vlq32s len) { return vlq::vlqsCopy_8u(src, dst, len); }
-VlqStatus copy(const Vlq16s* src, Vlq16s* dst, Vlq32s len) { return vlq::vlqsCopy_16s(src, dst, len); }
-VlqStatus copy(const Vlq16u* src, Vlq16u* dst, Vlq32s len) {
-    return copy(reinterpret_cast<const Vlq16s*>(src), reinterpret_cast<Vlq16s*>(dst), len);
-}
-VlqStatus copy(const Vlq32s* src, Vlq32s* dst, Vlq32s len) { return vlq::vlqsCopy_32s(src, dst, len); }
+using vlq::clear;
+using vlq::copy;
 
 template <class T>
 inline constexpr Vlq32s kWidth = 8 * static_cast<Vlq32s>(sizeof(T));
