@@ -12,12 +12,6 @@
 
 namespace vlq::packed {
 
-inline Vlq16s sampleAt(const Vlq16s* p) {
-    Vlq16s v;
-    std::memcpy(&v, p, sizeof v);
-    return v;
-}
-inline void putSample(Vlq16s* p, Vlq16s v) { std::memcpy(p, &v, sizeof v); }
 constexpr Vlq16s clampTo16(Vlq32s v) { return static_cast<Vlq16s>(std::clamp(v, -32768, 32767)); }
 
 // A product to 16 bits: shifted right without rounding, or brought into 16 bits and shifted left.
@@ -33,7 +27,8 @@ struct ProductScale {
 };
 
 inline void multiplyReal(const Vlq16s* a, const Vlq16s* b, Vlq16s* dst, ProductScale scale) {
-    putSample(dst, scale(Vlq32s{sampleAt(a)} * sampleAt(b)));
+    const Vlq16s product = scale(Vlq32s{loadScalar(a)} * loadScalar(b));
+    std::memcpy(dst, &product, sizeof product);
 }
 
 // `pairs` complex values, interleaved; dst may be a or b. A value is a lane of 32 bits.

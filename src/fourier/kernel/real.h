@@ -17,31 +17,21 @@ enum class Layout { perm, pack, ccs };
 
 namespace detail {
 
-// One element at any address.
-template <class T>
-inline T get(const T* p) {
-    T value;
-    std::memcpy(&value, p, sizeof value);
-    return value;
-}
-template <class T>
-inline void put(T* p, T value) { std::memcpy(p, &value, sizeof value); }
-
 // Between Perm and another layout of n values.
 template <Layout layout, class T>
 inline void permToLayout(T* data, std::ptrdiff_t n) {
     if constexpr (layout == Layout::pack) {
         if (n < 4) return;
-        const T nyquist = get(data + 1);
+        const T nyquist = scalarAt(data + 1);
         std::memmove(data + 1, data + 2, static_cast<std::size_t>(n - 2) * sizeof(T));
-        put(data + n - 1, nyquist);
+        putScalar(data + n - 1, nyquist);
     }
     if constexpr (layout == Layout::ccs) {
         if (n > 1) {
-            put(data + n, get(data + 1));
-            put(data + n + 1, T(0));
+            putScalar(data + n, scalarAt(data + 1));
+            putScalar(data + n + 1, T(0));
         }
-        put(data + 1, T(0));
+        putScalar(data + 1, T(0));
     }
 }
 
@@ -50,8 +40,8 @@ inline void layoutToPerm(const T* src, T* perm) {
     if constexpr (layout == Layout::perm || n == 1) {
         std::memcpy(perm, src, n * sizeof(T));
     } else {
-        perm[0] = get(src);
-        perm[1] = get(src + (layout == Layout::ccs ? n : n - 1));
+        perm[0] = scalarAt(src);
+        perm[1] = scalarAt(src + (layout == Layout::ccs ? n : n - 1));
         std::memcpy(perm + 2, src + (layout == Layout::ccs ? 2 : 1), (n - 2) * sizeof(T));
     }
 }
@@ -128,9 +118,9 @@ inline void realForwardTransform(const FloatingRecord<T>& record, const T* src, 
     if (order == 5) return detail::forwardRegisters<layout, 5>(record, src, dst);
     if (order == 6) return detail::forwardRegisters<layout, 6>(record, src, dst);
     complexTransform<T, Direction::forward>(order - 1, record, src, dst, work, scaled);
-    const T re = detail::get(dst), im = detail::get(dst + 1);
-    detail::put(dst, re + im);
-    detail::put(dst + 1, re - im);
+    const T re = scalarAt(dst), im = scalarAt(dst + 1);
+    putScalar(dst, re + im);
+    putScalar(dst + 1, re - im);
     recombine<Direction::forward>(order, record, dst + 2, dst + 2);
     detail::permToLayout<layout>(dst, std::ptrdiff_t{1} << order);
 }
@@ -151,16 +141,16 @@ inline void realInverseTransform(const FloatingRecord<T>& record, const T* src, 
     if (order == 5) return detail::inverseRegisters<layout, 5>(record, src, dst);
     if (order == 6) return detail::inverseRegisters<layout, 6>(record, src, dst);
     const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
-    const T mean = detail::get(src);
-    const T nyquist = detail::get(src + (layout == Layout::perm ? 1 : layout == Layout::pack ? n - 1 : n));
+    const T mean = scalarAt(src);
+    const T nyquist = scalarAt(src + (layout == Layout::perm ? 1 : layout == Layout::pack ? n - 1 : n));
     const T* values = src + (layout == Layout::pack ? 1 : 2);
     if (layout == Layout::pack && src == dst) {
         // In place the values first move up to where the pass leaves them.
         std::memmove(dst + 2, values, static_cast<std::size_t>(n - 2) * sizeof(T));
         values = dst + 2;
     }
-    detail::put(dst, mean + nyquist);
-    detail::put(dst + 1, mean - nyquist);
+    putScalar(dst, mean + nyquist);
+    putScalar(dst + 1, mean - nyquist);
     recombine<Direction::inverse>(order, record, values, dst + 2);
     complexTransform<T, Direction::inverse>(order - 1, record, dst, dst, work, scaled);
 }
