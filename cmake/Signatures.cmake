@@ -1,4 +1,4 @@
-# Reads the public headers, one declaration a line, and writes the signature table: for each
+# Reads the public headers, and writes the signature table: for each
 # exported function that returns a status its name, its parameters, and a way to call it.
 function(vlqs_write_signatures output)
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/vlqs/*.h)
@@ -6,9 +6,14 @@ function(vlqs_write_signatures output)
   set(table "")
   set(parameter_lists "")
   foreach(header IN LISTS headers)
-    file(STRINGS ${header} declarations REGEX "^VlqStatus vlqs[A-Za-z0-9_]+\\(.*\\);$")
+    file(READ ${header} text)
+    string(REPLACE ";" "" text "${text}")
+    # A declaration that is too long for one line continues on the next ones.
+    string(REGEX REPLACE "\n  +" " " text "${text}")
+    string(REPLACE "( " "(" text "${text}")
+    string(REGEX MATCHALL "\nVlqStatus vlqs[A-Za-z0-9_]+\\([^)]*\\)" declarations "${text}")
     foreach(declaration IN LISTS declarations)
-      string(REGEX MATCH "^VlqStatus (vlqs[A-Za-z0-9_]+)\\((.*)\\);$" _ "${declaration}")
+      string(REGEX MATCH "VlqStatus (vlqs[A-Za-z0-9_]+)\\((.*)\\)$" _ "${declaration}")
       set(name ${CMAKE_MATCH_1})
       string(REPLACE ", " ";" parameters "${CMAKE_MATCH_2}")
       set(described "")

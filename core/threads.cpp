@@ -20,7 +20,8 @@ Vlq32s availableProcessors() {
 Vlq32s ownGetNumThreads() {
     const Vlq32s count = chosenCount.load(std::memory_order_relaxed);
     if (count > 0) return count;
-    // Asked once: the call stands on every path of block filters, and a system call does not belong there.
+    // Asked once: the call stands on every path of block filters, and a system call does not belong
+    // there.
     static const Vlq32s processors = availableProcessors();
     return processors;
 }

@@ -31,7 +31,8 @@ void freeAnalyser(SpectrumAnalyser* analyser);
 
 /* Adds len samples to an average. The last frame is filled up with zeros, so len should be a
  * multiple of spectrumLen everywhere but at the end of the stream. */
-bool addToAverage(AverageSpectrum* average, SpectrumAnalyser* analyser, const Vlq16s* samples, int len);
+bool addToAverage(AverageSpectrum* average, SpectrumAnalyser* analyser, const Vlq16s* samples,
+                  int len);
 
 /* Level of each line in dBFS: a sine of full scale reads 0. Lines without any power read -200. */
 void averageLevels(const AverageSpectrum* average, double levels[spectrumLines]);

@@ -53,7 +53,8 @@ static bool designFilter(Job* job) {
     const bool worked = exact && job->taps;
     if (worked) {
         designLowPass(exact, count, job->change->cutOff / highRate);
-        for (int n = 0; n < count; ++n) job->taps[n] = (Vlq32s)lround(ldexp(exact[n] * job->up, tapBits));
+        for (int n = 0; n < count; ++n)
+            job->taps[n] = (Vlq32s)lround(ldexp(exact[n] * job->up, tapBits));
     }
     free(exact);
     return worked || complain("There is not enough memory for a filter.");
@@ -63,48 +64,57 @@ static bool designFilter(Job* job) {
 static bool createFilter(const Job* job, Channel* channel) {
     const int count = job->change->tapCount;
     Vlq32s bytes = 0;
-    if (!succeeded(vlqsFIRMRGetStateSize32s_16s(count, job->up, job->down, &bytes), "vlqsFIRMRGetStateSize32s_16s"))
+    if (!succeeded(vlqsFIRMRGetStateSize32s_16s(count, job->up, job->down, &bytes),
+                   "vlqsFIRMRGetStateSize32s_16s"))
         return false;
     channel->filterMemory = vlqsMalloc_8u(bytes);
     if (!channel->filterMemory) return complain("There is not enough memory for a filter.");
-    return succeeded(vlqsFIRMRInit32s_16s(&channel->filter, job->taps, count, -tapBits, job->up, 0, job->down, 0, NULL,
-                                          channel->filterMemory),
+    return succeeded(vlqsFIRMRInit32s_16s(&channel->filter, job->taps, count, -tapBits, job->up, 0,
+                                          job->down, 0, NULL, channel->filterMemory),
                      "vlqsFIRMRInit32s_16s");
 }
 
 static bool createChannels(Job* job) {
-    const int count = job->info.channels, longest = blockPeriods * (job->up > job->down ? job->up : job->down);
+    const int count = job->info.channels,
+              longest = blockPeriods * (job->up > job->down ? job->up : job->down);
     job->interleaved = vlqsMalloc_16s(longest * count);
     job->channels = calloc((size_t)count, sizeof *job->channels);
-    if (!job->interleaved || !job->channels) return complain("There is not enough memory for the sound.");
+    if (!job->interleaved || !job->channels)
+        return complain("There is not enough memory for the sound.");
     for (int c = 0; c < count; ++c) {
         Channel* channel = &job->channels[c];
         channel->input = vlqsMalloc_16s(blockPeriods * job->down);
         channel->output = vlqsMalloc_16s(blockPeriods * job->up);
-        if (!channel->input || !channel->output) return complain("There is not enough memory for the sound.");
+        if (!channel->input || !channel->output)
+            return complain("There is not enough memory for the sound.");
         if (!createFilter(job, channel)) return false;
     }
     return true;
 }
 
 /* Takes a block of one channel through its filter. A multi-rate filter is called like any other,
- * only that its length counts periods. Scale factor 0: results are rounded to 16 bits as they are. */
+ * only that its length counts periods. Scale factor 0: results are rounded to 16 bits as they are.
+ * */
 static bool filterBlock(Job* job, Channel* channel, int periods) {
     struct timespec start, end;
     clock_gettime(CLOCK_MONOTONIC, &start);
-    const VlqStatus status = vlqsFIR32s_16s_Sfs(channel->input, channel->output, periods, channel->filter, 0);
+    const VlqStatus status =
+        vlqsFIR32s_16s_Sfs(channel->input, channel->output, periods, channel->filter, 0);
     clock_gettime(CLOCK_MONOTONIC, &end);
-    job->seconds += (double)(end.tv_sec - start.tv_sec) + 1e-9 * (double)(end.tv_nsec - start.tv_nsec);
+    job->seconds +=
+        (double)(end.tv_sec - start.tv_sec) + 1e-9 * (double)(end.tv_nsec - start.tv_nsec);
     return succeeded(status, "vlqsFIR32s_16s_Sfs");
 }
 
 /* One block, already read: `len` samples of each channel. The last one is filled up with silence
  * to whole periods. */
 static bool processBlock(Job* job, int len) {
-    const int count = job->info.channels, periods = (len + job->down - 1) / job->down, results = periods * job->up;
+    const int count = job->info.channels, periods = (len + job->down - 1) / job->down,
+              results = periods * job->up;
     for (int c = 0; c < count; ++c) {
         Channel* channel = &job->channels[c];
-        for (int n = 0; n < periods * job->down; ++n) channel->input[n] = n < len ? job->interleaved[n * count + c] : 0;
+        for (int n = 0; n < periods * job->down; ++n)
+            channel->input[n] = n < len ? job->interleaved[n * count + c] : 0;
     }
     for (int c = 0; c < count; ++c) {
         Channel* channel = &job->channels[c];
@@ -114,7 +124,8 @@ static bool processBlock(Job* job, int len) {
         addToLevel(&job->levelAfter, channel->output, results);
     }
     errno = 0;
-    if (sf_writef_short(job->sink, job->interleaved, results) != results) return cannotWrite(job->file.path);
+    if (sf_writef_short(job->sink, job->interleaved, results) != results)
+        return cannotWrite(job->file.path);
     job->written += results;
     return true;
 }
@@ -137,8 +148,8 @@ static bool openFiles(Job* job, char* paths[2]) {
     job->source = openSound(paths[0], &job->info);
     if (!job->source) return false;
     if (job->info.samplerate != job->change->fromRate)
-        return complain("%s has %d samples a second, but this program takes %d.", paths[0], job->info.samplerate,
-                        job->change->fromRate);
+        return complain("%s has %d samples a second, but this program takes %d.", paths[0],
+                        job->info.samplerate, job->change->fromRate);
     if (!createOutput(&job->file, paths[1])) return false;
 
     SF_INFO info = {.samplerate = job->change->toRate, .channels = job->info.channels};
@@ -161,15 +172,18 @@ static bool run(Job* job, char* paths[2]) {
     if (!openFiles(job, paths) || !designFilter(job) || !createChannels(job)) return false;
 
     const double duration = (double)job->info.frames / change->fromRate;
-    printf("%s: %.2f s, %d Hz, %d channel%s\n", paths[0], duration, change->fromRate, job->info.channels,
-           job->info.channels == 1 ? "" : "s");
-    printf("Low-pass of %d taps at %d Hz, cut-off %.0f Hz\n", change->tapCount, change->fromRate * job->up, change->cutOff);
-    if (!streamSound(job, paths[0]) || !finishSound(job) || !keepOutputs(&job->file, 1)) return false;
-    printf("%.2f s of sound filtered in %.2f ms, real-time factor %.0f\n", duration, 1e3 * job->seconds,
-           duration / job->seconds);
+    printf("%s: %.2f s, %d Hz, %d channel%s\n", paths[0], duration, change->fromRate,
+           job->info.channels, job->info.channels == 1 ? "" : "s");
+    printf("Low-pass of %d taps at %d Hz, cut-off %.0f Hz\n", change->tapCount,
+           change->fromRate * job->up, change->cutOff);
+    if (!streamSound(job, paths[0]) || !finishSound(job) || !keepOutputs(&job->file, 1))
+        return false;
+    printf("%.2f s of sound filtered in %.2f ms, real-time factor %.0f\n", duration,
+           1e3 * job->seconds, duration / job->seconds);
     printLevel("before:", &job->levelBefore);
     printLevel("after:", &job->levelAfter);
-    printf("Sound of %d Hz, %lld samples: %s\n", change->toRate, (long long)job->written, job->file.path);
+    printf("Sound of %d Hz, %lld samples: %s\n", change->toRate, (long long)job->written,
+           job->file.path);
     return true;
 }
 

@@ -15,5 +15,6 @@ void addToLevel(Level* level, const Vlq16s* samples, int len) {
 void printLevel(const char* name, const Level* level) {
     /* 0 dBFS is the largest sample value, 32768. */
     printf("Level %-7s RMS %6.1f dBFS, peak %6.1f dBFS\n", name,
-           10 * log10(level->squares / level->samples) - 20 * log10(32768), 20 * log10(level->peak / 32768.0));
+           10 * log10(level->squares / level->samples) - 20 * log10(32768),
+           20 * log10(level->peak / 32768.0));
 }

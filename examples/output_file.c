@@ -45,13 +45,15 @@ static void forget(OutputFile* output) {
 }
 
 bool cannotWrite(const char* path) {
-    return complain("%s cannot be written: %s.", path, errno ? strerror(errno) : "the reason is unknown");
+    return complain("%s cannot be written: %s.", path,
+                    errno ? strerror(errno) : "the reason is unknown");
 }
 
 bool createOutput(OutputFile* output, const char* path) {
     static const char suffix[] = ".XXXXXX";
     struct stat about;
-    if (stat(path, &about) == 0 && !S_ISREG(about.st_mode)) return complain("%s exists and is not a file.", path);
+    if (stat(path, &about) == 0 && !S_ISREG(about.st_mode))
+        return complain("%s exists and is not a file.", path);
 
     output->path = path;
     output->temporary = malloc(strlen(path) + sizeof suffix);

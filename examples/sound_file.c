@@ -9,22 +9,26 @@
 #include "console.h"
 
 static unsigned long littleEndian32(const unsigned char* bytes) {
-    return bytes[0] | (unsigned long)bytes[1] << 8 | (unsigned long)bytes[2] << 16 | (unsigned long)bytes[3] << 24;
+    return bytes[0] | (unsigned long)bytes[1] << 8 | (unsigned long)bytes[2] << 16 |
+           (unsigned long)bytes[3] << 24;
 }
 
 /* Walks through the chunks of a WAV file up to the samples and compares the size in their header
  * with the bytes that are there. libsndfile reads a file that was cut short without a complaint. */
 static bool samplesAreComplete(FILE* file, off_t fileSize, const char* path) {
     unsigned char header[12];
-    if (fread(header, 1, 12, file) != 12 || memcmp(header, "RIFF", 4) != 0 || memcmp(header + 8, "WAVE", 4) != 0)
+    if (fread(header, 1, 12, file) != 12 || memcmp(header, "RIFF", 4) != 0 ||
+        memcmp(header + 8, "WAVE", 4) != 0)
         return complain("%s is not a WAV file.", path);
     while (fread(header, 1, 8, file) == 8) {
         const off_t promised = (off_t)littleEndian32(header + 4);
         if (memcmp(header, "data", 4) == 0) {
             const off_t there = fileSize - ftello(file);
             if (there >= promised) return true;
-            return complain("%s was cut short: its header promises %lld bytes of samples, but only %lld are there.",
-                            path, (long long)promised, (long long)there);
+            return complain(
+                "%s was cut short: its header promises %lld bytes of samples, but only %lld are "
+                "there.",
+                path, (long long)promised, (long long)there);
         }
         if (fseeko(file, promised + promised % 2, SEEK_CUR) != 0) break;
     }
@@ -58,7 +62,8 @@ SNDFILE* openSound(const char* path, SF_INFO* info) {
     }
     if ((info->format & SF_FORMAT_SUBMASK) != SF_FORMAT_PCM_16) {
         SF_FORMAT_INFO kind = {.format = info->format & SF_FORMAT_SUBMASK};
-        if (sf_command(NULL, SFC_GET_FORMAT_INFO, &kind, sizeof kind) != 0) kind.name = "another kind";
+        if (sf_command(NULL, SFC_GET_FORMAT_INFO, &kind, sizeof kind) != 0)
+            kind.name = "another kind";
         complain("%s holds %s samples, but this program filters 16-bit ones.", path, kind.name);
     } else if (info->frames < 1) {
         complain("%s holds no samples.", path);

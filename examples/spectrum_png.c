@@ -15,7 +15,8 @@ typedef struct {
 } Colour;
 
 static const Colour ink = {38, 38, 46}, grid = {223, 226, 232};
-static const Colour beforeColour = {240, 138, 36}, afterColour = {24, 90, 189}, cutOffColour = {150, 40, 60};
+static const Colour beforeColour = {240, 138, 36}, afterColour = {24, 90, 189},
+                    cutOffColour = {150, 40, 60};
 
 typedef struct {
     Colour pixels[height][width];
@@ -66,14 +67,17 @@ static void drawCurve(Canvas* canvas, const Curve* curve, double thickness, Colo
             if (y < plotTop || y > plotBottom) continue;
             double distance = INFINITY;
             for (int i = from; i < to; ++i)
-                distance = fmin(distance, distanceToLine(column, y, i, curve->y[i], i + 1, curve->y[i + 1]));
+                distance = fmin(distance,
+                                distanceToLine(column, y, i, curve->y[i], i + 1, curve->y[i + 1]));
             blend(canvas, plotLeft + column, y, colour, thickness / 2 + 0.5 - distance);
         }
     }
 }
 
 /* Width in pixels of a text that is drawn. */
-static int textWidth(const char* text) { return ((int)strlen(text) * glyphAdvance - 1) * fontScale; }
+static int textWidth(const char* text) {
+    return ((int)strlen(text) * glyphAdvance - 1) * fontScale;
+}
 
 /* Draws text from left to right with its upper left corner at (x, y), or from bottom to top with
  * its lower left corner there. */
@@ -101,7 +105,8 @@ static double xOfFrequency(const Scale* scale, double frequency) {
 }
 
 static double yOfLevel(const Scale* scale, double level) {
-    return plotTop + (plotBottom - plotTop) * (scale->highest - level) / (scale->highest - scale->lowest);
+    return plotTop +
+           (plotBottom - plotTop) * (scale->highest - level) / (scale->highest - scale->lowest);
 }
 
 static Scale chooseScale(const SpectrumPicture* picture) {
@@ -142,19 +147,22 @@ static void drawAxes(Canvas* canvas, const Scale* scale) {
         fillRectangle(canvas, plotLeft, y, plotRight, y + 1, grid);
         fillRectangle(canvas, plotLeft - 6, y, plotLeft, y + 1, ink);
         snprintf(label, sizeof label, "%g", level);
-        drawText(canvas, plotLeft - 12 - textWidth(label), y - glyphCapital * fontScale / 2, label, ink, false);
+        drawText(canvas, plotLeft - 12 - textWidth(label), y - glyphCapital * fontScale / 2, label,
+                 ink, false);
     }
     fillRectangle(canvas, plotLeft, plotTop, plotLeft + 1, plotBottom + 1, ink);
     fillRectangle(canvas, plotLeft, plotBottom, plotRight + 1, plotBottom + 1, ink);
 
     static const char xTitle[] = "Frequency (kHz)", yTitle[] = "Level (dBFS)";
-    drawText(canvas, (plotLeft + plotRight - textWidth(xTitle)) / 2, height - 34, xTitle, ink, false);
+    drawText(canvas, (plotLeft + plotRight - textWidth(xTitle)) / 2, height - 34, xTitle, ink,
+             false);
     drawText(canvas, 12, (plotTop + plotBottom + textWidth(yTitle)) / 2, yTitle, ink, true);
 }
 
 static void drawCutOff(Canvas* canvas, const Scale* scale, double cutOff) {
     const int x = (int)lround(xOfFrequency(scale, cutOff));
-    for (int y = plotTop; y + 6 < plotBottom; y += 10) fillRectangle(canvas, x, y, x + 2, y + 6, cutOffColour);
+    for (int y = plotTop; y + 6 < plotBottom; y += 10)
+        fillRectangle(canvas, x, y, x + 2, y + 6, cutOffColour);
 }
 
 /* The spectrum's lines, joined, at each pixel column of the plot. */
@@ -170,21 +178,29 @@ static void traceCurve(Curve* curve, const Scale* scale, const double* levels, i
 
 /* One row between title and plot, where it covers nothing. */
 static void drawLegend(Canvas* canvas, double cutOff) {
-    enum { sample = 36, gap = 10, space = 44, top = 52, middle = top + glyphCapital * fontScale / 2 };
+    enum {
+        sample = 36,
+        gap = 10,
+        space = 44,
+        top = 52,
+        middle = top + glyphCapital * fontScale / 2
+    };
     char cutOffText[48];
     snprintf(cutOffText, sizeof cutOffText, "Cut-off %.0f Hz", cutOff);
     const struct {
         const char* text;
         Colour colour;
         int thickness;
-    } entries[] = {{"Before", beforeColour, 4}, {"After", afterColour, 3}, {cutOffText, cutOffColour, 2}};
+    } entries[] = {
+        {"Before", beforeColour, 4}, {"After", afterColour, 3}, {cutOffText, cutOffColour, 2}};
 
     int x = plotLeft;
     for (int i = 0; i < 3; ++i) {
         const int upper = middle - entries[i].thickness / 2;
         const bool dashed = i == 2;
         for (int dash = 0; dash < sample; dash += 10)
-            fillRectangle(canvas, x + dash, upper, x + dash + (dashed || dash + 10 > sample ? 6 : 10),
+            fillRectangle(canvas, x + dash, upper,
+                          x + dash + (dashed || dash + 10 > sample ? 6 : 10),
                           upper + entries[i].thickness, entries[i].colour);
         drawText(canvas, x + sample + gap, top, entries[i].text, ink, false);
         x += sample + gap + textWidth(entries[i].text) + space;
@@ -214,8 +230,10 @@ bool writeSpectrumPicture(FILE* file, const SpectrumPicture* picture) {
     drawLegend(canvas, picture->cutOff);
     drawTitle(canvas, picture->title);
 
-    png_image image = {.version = PNG_IMAGE_VERSION, .width = width, .height = height, .format = PNG_FORMAT_RGB};
-    const bool written = png_image_write_to_stdio(&image, file, 0, canvas, sizeof canvas->pixels[0], NULL) != 0;
+    png_image image = {
+        .version = PNG_IMAGE_VERSION, .width = width, .height = height, .format = PNG_FORMAT_RGB};
+    const bool written =
+        png_image_write_to_stdio(&image, file, 0, canvas, sizeof canvas->pixels[0], NULL) != 0;
     free(canvas);
     return written;
 }

@@ -74,10 +74,12 @@ static void designFilter(Vlq32f taps[tapCount], double cutOff) {
  * samples (the null pointer) the filter starts from silence. */
 static bool createFilter(VlqsFIRState32f_16s** filter, Vlq8u** memory, const Vlq32f* taps) {
     Vlq32s bytes = 0;
-    if (!succeeded(vlqsFIRGetStateSize32f_16s(tapCount, &bytes), "vlqsFIRGetStateSize32f_16s")) return false;
+    if (!succeeded(vlqsFIRGetStateSize32f_16s(tapCount, &bytes), "vlqsFIRGetStateSize32f_16s"))
+        return false;
     *memory = vlqsMalloc_8u(bytes);
     if (!*memory) return complain("There is not enough memory for a filter.");
-    return succeeded(vlqsFIRInit32f_16s(filter, taps, tapCount, NULL, *memory), "vlqsFIRInit32f_16s");
+    return succeeded(vlqsFIRInit32f_16s(filter, taps, tapCount, NULL, *memory),
+                     "vlqsFIRInit32f_16s");
 }
 
 /* Runs one chunk of one channel through the filter of one block size. Scale factor 0: the results
@@ -87,12 +89,13 @@ static bool filterChunk(Job* job, Channel* channel, int size, int len) {
     clock_gettime(CLOCK_MONOTONIC, &start);
     for (int done = 0; done < len; done += blockLens[size]) {
         const int count = len - done < blockLens[size] ? len - done : blockLens[size];
-        const VlqStatus status = vlqsFIR32f_16s_Sfs(channel->input + done, channel->output[size] + done, count,
-                                                    channel->filter[size], 0);
+        const VlqStatus status = vlqsFIR32f_16s_Sfs(
+            channel->input + done, channel->output[size] + done, count, channel->filter[size], 0);
         if (!succeeded(status, "vlqsFIR32f_16s_Sfs")) return false;
     }
     clock_gettime(CLOCK_MONOTONIC, &end);
-    job->seconds[size] += (double)(end.tv_sec - start.tv_sec) + 1e-9 * (double)(end.tv_nsec - start.tv_nsec);
+    job->seconds[size] +=
+        (double)(end.tv_sec - start.tv_sec) + 1e-9 * (double)(end.tv_nsec - start.tv_nsec);
     return true;
 }
 
@@ -107,15 +110,18 @@ static bool createChannels(Job* job) {
     const int count = job->info.channels;
     job->interleaved = vlqsMalloc_16s(chunkLen * count);
     job->channels = calloc((size_t)count, sizeof *job->channels);
-    if (!job->interleaved || !job->channels) return complain("There is not enough memory for the sound.");
+    if (!job->interleaved || !job->channels)
+        return complain("There is not enough memory for the sound.");
     for (int c = 0; c < count; ++c) {
         Channel* channel = &job->channels[c];
         channel->input = vlqsMalloc_16s(chunkLen);
         if (!channel->input) return complain("There is not enough memory for the sound.");
         for (int size = 0; size < sizeCount; ++size) {
             channel->output[size] = vlqsMalloc_16s(chunkLen);
-            if (!channel->output[size]) return complain("There is not enough memory for the sound.");
-            if (!createFilter(&channel->filter[size], &channel->filterMemory[size], job->taps)) return false;
+            if (!channel->output[size])
+                return complain("There is not enough memory for the sound.");
+            if (!createFilter(&channel->filter[size], &channel->filterMemory[size], job->taps))
+                return false;
         }
     }
     return true;
@@ -150,7 +156,8 @@ static bool streamSound(Job* job, const char* inputPath) {
             return complain("%s ends before its last sample.", inputPath);
         if (!processChunk(job, len)) return false;
         errno = 0;
-        if (sf_writef_short(job->sink, job->interleaved, len) != len) return cannotWrite(job->files[0].path);
+        if (sf_writef_short(job->sink, job->interleaved, len) != len)
+            return cannotWrite(job->files[0].path);
         done += len;
         showProgress((double)done, (double)job->info.frames);
     }
@@ -160,8 +167,10 @@ static bool streamSound(Job* job, const char* inputPath) {
 static bool openFiles(Job* job, char* paths[3]) {
     job->source = openSound(paths[0], &job->info);
     if (!job->source) return false;
-    if (strcmp(paths[1], paths[2]) == 0) return complain("The sound and the picture need names of their own.");
-    if (!createOutput(&job->files[0], paths[1]) || !createOutput(&job->files[1], paths[2])) return false;
+    if (strcmp(paths[1], paths[2]) == 0)
+        return complain("The sound and the picture need names of their own.");
+    if (!createOutput(&job->files[0], paths[1]) || !createOutput(&job->files[1], paths[2]))
+        return false;
 
     SF_INFO info = {.samplerate = job->info.samplerate, .channels = job->info.channels};
     info.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
@@ -185,7 +194,8 @@ static bool drawPicture(Job* job, const char* inputPath) {
     averageLevels(&job->before, before);
     averageLevels(&job->after, after);
     snprintf(title, sizeof title, "%s: average spectrum", slash ? slash + 1 : inputPath);
-    const SpectrumPicture picture = {title, job->info.samplerate, job->cutOff, spectrumLines, before, after};
+    const SpectrumPicture picture = {
+        title, job->info.samplerate, job->cutOff, spectrumLines, before, after};
 
     errno = 0;
     FILE* file = fdopen(job->files[1].descriptor, "wb");
@@ -197,8 +207,9 @@ static bool drawPicture(Job* job, const char* inputPath) {
 static void printReport(const Job* job) {
     const double duration = (double)job->info.frames / job->info.samplerate;
     for (int size = 0; size < sizeCount; ++size)
-        printf("Blocks of %4d samples: %.2f s of sound filtered in %.2f ms, real-time factor %.0f\n", blockLens[size],
-               duration, 1e3 * job->seconds[size], duration / job->seconds[size]);
+        printf(
+            "Blocks of %4d samples: %.2f s of sound filtered in %.2f ms, real-time factor %.0f\n",
+            blockLens[size], duration, 1e3 * job->seconds[size], duration / job->seconds[size]);
     printf("Largest difference between the two results: %d of 32768\n", job->largestDifference);
     printLevel("before:", &job->levelBefore);
     printLevel("after:", &job->levelAfter);
@@ -217,13 +228,15 @@ static bool run(Job* job, char* paths[3]) {
     vlqSetNumThreads(1);
     if (!createAnalyser(&job->analyser) || !createChannels(job)) return false;
 
-    printf("%s: %.2f s, %d Hz, %d channel%s\n", paths[0], (double)job->info.frames / job->info.samplerate,
-           job->info.samplerate, job->info.channels, job->info.channels == 1 ? "" : "s");
+    printf("%s: %.2f s, %d Hz, %d channel%s\n", paths[0],
+           (double)job->info.frames / job->info.samplerate, job->info.samplerate,
+           job->info.channels, job->info.channels == 1 ? "" : "s");
     printf("Low-pass of %d taps, cut-off %.0f Hz\n", tapCount, job->cutOff);
     if (!streamSound(job, paths[0])) return false;
     if (job->largestDifference > 1)
         return complain("The block sizes give results that differ by %d.", job->largestDifference);
-    if (!finishSound(job) || !drawPicture(job, paths[0]) || !keepOutputs(job->files, 2)) return false;
+    if (!finishSound(job) || !drawPicture(job, paths[0]) || !keepOutputs(job->files, 2))
+        return false;
     printReport(job);
     return true;
 }
@@ -239,7 +252,8 @@ static void release(Job* job) {
         vlqsFree(channel->input);
         for (int size = 0; size < sizeCount; ++size) {
             vlqsFree(channel->output[size]);
-            vlqsFree(channel->filterMemory[size]); /* the record lies in it and needs no release of its own */
+            vlqsFree(channel->filterMemory
+                         [size]); /* the record lies in it and needs no release of its own */
         }
     }
     free(job->channels);

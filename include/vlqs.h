@@ -14,7 +14,8 @@
 
 #include "vlqs/arith.h"
 #include "vlqs/convert.h"
-#include "vlqs/filter.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
+#include "vlqs/fir.h"
+#include "vlqs/move.h"
 
 #endif

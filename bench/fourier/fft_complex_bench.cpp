@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "harness/bench.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 #include "vlqs/frame.h"
 
 namespace {
@@ -19,16 +19,16 @@ struct Bar {
     double s2, v3, v4;
 };
 // Ratio to the peer that the best of all libraries reaches with the build's instructions.
-constexpr Bar kBars[] = {{4, 0.46, 0.25, 0.25},  {5, 1.08, 0.64, 0.48},  {6, 1.51, 0.82, 0.82},  {7, 1.68, 0.98, 0.70},
-                         {8, 1.77, 0.94, 0.69},  {9, 1.84, 0.92, 0.70},  {10, 1.86, 0.92, 0.73}, {11, 1.86, 0.94, 0.71},
-                         {12, 1.80, 0.89, 0.71}, {13, 1.51, 0.83, 0.62}, {14, 1.46, 0.78, 0.53}, {15, 1.43, 0.82, 0.78},
-                         {16, 1.39, 0.89, 0.89}, {18, 1.25, 0.67, 0.67}, {20, 0.60, 0.51, 0.51}, {22, 0.95, 0.91, 0.73}};
-constexpr Bar kDoubleBars[] = {{4, 0.98, 0.60, 0.47}, {5, 1.05, 0.76, 0.48}, {6, 1.43, 0.85, 0.56},
-                               {7, 1.66, 0.92, 0.67}, {8, 1.93, 0.91, 0.63}, {9, 1.92, 0.94, 0.60},
-                               {10, 1.82, 0.92, 0.63}, {11, 1.85, 0.89, 0.71}, {12, 1.74, 0.89, 0.62},
-                               {13, 1.51, 0.93, 0.56}, {14, 1.70, 1.00, 0.64}, {15, 1.33, 0.93, 0.76},
-                               {16, 1.29, 0.94, 0.86}, {18, 1.53, 1.00, 0.85}, {20, 0.97, 0.80, 0.72},
-                               {22, 0.59, 0.51, 0.50}};
+constexpr Bar kBars[] = {
+    {4, 0.46, 0.25, 0.25},  {5, 1.08, 0.64, 0.48},  {6, 1.51, 0.82, 0.82},  {7, 1.68, 0.98, 0.70},
+    {8, 1.77, 0.94, 0.69},  {9, 1.84, 0.92, 0.70},  {10, 1.86, 0.92, 0.73}, {11, 1.86, 0.94, 0.71},
+    {12, 1.80, 0.89, 0.71}, {13, 1.51, 0.83, 0.62}, {14, 1.46, 0.78, 0.53}, {15, 1.43, 0.82, 0.78},
+    {16, 1.39, 0.89, 0.89}, {18, 1.25, 0.67, 0.67}, {20, 0.60, 0.51, 0.51}, {22, 0.95, 0.91, 0.73}};
+constexpr Bar kDoubleBars[] = {
+    {4, 0.98, 0.60, 0.47},  {5, 1.05, 0.76, 0.48},  {6, 1.43, 0.85, 0.56},  {7, 1.66, 0.92, 0.67},
+    {8, 1.93, 0.91, 0.63},  {9, 1.92, 0.94, 0.60},  {10, 1.82, 0.92, 0.63}, {11, 1.85, 0.89, 0.71},
+    {12, 1.74, 0.89, 0.62}, {13, 1.51, 0.93, 0.56}, {14, 1.70, 1.00, 0.64}, {15, 1.33, 0.93, 0.76},
+    {16, 1.29, 0.94, 0.86}, {18, 1.53, 1.00, 0.85}, {20, 0.97, 0.80, 0.72}, {22, 0.59, 0.51, 0.50}};
 
 double barOf(const Bar& bar) {
     const std::string tag = vlqbench::buildTag();
@@ -94,9 +94,11 @@ void addOrder(int order, double bar) {
         in[i][1] = src[i].im = static_cast<Real>(std::rand() % 2001 - 1000);
     }
     const std::string name = Precision::name;
-    vlqbench::add({"complex FFT " + name, n, 1, peer, bar, [=] { Precision::forward(src, dst, spec, work); },
+    vlqbench::add({"complex FFT " + name, n, 1, peer, bar,
+                   [=] { Precision::forward(src, dst, spec, work); },
                    [=] { Precision::execute(forwardPlan); }});
-    vlqbench::add({"inverse complex FFT " + name, n, 1, peer, bar, [=] { Precision::inverse(src, dst, spec, work); },
+    vlqbench::add({"inverse complex FFT " + name, n, 1, peer, bar,
+                   [=] { Precision::inverse(src, dst, spec, work); },
                    [=] { Precision::execute(inversePlan); }});
     if (order > 14) return;
 
@@ -104,12 +106,13 @@ void addOrder(int order, double bar) {
     constexpr unsigned turns = 8;
     std::vector<Value*> vectors;
     for (unsigned i = 0; i < 2 * turns; ++i) vectors.push_back(zeros<Value>(n));
-    vlqbench::add({"complex FFT " + name + ", in place", n, 1, "out of place", 1.15,
-                   [=, turn = 0u]() mutable { Precision::inPlace(vectors[turn++ % turns], spec, work); },
-                   [=, turn = 0u]() mutable {
-                       Precision::forward(vectors[turn % turns], vectors[turn % turns + turns], spec, work);
-                       ++turn;
-                   }});
+    vlqbench::add(
+        {"complex FFT " + name + ", in place", n, 1, "out of place", 1.15,
+         [=, turn = 0u]() mutable { Precision::inPlace(vectors[turn++ % turns], spec, work); },
+         [=, turn = 0u]() mutable {
+             Precision::forward(vectors[turn % turns], vectors[turn % turns + turns], spec, work);
+             ++turn;
+         }});
     if (bytes == 0) return;
     vlqbench::add({"complex FFT " + name + ", no work buffer", n, 1, "one allocation more", 1.05,
                    [=] { Precision::forward(src, dst, spec, nullptr); },

@@ -9,7 +9,7 @@
 
 #include "harness/bench.h"
 #include "vlqs/convert.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 #include "vlqs/frame.h"
 
 namespace {
@@ -19,9 +19,11 @@ template <class From, class To>
     for (int i = 0; i < len; ++i) dst[i] = static_cast<To>(src[i]);
 }
 template <class From, class To>
-[[gnu::noinline]] void toFixed(const From* __restrict src, To* __restrict dst, int len, From scale) {
+[[gnu::noinline]] void toFixed(const From* __restrict src, To* __restrict dst, int len,
+                               From scale) {
     constexpr From least = std::numeric_limits<To>::min(), most = std::numeric_limits<To>::max();
-    for (int i = 0; i < len; ++i) dst[i] = static_cast<To>(std::lrint(std::min(std::max(src[i] * scale, least), most)));
+    for (int i = 0; i < len; ++i)
+        dst[i] = static_cast<To>(std::lrint(std::min(std::max(src[i] * scale, least), most)));
 }
 
 template <class T>
@@ -54,7 +56,9 @@ void addComplex16(int order) {
     const auto* complexSrc = reinterpret_cast<const Vlq16sc*>(src);
     auto* complexDst = reinterpret_cast<Vlq16sc*>(dst);
     const auto fixed = planned(vlqsFFTInitAlloc_C_16sc, vlqsFFTGetBufSize_C_16sc, order);
-    const auto ours = [=] { vlqsFFTFwd_CToC_16sc_Sfs(complexSrc, complexDst, fixed.spec, order, fixed.buf); };
+    const auto ours = [=] {
+        vlqsFFTFwd_CToC_16sc_Sfs(complexSrc, complexDst, fixed.spec, order, fixed.buf);
+    };
 
     auto* values = samples<float>(2 * n);
     auto* spectrum = reinterpret_cast<fftwf_complex*>(values);
@@ -75,12 +79,14 @@ void addComplex16(int order) {
                    }});
 
     const auto split = planned(vlqsFFTInitAlloc_C_16s, vlqsFFTGetBufSize_C_16s, order);
-    vlqbench::add({"complex FFT 16s, split", n, 1, "FFTW and loops", 0,
-                   [=] { vlqsFFTFwd_CToC_16s_Sfs(src, src + n, dst, dst + n, split.spec, order, split.buf); }, [=] {
-                       toFloating(src, values, 2 * n);
-                       fftwf_execute(plan);
-                       toFixed(values, theirDst, 2 * n, std::ldexp(1.0f, -order));
-                   }});
+    vlqbench::add(
+        {"complex FFT 16s, split", n, 1, "FFTW and loops", 0,
+         [=] { vlqsFFTFwd_CToC_16s_Sfs(src, src + n, dst, dst + n, split.spec, order, split.buf); },
+         [=] {
+             toFloating(src, values, 2 * n);
+             fftwf_execute(plan);
+             toFixed(values, theirDst, 2 * n, std::ldexp(1.0f, -order));
+         }});
 }
 
 void addComplex32(int order) {
@@ -98,17 +104,21 @@ void addComplex32(int order) {
     const auto interleaved = planned(vlqsFFTInitAlloc_C_32sc, vlqsFFTGetBufSize_C_32sc, order);
     vlqbench::add({"complex FFT 32sc", n, 1, "FFTW and loops", 0,
                    [=] {
-                       vlqsFFTFwd_CToC_32sc_Sfs(reinterpret_cast<const Vlq32sc*>(src), reinterpret_cast<Vlq32sc*>(dst),
-                                                interleaved.spec, order, interleaved.buf);
+                       vlqsFFTFwd_CToC_32sc_Sfs(reinterpret_cast<const Vlq32sc*>(src),
+                                                reinterpret_cast<Vlq32sc*>(dst), interleaved.spec,
+                                                order, interleaved.buf);
                    },
                    peer});
     const auto split = planned(vlqsFFTInitAlloc_C_32s, vlqsFFTGetBufSize_C_32s, order);
-    vlqbench::add({"complex FFT 32s, split", n, 1, "FFTW and loops", 0,
-                   [=] { vlqsFFTFwd_CToC_32s_Sfs(src, src + n, dst, dst + n, split.spec, order, split.buf); }, peer});
+    vlqbench::add(
+        {"complex FFT 32s, split", n, 1, "FFTW and loops", 0,
+         [=] { vlqsFFTFwd_CToC_32s_Sfs(src, src + n, dst, dst + n, split.spec, order, split.buf); },
+         peer});
 }
 
 template <class From, class To, class Spec>
-void addReal(const std::string& name, int order, VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqHint),
+void addReal(const std::string& name, int order,
+             VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqHint),
              VlqStatus (*getBufSize)(const Spec*, Vlq32s*),
              VlqStatus (*forward)(const From*, To*, const Spec*, Vlq32s, Vlq8u*)) {
     const int n = 1 << order;
@@ -117,8 +127,11 @@ void addReal(const std::string& name, int order, VlqStatus (*initAlloc)(Spec**, 
     const auto fixed = planned(initAlloc, getBufSize, order);
     auto* values = samples<double>(n);
     auto* spectrum = samples<double>(n + 2);
-    const fftw_plan plan = fftw_plan_dft_r2c_1d(n, values, reinterpret_cast<fftw_complex*>(spectrum), FFTW_MEASURE);
-    vlqbench::add({name, n, 1, "FFTW and loops", 0, [=] { forward(src, dst, fixed.spec, order, fixed.buf); }, [=] {
+    const fftw_plan plan =
+        fftw_plan_dft_r2c_1d(n, values, reinterpret_cast<fftw_complex*>(spectrum), FFTW_MEASURE);
+    vlqbench::add({name, n, 1, "FFTW and loops", 0,
+                   [=] { forward(src, dst, fixed.spec, order, fixed.buf); },
+                   [=] {
                        toFloating(src, values, n);
                        fftw_execute(plan);
                        toFixed(spectrum, theirDst, n + 2, std::ldexp(1.0, -order));
@@ -131,8 +144,10 @@ int main(int argc, char** argv) {
     for (const int order : {2, 3, 4, 6, 8, 10, 12}) addComplex16(order);
     for (const int order : {4, 8, 10, 12}) {
         addComplex32(order);
-        addReal("real FFT 16s", order, vlqsFFTInitAlloc_R_16s, vlqsFFTGetBufSize_R_16s, vlqsFFTFwd_RToCCS_16s_Sfs);
-        addReal("real FFT 32s", order, vlqsFFTInitAlloc_R_32s, vlqsFFTGetBufSize_R_32s, vlqsFFTFwd_RToCCS_32s_Sfs);
+        addReal("real FFT 16s", order, vlqsFFTInitAlloc_R_16s, vlqsFFTGetBufSize_R_16s,
+                vlqsFFTFwd_RToCCS_16s_Sfs);
+        addReal("real FFT 32s", order, vlqsFFTInitAlloc_R_32s, vlqsFFTGetBufSize_R_32s,
+                vlqsFFTFwd_RToCCS_32s_Sfs);
         addReal("real FFT 16s32s", order, vlqsFFTInitAlloc_R_16s32s, vlqsFFTGetBufSize_R_16s32s,
                 vlqsFFTFwd_RToCCS_16s32s_Sfs);
     }

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "harness/bench.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 #include "vlqs/frame.h"
 
 namespace {
@@ -18,16 +18,18 @@ struct Bar {
     double s2, v3, v4;
 };
 // Time over FFTW's that we mean to reach; none is stated below order 5.
-constexpr Bar kBars[] = {{3, 0, 0, 0},           {4, 0, 0, 0},           {5, 0.88, 0.72, 0.72},  {6, 0.97, 0.72, 0.72},
-                         {7, 1.14, 0.74, 0.74},  {8, 1.20, 0.83, 0.78},  {9, 1.34, 0.73, 0.70},  {10, 1.31, 0.72, 0.51},
-                         {11, 1.40, 0.69, 0.47}, {12, 1.36, 0.69, 0.53}, {13, 1.49, 0.72, 0.56}, {14, 1.26, 0.66, 0.57},
-                         {15, 1.26, 0.63, 0.60}, {16, 1.04, 0.74, 0.74}, {18, 1.13, 0.99, 0.79}, {20, 1.05, 0.79, 0.79},
-                         {22, 0.42, 0.42, 0.42}};
-constexpr Bar kDoubleBars[] = {{3, 0, 0, 0},           {4, 0, 0, 0},           {5, 0.98, 0.78, 0.78},  {6, 1.17, 0.86, 0.84},
-                               {7, 1.36, 0.83, 0.68},  {8, 1.62, 0.88, 0.70},  {9, 1.65, 0.86, 0.57},  {10, 1.71, 0.89, 0.56},
-                               {11, 1.69, 0.87, 0.58}, {12, 1.71, 0.88, 0.70}, {13, 1.63, 0.84, 0.73}, {14, 1.42, 0.88, 0.65},
-                               {15, 1.41, 0.94, 0.77}, {16, 1.30, 0.96, 0.79}, {18, 1.39, 1.00, 0.83}, {20, 0.50, 0.49, 0.42},
-                               {22, 0.39, 0.35, 0.31}};
+constexpr Bar kBars[] = {{3, 0, 0, 0},           {4, 0, 0, 0},           {5, 0.88, 0.72, 0.72},
+                         {6, 0.97, 0.72, 0.72},  {7, 1.14, 0.74, 0.74},  {8, 1.20, 0.83, 0.78},
+                         {9, 1.34, 0.73, 0.70},  {10, 1.31, 0.72, 0.51}, {11, 1.40, 0.69, 0.47},
+                         {12, 1.36, 0.69, 0.53}, {13, 1.49, 0.72, 0.56}, {14, 1.26, 0.66, 0.57},
+                         {15, 1.26, 0.63, 0.60}, {16, 1.04, 0.74, 0.74}, {18, 1.13, 0.99, 0.79},
+                         {20, 1.05, 0.79, 0.79}, {22, 0.42, 0.42, 0.42}};
+constexpr Bar kDoubleBars[] = {
+    {3, 0, 0, 0},           {4, 0, 0, 0},           {5, 0.98, 0.78, 0.78},  {6, 1.17, 0.86, 0.84},
+    {7, 1.36, 0.83, 0.68},  {8, 1.62, 0.88, 0.70},  {9, 1.65, 0.86, 0.57},  {10, 1.71, 0.89, 0.56},
+    {11, 1.69, 0.87, 0.58}, {12, 1.71, 0.88, 0.70}, {13, 1.63, 0.84, 0.73}, {14, 1.42, 0.88, 0.65},
+    {15, 1.41, 0.94, 0.77}, {16, 1.30, 0.96, 0.79}, {18, 1.39, 1.00, 0.83}, {20, 0.50, 0.49, 0.42},
+    {22, 0.39, 0.35, 0.31}};
 
 double barOf(const Bar& bar) {
     const std::string tag = vlqbench::buildTag();
@@ -92,9 +94,11 @@ void addOrder(int order, double bar) {
     auto* b = zeros<Real>(n);
     const std::string name = Precision::name;
     vlqbench::add({"real fft forward " + name, n, 1, "FFTW r2c" + peer, bar,
-                   [=] { Precision::forward(a, b, spec, buf); }, [=] { Precision::execute(forward); }});
+                   [=] { Precision::forward(a, b, spec, buf); },
+                   [=] { Precision::execute(forward); }});
     vlqbench::add({"real fft inverse " + name, n, 1, "FFTW c2r" + peer, bar,
-                   [=] { Precision::inverse(a, b, spec, buf); }, [=] { Precision::execute(inverse); }});
+                   [=] { Precision::inverse(a, b, spec, buf); },
+                   [=] { Precision::execute(inverse); }});
     if (order > 14) return;
 
     // Several vectors in turn, so that a call need not wait for the one before.
@@ -107,7 +111,8 @@ void addOrder(int order, double bar) {
                        Precision::forward(vector, vector, spec, buf);
                    },
                    [=, turn = 0u]() mutable {
-                       Precision::forward(vectors[turn % turns], vectors[turn % turns + turns], spec, buf);
+                       Precision::forward(vectors[turn % turns], vectors[turn % turns + turns],
+                                          spec, buf);
                        ++turn;
                    }});
 }

@@ -39,12 +39,16 @@ std::string label(std::size_t row, const char* side) {
 }
 
 void registerSide(const std::string& name, const std::function<void()>& call) {
-    benchmark::RegisterBenchmark(name.c_str(), [&call](benchmark::State& state) {
-        for (auto _ : state) {
-            call();
-            benchmark::ClobberMemory();
-        }
-    })->Unit(benchmark::kNanosecond)->Repetitions(25)->MinTime(0.001);
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [&call](benchmark::State& state) {
+                                     for (auto _ : state) {
+                                         call();
+                                         benchmark::ClobberMemory();
+                                     }
+                                 })
+        ->Unit(benchmark::kNanosecond)
+        ->Repetitions(25)
+        ->MinTime(0.001);
 }
 
 }  // namespace
@@ -69,7 +73,8 @@ int run(int argc, char** argv) {
 
     const char* path = std::getenv("VLQS_BENCH_OUT");
     std::FILE* file = path ? std::fopen(path, "a") : nullptr;
-    std::printf("%-4s %-44s %9s %12s %12s %7s %6s  %s\n", "", "work", "size", "ours ns", "peer ns", "ratio", "bar", "peer");
+    std::printf("%-4s %-44s %9s %12s %12s %7s %6s  %s\n", "", "work", "size", "ours ns", "peer ns",
+                "ratio", "bar", "peer");
     for (std::size_t i = 0; i < rows().size(); ++i) {
         const Row& r = rows()[i];
         const auto ours = fastest.time.find(label(i, "ours"));
@@ -78,11 +83,11 @@ int run(int argc, char** argv) {
         const double oursNs = ours->second / r.perCall;
         const double peerNs = peer == fastest.time.end() ? 0 : peer->second / r.perCall;
         const double ratio = peerNs > 0 ? oursNs / peerNs : 0;
-        std::printf("%-4s %-44s %9ld %12.4f %12.4f %7.3f %6.2f  %s\n", buildTag(), r.work.c_str(), r.size, oursNs,
-                    peerNs, ratio, r.bar, r.peer.c_str());
+        std::printf("%-4s %-44s %9ld %12.4f %12.4f %7.3f %6.2f  %s\n", buildTag(), r.work.c_str(),
+                    r.size, oursNs, peerNs, ratio, r.bar, r.peer.c_str());
         if (file) {
-            std::fprintf(file, "%s\t%s\t%ld\t%.6g\t%s\t%.6g\t%.4g\t%.4g\n", buildTag(), r.work.c_str(), r.size, oursNs,
-                         r.peer.c_str(), peerNs, ratio, r.bar);
+            std::fprintf(file, "%s\t%s\t%ld\t%.6g\t%s\t%.6g\t%.4g\t%.4g\n", buildTag(),
+                         r.work.c_str(), r.size, oursNs, r.peer.c_str(), peerNs, ratio, r.bar);
         }
     }
     if (file) std::fclose(file);

@@ -9,11 +9,11 @@
 namespace vlqbench {
 
 struct Row {
-    std::string work;   // what is done, e.g. "copy 32f"
-    long size;          // elements a call
-    double perCall;     // what one call counts as: elements give ns an element, 1 gives ns a call
-    std::string peer;   // name of the peer
-    double bar;         // ours / peer that we mean to reach; 0: none is stated
+    std::string work;  // what is done, e.g. "copy 32f"
+    long size;         // elements a call
+    double perCall;    // what one call counts as: elements give ns an element, 1 gives ns a call
+    std::string peer;  // name of the peer
+    double bar;        // ours / peer that we mean to reach; 0: none is stated
     std::function<void()> ours;
     std::function<void()> theirs;
 };

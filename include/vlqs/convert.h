@@ -78,8 +78,10 @@ VlqStatus vlqsConvert_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst, Vlq32s len, Vlq
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
  */
-VlqStatus vlqsConvert_16s8s_Sfs(const Vlq16s* src, Vlq8s* dst, Vlq32u len, VlqRoundMode rndMode, Vlq32s scaleFactor);
-VlqStatus vlqsConvert_64s32s_Sfs(const Vlq64s* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_16s8s_Sfs(const Vlq16s* src, Vlq8s* dst, Vlq32u len, VlqRoundMode rndMode,
+                                Vlq32s scaleFactor);
+VlqStatus vlqsConvert_64s32s_Sfs(const Vlq64s* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode,
+                                 Vlq32s scaleFactor);
 /** @} */
 
 /** @name Integers to floats
@@ -188,14 +190,22 @@ VlqStatus vlqsConvert_64f32f(const Vlq64f* src, Vlq32f* dst, Vlq32s len);
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
  */
-VlqStatus vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
-VlqStatus vlqsConvert_32f8u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
-VlqStatus vlqsConvert_32f16s_Sfs(const Vlq32f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
-VlqStatus vlqsConvert_32f16u_Sfs(const Vlq32f* src, Vlq16u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
-VlqStatus vlqsConvert_32f32s_Sfs(const Vlq32f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
-VlqStatus vlqsConvert_64f16s_Sfs(const Vlq64f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
-VlqStatus vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
-VlqStatus vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len, VlqRoundMode rndMode,
+                                Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f8u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, VlqRoundMode rndMode,
+                                Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f16s_Sfs(const Vlq32f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode,
+                                 Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f16u_Sfs(const Vlq32f* src, Vlq16u* dst, Vlq32s len, VlqRoundMode rndMode,
+                                 Vlq32s scaleFactor);
+VlqStatus vlqsConvert_32f32s_Sfs(const Vlq32f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode,
+                                 Vlq32s scaleFactor);
+VlqStatus vlqsConvert_64f16s_Sfs(const Vlq64f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode,
+                                 Vlq32s scaleFactor);
+VlqStatus vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len, VlqRoundMode rndMode,
+                                 Vlq32s scaleFactor);
+VlqStatus vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len, VlqRoundMode rndMode,
+                                 Vlq32s scaleFactor);
 /** @} */
 
 /** @name Half floats to floats
@@ -250,8 +260,8 @@ VlqStatus vlqsConvert_32f16f(const Vlq32f* src, Vlq16f* dst, Vlq32s len, VlqRoun
 /** @name Half floats to integers, scaled and rounded
  *  @{ */
 /**
- * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`: the value that vlqsConvert_16f32f followed by
- * vlqsConvert_32f16s_Sfs gives, a not-a-number as 32767 included.
+ * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`: the value that vlqsConvert_16f32f followed
+ * by vlqsConvert_32f16s_Sfs gives, a not-a-number as 32767 included.
  *
  * **Shapes.** Both vectors have @p len elements and any alignment. @p dst may begin where @p src
  * does; other overlaps are not allowed.
@@ -270,7 +280,8 @@ VlqStatus vlqsConvert_32f16f(const Vlq32f* src, Vlq16f* dst, Vlq32s len, VlqRoun
  * @param scaleFactor negated exponent of the factor
  * @return #vlqStsOk or an error above.
  */
-VlqStatus vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor);
+VlqStatus vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode,
+                                 Vlq32s scaleFactor);
 /** @} */
 
 /** @name Packed 24-bit integers to wider samples
@@ -303,8 +314,8 @@ VlqStatus vlqsConvert_24u32u(const Vlq8u* src, Vlq32u* dst, Vlq32s len);
  * `dst[i] = saturate(round(src[i] * 2^-scaleFactor))`, to the nearest integer and the even one of
  * two equally near. An element of @p dst is three bytes, least significant first, with no gap to
  * the next. In the integer forms a scale factor above 31 counts as 31. In the float forms the
- * product is formed in single precision, with a factor that is infinite or zero where 2^-scaleFactor
- * leaves the type; a not-a-number gives the top value.
+ * product is formed in single precision, with a factor that is infinite or zero where
+ * 2^-scaleFactor leaves the type; a not-a-number gives the top value.
  *
  * The result does not depend on the rounding or flushing that the calling thread has set.
  *
@@ -341,8 +352,8 @@ VlqStatus vlqsConvert_32u24u_Sfs(const Vlq32u* src, Vlq8u* dst, Vlq32s len, Vlq3
  * **Shapes.** @p src has @p channels times @p frames samples, each row @p frames floats, at any
  * alignment. No row overlaps another or @p src.
  *
- * **Errors,** in this order: #vlqStsNullPtr for a null @p src or @p dstRows, #vlqStsNullPtr for a null
- * row, #vlqStsBadSize for @p channels or @p frames below 1.
+ * **Errors,** in this order: #vlqStsNullPtr for a null @p src or @p dstRows, #vlqStsNullPtr for a
+ * null row, #vlqStsBadSize for @p channels or @p frames below 1.
  *
  * **Memory.** None.
  *
@@ -352,25 +363,27 @@ VlqStatus vlqsConvert_32u24u_Sfs(const Vlq32u* src, Vlq8u* dst, Vlq32s len, Vlq3
  * @param frames   number of samples in each channel
  * @return #vlqStsOk or an error above.
  */
-VlqStatus vlqsSplitScaled_16s32f_D2L(const Vlq16s* src, Vlq32f* const* dstRows, Vlq32s channels, Vlq32s frames);
-VlqStatus vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRows, Vlq32s channels, Vlq32s frames);
+VlqStatus vlqsSplitScaled_16s32f_D2L(const Vlq16s* src, Vlq32f* const* dstRows, Vlq32s channels,
+                                     Vlq32s frames);
+VlqStatus vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRows, Vlq32s channels,
+                                     Vlq32s frames);
 /** @} */
 
 /** @name One row of floats a channel to interleaved integer audio
  *  @{ */
 /**
- * `dst[f * channels + c] = round(clamp(srcRows[c][f], -1, 1) * scale - 0.5)`, to the nearest integer and
- * the even one of two equally near, with a scale of 32767.5 for 16 and 8388607.5 for 24 bits: -1 gives
- * the lowest sample, 1 the highest. A not-a-number counts as 1. The 24-bit samples are packed, three
- * bytes each, least significant first.
+ * `dst[f * channels + c] = round(clamp(srcRows[c][f], -1, 1) * scale - 0.5)`, to the nearest
+ * integer and the even one of two equally near, with a scale of 32767.5 for 16 and 8388607.5 for 24
+ * bits: -1 gives the lowest sample, 1 the highest. A not-a-number counts as 1. The 24-bit samples
+ * are packed, three bytes each, least significant first.
  *
  * The result does not depend on the rounding or flushing that the calling thread has set.
  *
  * **Shapes.** @p dst has @p channels times @p frames samples, each row @p frames floats, at any
  * alignment. @p dst overlaps no row.
  *
- * **Errors,** in this order: #vlqStsNullPtr for a null @p dst or @p srcRows, #vlqStsNullPtr for a null
- * row, #vlqStsBadSize for @p channels or @p frames below 1.
+ * **Errors,** in this order: #vlqStsNullPtr for a null @p dst or @p srcRows, #vlqStsNullPtr for a
+ * null row, #vlqStsBadSize for @p channels or @p frames below 1.
  *
  * **Memory.** None.
  *
@@ -380,8 +393,10 @@ VlqStatus vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRows, V
  * @param dst      interleaved samples
  * @return #vlqStsOk or an error above.
  */
-VlqStatus vlqsJoinScaled_32f16s_D2L(const Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames, Vlq16s* dst);
-VlqStatus vlqsJoinScaled_32f24s_D2L(const Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames, Vlq8u* dst);
+VlqStatus vlqsJoinScaled_32f16s_D2L(const Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames,
+                                    Vlq16s* dst);
+VlqStatus vlqsJoinScaled_32f24s_D2L(const Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames,
+                                    Vlq8u* dst);
 /** @} */
 
 VLQS_END_DECLS

@@ -49,15 +49,15 @@ VLQCORE_API void* vlqAlignPtr(void* ptr, Vlq32s alignBytes);
 
 /** Bits of vlqGetEnabledCpuFeatures(): set where processor and operating system both offer it. */
 enum {
-    vlqCpuSse2 = 0x4,        /**< SSE2 */
-    vlqCpuSse3 = 0x8,        /**< SSE3 */
-    vlqCpuSsse3 = 0x10,      /**< SSSE3 */
-    vlqCpuSse41 = 0x40,      /**< SSE4.1 */
-    vlqCpuSse42 = 0x80,      /**< SSE4.2 */
-    vlqCpuAvx = 0x100,       /**< AVX */
-    vlqCpuFma = 0x400,       /**< fused multiply-add */
-    vlqCpuAvx2 = 0x800,      /**< AVX2 */
-    vlqCpuAvx512 = 0x1000    /**< AVX-512 F, BW, CD, DQ and VL */
+    vlqCpuSse2 = 0x4,     /**< SSE2 */
+    vlqCpuSse3 = 0x8,     /**< SSE3 */
+    vlqCpuSsse3 = 0x10,   /**< SSSE3 */
+    vlqCpuSse41 = 0x40,   /**< SSE4.1 */
+    vlqCpuSse42 = 0x80,   /**< SSE4.2 */
+    vlqCpuAvx = 0x100,    /**< AVX */
+    vlqCpuFma = 0x400,    /**< fused multiply-add */
+    vlqCpuAvx2 = 0x800,   /**< AVX2 */
+    vlqCpuAvx512 = 0x1000 /**< AVX-512 F, BW, CD, DQ and VL */
 };
 
 /** @return the mask of processor features that this process may use. */

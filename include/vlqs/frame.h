@@ -9,11 +9,12 @@
 
 /** What vlqsGetLibVersion() tells about the loaded library. */
 typedef struct {
-    Vlq32s versionMajor;     /**< major version */
-    Vlq32s versionMinor;     /**< minor version */
-    Vlq32s versionPatch;     /**< third number of the version */
-    Vlq32s buildNumber;      /**< revision of the build */
-    char targetTag[4];       /**< tag of the processor target, two letters and zeros: "s2", "v3" or "v4" */
+    Vlq32s versionMajor; /**< major version */
+    Vlq32s versionMinor; /**< minor version */
+    Vlq32s versionPatch; /**< third number of the version */
+    Vlq32s buildNumber;  /**< revision of the build */
+    char
+        targetTag[4]; /**< tag of the processor target, two letters and zeros: "s2", "v3" or "v4" */
     const char* libraryName; /**< name of the library with its target */
     const char* versionText; /**< version and revision as text */
     const char* buildDate;   /**< date of the revision */

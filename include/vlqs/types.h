@@ -102,10 +102,10 @@ enum {
 
 /** Normalisation of a transform of length N: which direction is multiplied, and by what. */
 enum {
-    vlqNormFwdByN = 1,   /**< forward by 1/N */
-    vlqNormInvByN = 2,   /**< inverse by 1/N */
-    vlqNormBySqrtN = 4,  /**< both directions by 1/sqrt(N) */
-    vlqNormNone = 8      /**< neither */
+    vlqNormFwdByN = 1,  /**< forward by 1/N */
+    vlqNormInvByN = 2,  /**< inverse by 1/N */
+    vlqNormBySqrtN = 4, /**< both directions by 1/sqrt(N) */
+    vlqNormNone = 8     /**< neither */
 };
 
 /**
@@ -114,56 +114,56 @@ enum {
  */
 typedef Vlq32s VlqStatus;
 enum {
-    vlqStsWarnBitWidth = 27,     /**< a bit width was brought into 0 to 32 */
-    vlqStsWarnNaN = 9,           /**< a sample is not a number */
-    vlqStsWarnLnNegative = 8,    /**< logarithm of a negative sample */
-    vlqStsWarnLnZero = 7,        /**< logarithm of a zero sample */
-    vlqStsWarnDivByZero = 6,     /**< a sample was divided by zero */
-    vlqStsWarnEvenMask = 5,      /**< an even median mask was shortened by one */
-    vlqStsWarnInvZero = 4,       /**< a zero sample was to be inverted */
-    vlqStsWarnSqrtNegArg = 3,    /**< square root of a negative sample */
-    vlqStsOk = 0,                /**< success */
-    vlqStsBadArg = -5,           /**< a mode or parameter is outside its set */
-    vlqStsBadSize = -6,          /**< a length, size or count is too small */
-    vlqStsBadSelector = -7,      /**< a selector is outside its enumeration */
-    vlqStsNullPtr = -8,          /**< a required pointer is null */
-    vlqStsNoMemory = -9,         /**< memory was refused */
-    vlqStsZeroDivisor = -10,     /**< a constant divisor is zero or too small */
-    vlqStsBadCauchyParam = -11,  /**< the Cauchy parameter is not positive */
-    vlqStsBadScale = -13,        /**< the scale stored with the taps is negative */
-    vlqStsBadOrder = -15,        /**< a transform order is out of range */
-    vlqStsBadFlag = -16,         /**< a normalisation flag is outside its set */
-    vlqStsBadSpec = -17,         /**< the record is dead or of another kind */
-    vlqStsThresholdRange = -18,  /**< the low threshold lies above the high one */
+    vlqStsWarnBitWidth = 27,       /**< a bit width was brought into 0 to 32 */
+    vlqStsWarnNaN = 9,             /**< a sample is not a number */
+    vlqStsWarnLnNegative = 8,      /**< logarithm of a negative sample */
+    vlqStsWarnLnZero = 7,          /**< logarithm of a zero sample */
+    vlqStsWarnDivByZero = 6,       /**< a sample was divided by zero */
+    vlqStsWarnEvenMask = 5,        /**< an even median mask was shortened by one */
+    vlqStsWarnInvZero = 4,         /**< a zero sample was to be inverted */
+    vlqStsWarnSqrtNegArg = 3,      /**< square root of a negative sample */
+    vlqStsOk = 0,                  /**< success */
+    vlqStsBadArg = -5,             /**< a mode or parameter is outside its set */
+    vlqStsBadSize = -6,            /**< a length, size or count is too small */
+    vlqStsBadSelector = -7,        /**< a selector is outside its enumeration */
+    vlqStsNullPtr = -8,            /**< a required pointer is null */
+    vlqStsNoMemory = -9,           /**< memory was refused */
+    vlqStsZeroDivisor = -10,       /**< a constant divisor is zero or too small */
+    vlqStsBadCauchyParam = -11,    /**< the Cauchy parameter is not positive */
+    vlqStsBadScale = -13,          /**< the scale stored with the taps is negative */
+    vlqStsBadOrder = -15,          /**< a transform order is out of range */
+    vlqStsBadFlag = -16,           /**< a normalisation flag is outside its set */
+    vlqStsBadSpec = -17,           /**< the record is dead or of another kind */
+    vlqStsThresholdRange = -18,    /**< the low threshold lies above the high one */
     vlqStsThresholdNegative = -19, /**< a threshold on magnitudes is negative */
-    vlqStsBadDlyIndex = -24,     /**< a delay-line index is out of range */
-    vlqStsBadFilterOrder = -25,  /**< an IIR order is out of range */
-    vlqStsBadTapCount = -26,     /**< a tap count is below 1 */
-    vlqStsBadRelFreq = -27,      /**< a relative frequency is outside [0, 1) */
-    vlqStsBadRatePhase = -28,    /**< a multi-rate phase is out of range */
-    vlqStsBadRateFactor = -29,   /**< a multi-rate factor is below 1 */
-    vlqStsBadSamplePhase = -30,  /**< a sampling phase is out of range */
-    vlqStsBadSampleFactor = -31, /**< a sampling factor is below 1 */
-    vlqStsBadShift = -32,        /**< a shift count is negative */
-    vlqStsBadMask = -33,         /**< a window mask is shorter than 1 */
-    vlqStsBadWaveletOffset = -35, /**< a wavelet offset is below -1 */
-    vlqStsBadJaehneMagn = -38,   /**< the magnitude is negative */
-    vlqStsBadAlpha = -39,        /**< the Kaiser alpha is too large for the length */
-    vlqStsBadTriangleAsym = -40, /**< the triangle's asymmetry is out of range */
-    vlqStsBadTrianglePhase = -41, /**< the triangle's phase is out of range */
-    vlqStsBadTriangleFreq = -42, /**< the triangle's frequency is out of range */
-    vlqStsBadTriangleMagn = -43, /**< the triangle's magnitude is not positive */
-    vlqStsBadTonePhase = -44,    /**< the tone's phase is out of range */
-    vlqStsBadToneFreq = -45,     /**< the tone's frequency is out of range */
-    vlqStsBadToneMagn = -46,     /**< the tone's magnitude is not positive */
-    vlqStsBadChannelCount = -53, /**< a channel count is below 1 */
-    vlqStsBadMatrixStride = -182, /**< a matrix stride is not a positive multiple of 8 bytes */
-    vlqStsBadSparsePos = -194,   /**< tap positions do not ascend from a non-negative start */
-    vlqStsSingularMatrix = -195, /**< a matrix cannot be inverted */
-    vlqStsBadIIRGenOrder = -206, /**< the design order is outside 1 to 12 */
-    vlqStsBadIIRGenFreq = -208,  /**< the design frequency is outside (0, 0.5) */
-    vlqStsBadIIRGenRipple = -209, /**< the ripple is outside (0, 29] */
-    vlqStsBadRoundMode = -213    /**< the function has no such rounding mode */
+    vlqStsBadDlyIndex = -24,       /**< a delay-line index is out of range */
+    vlqStsBadFilterOrder = -25,    /**< an IIR order is out of range */
+    vlqStsBadTapCount = -26,       /**< a tap count is below 1 */
+    vlqStsBadRelFreq = -27,        /**< a relative frequency is outside [0, 1) */
+    vlqStsBadRatePhase = -28,      /**< a multi-rate phase is out of range */
+    vlqStsBadRateFactor = -29,     /**< a multi-rate factor is below 1 */
+    vlqStsBadSamplePhase = -30,    /**< a sampling phase is out of range */
+    vlqStsBadSampleFactor = -31,   /**< a sampling factor is below 1 */
+    vlqStsBadShift = -32,          /**< a shift count is negative */
+    vlqStsBadMask = -33,           /**< a window mask is shorter than 1 */
+    vlqStsBadWaveletOffset = -35,  /**< a wavelet offset is below -1 */
+    vlqStsBadJaehneMagn = -38,     /**< the magnitude is negative */
+    vlqStsBadAlpha = -39,          /**< the Kaiser alpha is too large for the length */
+    vlqStsBadTriangleAsym = -40,   /**< the triangle's asymmetry is out of range */
+    vlqStsBadTrianglePhase = -41,  /**< the triangle's phase is out of range */
+    vlqStsBadTriangleFreq = -42,   /**< the triangle's frequency is out of range */
+    vlqStsBadTriangleMagn = -43,   /**< the triangle's magnitude is not positive */
+    vlqStsBadTonePhase = -44,      /**< the tone's phase is out of range */
+    vlqStsBadToneFreq = -45,       /**< the tone's frequency is out of range */
+    vlqStsBadToneMagn = -46,       /**< the tone's magnitude is not positive */
+    vlqStsBadChannelCount = -53,   /**< a channel count is below 1 */
+    vlqStsBadMatrixStride = -182,  /**< a matrix stride is not a positive multiple of 8 bytes */
+    vlqStsBadSparsePos = -194,     /**< tap positions do not ascend from a non-negative start */
+    vlqStsSingularMatrix = -195,   /**< a matrix cannot be inverted */
+    vlqStsBadIIRGenOrder = -206,   /**< the design order is outside 1 to 12 */
+    vlqStsBadIIRGenFreq = -208,    /**< the design frequency is outside (0, 0.5) */
+    vlqStsBadIIRGenRipple = -209,  /**< the ripple is outside (0, 29] */
+    vlqStsBadRoundMode = -213      /**< the function has no such rounding mode */
 };
 
 #endif

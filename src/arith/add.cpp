@@ -1,7 +1,7 @@
 // Sums and differences of two vectors. A difference is second minus first: src2 - src1, and
 // srcDst - src in place.
 #include "arith/add_kernels.h"
-#include "arith/forms.h"
+#include "frame/loop/forms.h"
 
 namespace {
 
@@ -10,9 +10,13 @@ using namespace vlq::add;
 
 // The range of scale factors that leaves nothing.
 template <class T>
-VlqStatus vanish(T* dst, Vlq32s len) { return clear(dst, len); }
+VlqStatus vanish(T* dst, Vlq32s len) {
+    return clear(dst, len);
+}
 // As words, whose count is refused when it wraps.
-VlqStatus vanish(Vlq64s* dst, Vlq32s len) { return clear(reinterpret_cast<Vlq32s*>(dst), twice(len)); }
+VlqStatus vanish(Vlq64s* dst, Vlq32s len) {
+    return clear(reinterpret_cast<Vlq32s*>(dst), twice(len));
+}
 
 template <class Op, class T>
 VlqStatus scaled(const T* a, const T* b, T* dst, Vlq32s len, Vlq32s scaleFactor) {
@@ -27,8 +31,10 @@ template <class A, class B, class D, class Op>
 VlqStatus unscaled(const A* a, const B* b, D* dst, Vlq32s len, Op op) {
     if (!a || !b || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    if constexpr (sizeof(A) == sizeof(B) && sizeof(B) == sizeof(D)) map(dst, len, op, a, b);
-    else mapBlocks(dst, len, op, a, b);
+    if constexpr (sizeof(A) == sizeof(B) && sizeof(B) == sizeof(D))
+        map(dst, len, op, a, b);
+    else
+        mapBlocks(dst, len, op, a, b);
     return vlqStsOk;
 }
 
@@ -48,8 +54,9 @@ VlqStatus streamedSum(const T* src1, const T* src2, T* dst, Vlq32s len) {
 
 }  // namespace
 
-// ---- sums --------------------------------------------------------------------------------------
-VlqStatus vlq::vlqsAdd_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+// ---- sums ---------------------------------------------------------------------------------------
+VlqStatus vlq::vlqsAdd_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len,
+                              Vlq32s scaleFactor) {
     return scaled<Sum>(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAdd_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -61,7 +68,8 @@ VlqStatus vlq::vlqsAdd_8u16u(const Vlq8u* src1, const Vlq8u* src2, Vlq16u* dst, 
 VlqStatus vlq::vlqsAdd_16u(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len) {
     return unscaled(src1, src2, dst, len, Saturated<Sum>{});
 }
-VlqStatus vlq::vlqsAdd_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAdd_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled<Sum>(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAdd_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -73,7 +81,8 @@ VlqStatus vlq::vlqsAdd_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, 
 VlqStatus vlq::vlqsAdd_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len) {
     return unscaled(srcDst, src, srcDst, len, Saturated<Sum>{});
 }
-VlqStatus vlq::vlqsAdd_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAdd_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled<Sum>(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAdd_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -85,34 +94,38 @@ VlqStatus vlq::vlqsAdd_16s32f(const Vlq16s* src1, const Vlq16s* src2, Vlq32f* ds
 VlqStatus vlq::vlqsAdd_16s32s_I(const Vlq16s* src, Vlq32s* srcDst, Vlq32s len) {
     return unscaled(srcDst, src, srcDst, len, WidenedToSum{});
 }
-VlqStatus vlq::vlqsAdd_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst,
-                                Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAdd_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     return vlqsAdd_16s_Sfs(reals(src1), reals(src2), reals(dst), twice(len), scaleFactor);
 }
-VlqStatus vlq::vlqsAdd_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAdd_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     return vlqsAdd_16s_ISfs(reals(src), reals(srcDst), twice(len), scaleFactor);
 }
 VlqStatus vlq::vlqsAdd_32u(const Vlq32u* src1, const Vlq32u* src2, Vlq32u* dst, Vlq32s len) {
     return unscaled(src1, src2, dst, len, Saturated<Sum>{});
 }
-VlqStatus vlq::vlqsAdd_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAdd_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled<Sum>(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAdd_32s_ISfs(const Vlq32s* src, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<Sum>(srcDst, src, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsAdd_32sc_Sfs(const Vlq32sc* src1, const Vlq32sc* src2, Vlq32sc* dst,
-                                Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAdd_32sc_Sfs(const Vlq32sc* src1, const Vlq32sc* src2, Vlq32sc* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     return vlqsAdd_32s_Sfs(reals(src1), reals(src2), reals(dst), twice(len), scaleFactor);
 }
-VlqStatus vlq::vlqsAdd_32sc_ISfs(const Vlq32sc* src, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAdd_32sc_ISfs(const Vlq32sc* src, Vlq32sc* srcDst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     return vlqsAdd_32s_ISfs(reals(src), reals(srcDst), twice(len), scaleFactor);
 }
-VlqStatus vlq::vlqsAdd_64s_Sfs(const Vlq64s* src1, const Vlq64s* src2, Vlq64s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAdd_64s_Sfs(const Vlq64s* src1, const Vlq64s* src2, Vlq64s* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled<Sum>(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAdd_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len) {
@@ -144,14 +157,16 @@ VlqStatus vlq::vlqsAdd_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len) {
     return vlqsAdd_64f_I(reals(src), reals(srcDst), twice(len));
 }
 
-// ---- differences -------------------------------------------------------------------------------
-VlqStatus vlq::vlqsSub_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+// ---- differences --------------------------------------------------------------------------------
+VlqStatus vlq::vlqsSub_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len,
+                              Vlq32s scaleFactor) {
     return scaled<Difference>(src2, src1, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSub_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<Difference>(srcDst, src, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSub_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSub_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled<Difference>(src2, src1, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSub_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -163,7 +178,8 @@ VlqStatus vlq::vlqsSub_16s(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, 
 VlqStatus vlq::vlqsSub_16s_I(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len) {
     return unscaled(srcDst, src, srcDst, len, Saturated<Difference>{});
 }
-VlqStatus vlq::vlqsSub_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSub_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled<Difference>(src2, src1, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSub_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -172,27 +188,30 @@ VlqStatus vlq::vlqsSub_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, V
 VlqStatus vlq::vlqsSub_16s32f(const Vlq16s* src1, const Vlq16s* src2, Vlq32f* dst, Vlq32s len) {
     return unscaled(src2, src1, dst, len, Widened<Difference>{});
 }
-VlqStatus vlq::vlqsSub_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst,
-                                Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSub_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     return vlqsSub_16s_Sfs(reals(src1), reals(src2), reals(dst), twice(len), scaleFactor);
 }
-VlqStatus vlq::vlqsSub_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSub_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     return vlqsSub_16s_ISfs(reals(src), reals(srcDst), twice(len), scaleFactor);
 }
-VlqStatus vlq::vlqsSub_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSub_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled<Difference>(src2, src1, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSub_32s_ISfs(const Vlq32s* src, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<Difference>(srcDst, src, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSub_32sc_Sfs(const Vlq32sc* src1, const Vlq32sc* src2, Vlq32sc* dst,
-                                Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSub_32sc_Sfs(const Vlq32sc* src1, const Vlq32sc* src2, Vlq32sc* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     return vlqsSub_32s_Sfs(reals(src1), reals(src2), reals(dst), twice(len), scaleFactor);
 }
-VlqStatus vlq::vlqsSub_32sc_ISfs(const Vlq32sc* src, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSub_32sc_ISfs(const Vlq32sc* src, Vlq32sc* srcDst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     if (len < 1) return vlqStsBadSize;
     return vlqsSub_32s_ISfs(reals(src), reals(srcDst), twice(len), scaleFactor);
 }

@@ -1,8 +1,8 @@
 // Sums and differences of a vector and a constant. Constants that leave nothing to compute are seen
 // before a kernel is chosen, and handed over to the body that copies, fills or clears.
 #include "arith/add_constant_kernels.h"
-#include "arith/forms.h"
 #include "frame/loop/bulk.h"
+#include "frame/loop/forms.h"
 
 namespace {
 
@@ -17,17 +17,19 @@ template <class Op, class T, class C>
 void runScaled(const T* src, C val, T* dst, std::ptrdiff_t len, Vlq32s scaleFactor) {
     const Vec<T> constant = bitCast<T>(repeated(val));
     withScale<Op, T>(scaleFactor, [&](auto op) {
-        map<unit<T, C>>(dst, len * unit<T, C>, [op, constant](Vec<T> x) { return op(x, constant); }, src);
+        map<unit<T, C>>(
+            dst, len * unit<T, C>, [op, constant](Vec<T> x) { return op(x, constant); }, src);
     });
 }
 
-// ---- integers ------------------------------------------------------------------------------------
+// ---- integers -----------------------------------------------------------------------------------
 template <class Op, class T>
 VlqStatus scaled(const T* src, T val, T* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (classify<Op, T>(scaleFactor) == Scaling::Vanish) return clear(dst, len);
-    if (Op::leavesAt0 && val == 0 && scaleFactor == 0) return src == dst ? vlqStsOk : copy(src, dst, len);
+    if (Op::leavesAt0 && val == 0 && scaleFactor == 0)
+        return src == dst ? vlqStsOk : copy(src, dst, len);
     if constexpr (std::is_same_v<T, Vlq32s>) {
         if (scaleFactor <= 0) {
             withConstant<Op>(val, scaleFactor, [&](auto op) { map(dst, len, op, src); });
@@ -55,7 +57,8 @@ VlqStatus sum8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scal
     if (scaleFactor < -7 && val != 0) return vlqsSet_8u(255, dst, len);
     return scaled<Sum>(src, val, dst, len, scaleFactor);
 }
-VlqStatus reverseDifference8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus reverseDifference8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len,
+                              Vlq32s scaleFactor) {
     if (!src || !dst) return vlqStsNullPtr;
     if (val == 0) return vlqsZero_8u(dst, len);
     return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
@@ -66,16 +69,18 @@ VlqStatus sum16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s 
     if (scaleFactor < -15 && val != 0) return vlqsSet_16s(-1, reinterpret_cast<Vlq16s*>(dst), len);
     return scaled<Sum>(src, val, dst, len, scaleFactor);
 }
-VlqStatus reverseDifference16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus reverseDifference16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     if (val == 0 || scaleFactor >= 17) return clear(dst, len);
     return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
 }
 
-// ---- floats --------------------------------------------------------------------------------------
+// ---- floats -------------------------------------------------------------------------------------
 template <class Op, Stores stores = Stores::Ordinary, class T, class C>
 void runExact(const T* src, C val, T* dst, std::ptrdiff_t len) {
     const Vec<T> constant = bitCast<T>(repeated(val));
-    map<unit<T, C>, stores>(dst, len * unit<T, C>, [constant](Vec<T> x) { return Op::exact(x, constant); }, src);
+    map<unit<T, C>, stores>(
+        dst, len * unit<T, C>, [constant](Vec<T> x) { return Op::exact(x, constant); }, src);
 }
 
 // A constant of 0, of either sign, leaves the samples as they are, -0.0 included.
@@ -95,7 +100,7 @@ VlqStatus exactComplex(const C* src, C val, C* dst, Vlq32s len) {
     return vlqStsOk;
 }
 
-// ---- 64-bit integers -------------------------------------------------------------------------------
+// ---- 64-bit integers ----------------------------------------------------------------------------
 Rounding roundingOf(VlqRoundMode mode) {
     if (mode == vlqRndZero) return Rounding::ToZero;
     return mode == vlqRndNear ? Rounding::TiesToEven : Rounding::TiesAway;
@@ -106,25 +111,30 @@ VlqStatus sum64(const T* src, T val, T* dst, Vlq32u len, Vlq32s scaleFactor, Vlq
     if (!src || !dst) return vlqStsNullPtr;
     if (len == 0) return vlqStsBadSize;
     if (val == 0 && scaleFactor == 0) {
-        return vlqsCopy_64s(reinterpret_cast<const Vlq64s*>(src), reinterpret_cast<Vlq64s*>(dst), static_cast<Vlq32s>(len));
+        return vlqsCopy_64s(reinterpret_cast<const Vlq64s*>(src), reinterpret_cast<Vlq64s*>(dst),
+                            static_cast<Vlq32s>(len));
     }
     const Vec<T> constant = Vec<T>::broadcast(val);
     withScaleAndRounding<T>(scaleFactor, roundingOf(rndMode), [&](auto op) {
-        map(dst, static_cast<std::ptrdiff_t>(len), [op, constant](Vec<T> x) { return op(x, constant); }, src);
+        map(
+            dst, static_cast<std::ptrdiff_t>(len),
+            [op, constant](Vec<T> x) { return op(x, constant); }, src);
     });
     return vlqStsOk;
 }
 
 }  // namespace
 
-// ---- src + val ------------------------------------------------------------------------------------
-VlqStatus vlq::vlqsAddC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+// ---- src + val ----------------------------------------------------------------------------------
+VlqStatus vlq::vlqsAddC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return sum8u(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAddC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return sum8u(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsAddC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAddC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return sum16u(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAddC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -134,36 +144,40 @@ VlqStatus vlq::vlqsAddC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s 
 VlqStatus vlq::vlqsAddC_16s_I(Vlq16s val, Vlq16s* srcDst, Vlq32s len) {
     return scaled<Sum>(srcDst, val, srcDst, len, 0);
 }
-VlqStatus vlq::vlqsAddC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAddC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return scaled<Sum>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAddC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<Sum>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsAddC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAddC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     return scaledComplex<Sum>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAddC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaledComplex<Sum>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsAddC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAddC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return scaled<Sum>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAddC_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<Sum>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsAddC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsAddC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     return scaledComplex<Sum>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAddC_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaledComplex<Sum>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsAddC_64s_Sfs(const Vlq64s* src, Vlq64s val, Vlq64s* dst,
-                                Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode) {
+VlqStatus vlq::vlqsAddC_64s_Sfs(const Vlq64s* src, Vlq64s val, Vlq64s* dst, Vlq32u len,
+                                Vlq32s scaleFactor, VlqRoundMode rndMode) {
     return sum64(src, val, dst, len, scaleFactor, rndMode);
 }
-VlqStatus vlq::vlqsAddC_64u_Sfs(const Vlq64u* src, Vlq64u val, Vlq64u* dst,
-                                Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode) {
+VlqStatus vlq::vlqsAddC_64u_Sfs(const Vlq64u* src, Vlq64u val, Vlq64u* dst, Vlq32u len,
+                                Vlq32s scaleFactor, VlqRoundMode rndMode) {
     return sum64(src, val, dst, len, scaleFactor, rndMode);
 }
 VlqStatus vlq::vlqsAddC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
@@ -184,7 +198,8 @@ VlqStatus vlq::vlqsAddC_64f(const Vlq64f* src, Vlq64f val, Vlq64f* dst, Vlq32s l
     if (val == 0) {
         // Copied as bytes, whose count wraps from 2^28 elements on.
         const auto bytes = static_cast<Vlq32s>(8 * static_cast<Vlq32u>(len));
-        return vlqsCopy_8u(reinterpret_cast<const Vlq8u*>(src), reinterpret_cast<Vlq8u*>(dst), bytes);
+        return vlqsCopy_8u(reinterpret_cast<const Vlq8u*>(src), reinterpret_cast<Vlq8u*>(dst),
+                           bytes);
     }
     runExact<Sum>(src, val, dst, len);
     return vlqStsOk;
@@ -203,14 +218,16 @@ VlqStatus vlq::vlqsAddC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len) {
     return exactComplex<Sum>(srcDst, val, srcDst, len);
 }
 
-// ---- src - val ------------------------------------------------------------------------------------
-VlqStatus vlq::vlqsSubC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+// ---- src - val ----------------------------------------------------------------------------------
+VlqStatus vlq::vlqsSubC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled<Difference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<Difference>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return scaled<Difference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -220,25 +237,29 @@ VlqStatus vlq::vlqsSubC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s 
 VlqStatus vlq::vlqsSubC_16s_I(Vlq16s val, Vlq16s* srcDst, Vlq32s len) {
     return scaled<Difference>(srcDst, val, srcDst, len, 0);
 }
-VlqStatus vlq::vlqsSubC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return scaled<Difference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<Difference>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     return scaledComplex<Difference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaledComplex<Difference>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubC_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return scaled<Difference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubC_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<Difference>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubC_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     return scaledComplex<Difference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubC_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -269,38 +290,44 @@ VlqStatus vlq::vlqsSubC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len) {
     return exactComplex<Difference>(srcDst, val, srcDst, len);
 }
 
-// ---- val - src ------------------------------------------------------------------------------------
-VlqStatus vlq::vlqsSubCRev_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+// ---- val - src ----------------------------------------------------------------------------------
+VlqStatus vlq::vlqsSubCRev_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len,
+                                  Vlq32s scaleFactor) {
     return reverseDifference8u(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubCRev_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return reverseDifference8u(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubCRev_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubCRev_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len,
+                                   Vlq32s scaleFactor) {
     return reverseDifference16u(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubCRev_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return reverseDifference16u(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubCRev_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubCRev_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len,
+                                   Vlq32s scaleFactor) {
     return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubCRev_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<ReverseDifference>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubCRev_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubCRev_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len,
+                                    Vlq32s scaleFactor) {
     return scaledComplex<ReverseDifference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubCRev_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaledComplex<ReverseDifference>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubCRev_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubCRev_32s_Sfs(const Vlq32s* src, Vlq32s val, Vlq32s* dst, Vlq32s len,
+                                   Vlq32s scaleFactor) {
     return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubCRev_32s_ISfs(Vlq32s val, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled<ReverseDifference>(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsSubCRev_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsSubCRev_32sc_Sfs(const Vlq32sc* src, Vlq32sc val, Vlq32sc* dst, Vlq32s len,
+                                    Vlq32s scaleFactor) {
     return scaledComplex<ReverseDifference>(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsSubCRev_32sc_ISfs(Vlq32sc val, Vlq32sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {

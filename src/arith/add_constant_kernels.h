@@ -1,5 +1,6 @@
-// What a constant operand changes: 32-bit results whose ends of range are known before the loop, and
-// 64-bit sums that keep their sixty-fifth bit under every scale factor and round as they are told.
+// What a constant operand changes: 32-bit results whose ends of range are known before the loop,
+// and 64-bit sums that keep their sixty-fifth bit under every scale factor and round as they are
+// told.
 #pragma once
 
 #include <algorithm>
@@ -15,14 +16,16 @@ namespace vlq::add {
 template <class Op>
 inline Vec<std::int32_t> sampleFor(std::int64_t e, std::int32_t val) {
     const std::int64_t x = Op::inverse(e, val);
-    return Vec<std::int32_t>::broadcast(static_cast<std::int32_t>(std::clamp<std::int64_t>(x, INT32_MIN, INT32_MAX)));
+    return Vec<std::int32_t>::broadcast(
+        static_cast<std::int32_t>(std::clamp<std::int64_t>(x, INT32_MIN, INT32_MAX)));
 }
 
 // Whether the result falls where the sample rises.
 template <class Op>
 inline constexpr bool falls = Op::inverse(0, 0) > Op::inverse(1, 0);
 
-// Scale factor 0. Results leave the range at one end, and the samples for it lie at one end of theirs.
+// Scale factor 0. Results leave the range at one end, and the samples for it lie at one end of
+// theirs.
 template <class Op, bool upperSamples>
 class ConstantSaturated {
 public:
@@ -48,13 +51,16 @@ public:
     using V = Vec<std::int32_t>;
 
     ConstantLeft(std::int32_t val, std::int32_t scaleFactor)
-        : count_(scaleFactor < -31 ? 31 : -scaleFactor), val_(V::broadcast(val)),
-          lowest_(sampleFor<Op>(INT32_MIN >> count_, val)), highest_(sampleFor<Op>(INT32_MAX >> count_, val)) {}
+        : count_(scaleFactor < -31 ? 31 : -scaleFactor),
+          val_(V::broadcast(val)),
+          lowest_(sampleFor<Op>(INT32_MIN >> count_, val)),
+          highest_(sampleFor<Op>(INT32_MAX >> count_, val)) {}
 
     V operator()(V x) const {
         const auto below = falls<Op> ? x > lowest_ : lowest_ > x;
         const auto above = falls<Op> ? highest_ > x : x > highest_;
-        return select(below | above, below ^ V::broadcast(INT32_MAX), shiftLeft(Op::exact(x, val_), count_));
+        return select(below | above, below ^ V::broadcast(INT32_MAX),
+                      shiftLeft(Op::exact(x, val_), count_));
     }
 
 private:
@@ -68,8 +74,10 @@ inline void withConstant(std::int32_t val, std::int32_t scaleFactor, Run run) {
     if (scaleFactor < 0) return run(ConstantLeft<Op>(val, scaleFactor));
     // The largest sample is the first to leave the range when its own result is beyond an end.
     const bool upper = Op::inverse(falls<Op> ? INT32_MIN : INT32_MAX, val) < INT32_MAX;
-    if (upper) run(ConstantSaturated<Op, true>(val));
-    else run(ConstantSaturated<Op, false>(val));
+    if (upper)
+        run(ConstantSaturated<Op, true>(val));
+    else
+        run(ConstantSaturated<Op, false>(val));
 }
 
 // e / 2
@@ -91,11 +99,17 @@ struct ScaleRightLast {
 template <class T, Rounding rounding, class Run>
 inline void withRounding(std::int32_t scaleFactor, Run run) {
     constexpr int bits = 8 * sizeof(T);
-    auto scaled = [&](auto scale) { run([=](Vec<T> a, Vec<T> b) { return scale(Sum::halved(a, b)); }); };
-    if (scaleFactor == 1) scaled(RoundHalf<T, rounding>{});
-    else if (scaleFactor <= bits) scaled(ScaleRight<T, rounding>(scaleFactor));
-    else if (scaleFactor == bits + 1) scaled(ScaleRightLast<T, rounding>{});
-    else run([](Vec<T>, Vec<T>) { return Vec<T>::zero(); });
+    auto scaled = [&](auto scale) {
+        run([=](Vec<T> a, Vec<T> b) { return scale(Sum::halved(a, b)); });
+    };
+    if (scaleFactor == 1)
+        scaled(RoundHalf<T, rounding>{});
+    else if (scaleFactor <= bits)
+        scaled(ScaleRight<T, rounding>(scaleFactor));
+    else if (scaleFactor == bits + 1)
+        scaled(ScaleRightLast<T, rounding>{});
+    else
+        run([](Vec<T>, Vec<T>) { return Vec<T>::zero(); });
 }
 
 // Hands `run` the sum of two vectors, scaled and rounded; no scale factor is given up early.
@@ -103,11 +117,12 @@ template <class T, class Run>
 inline void withScaleAndRounding(std::int32_t scaleFactor, Rounding rounding, Run run) {
     using V = Vec<T>;
     if (scaleFactor == 0) return run([](V a, V b) { return addSat(a, b); });
-    if (scaleFactor < 0) return run([scale = ScaleLeft<T>(scaleFactor)](V a, V b) { return scale(addSat(a, b)); });
+    if (scaleFactor < 0)
+        return run([scale = ScaleLeft<T>(scaleFactor)](V a, V b) { return scale(addSat(a, b)); });
     switch (rounding) {
-    case Rounding::ToZero: return withRounding<T, Rounding::ToZero>(scaleFactor, run);
-    case Rounding::TiesToEven: return withRounding<T, Rounding::TiesToEven>(scaleFactor, run);
-    case Rounding::TiesAway: return withRounding<T, Rounding::TiesAway>(scaleFactor, run);
+        case Rounding::ToZero: return withRounding<T, Rounding::ToZero>(scaleFactor, run);
+        case Rounding::TiesToEven: return withRounding<T, Rounding::TiesToEven>(scaleFactor, run);
+        case Rounding::TiesAway: return withRounding<T, Rounding::TiesAway>(scaleFactor, run);
     }
 }
 

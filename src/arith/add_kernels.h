@@ -4,7 +4,7 @@
 #pragma once
 
 #include "frame/loop/map.h"
-#include "frame/scale.h"
+#include "frame/scale/scale.h"
 #include "frame/simd/convert.h"
 
 namespace vlq::add {
@@ -19,12 +19,18 @@ struct Sum {
     static constexpr int vanishesFrom = std::numeric_limits<T>::digits + 2;
 
     template <class T>
-    static Vec<T> exact(Vec<T> a, Vec<T> b) { return a + b; }
+    static Vec<T> exact(Vec<T> a, Vec<T> b) {
+        return a + b;
+    }
     template <class T>
-    static Vec<T> saturated(Vec<T> a, Vec<T> b) { return addSat(a, b); }
+    static Vec<T> saturated(Vec<T> a, Vec<T> b) {
+        return addSat(a, b);
+    }
     // In the sign bit, that of the exact sum: the operands' own where they agree.
     template <class T>
-    static Vec<T> sign(Vec<T> a, Vec<T> b) { return a ^ ((a ^ b) & (a ^ (a + b))); }
+    static Vec<T> sign(Vec<T> a, Vec<T> b) {
+        return a ^ ((a ^ b) & (a ^ (a + b)));
+    }
     // The sum's lowest bit marks a tie, and the even neighbour is the upper one less its own.
     template <class T>
     static Vec<T> half(Vec<T> a, Vec<T> b) {
@@ -46,24 +52,34 @@ struct Difference {
     static constexpr bool leavesAt0 = true;
     static constexpr std::int64_t inverse(std::int64_t e, std::int64_t b) { return e + b; }
     template <class T>
-    static constexpr int vanishesFrom = std::numeric_limits<T>::digits + (std::is_signed_v<T> ? 2 : 1);
+    static constexpr int vanishesFrom = std::numeric_limits<T>::digits +
+                                        (std::is_signed_v<T> ? 2 : 1);
 
     template <class T>
-    static Vec<T> exact(Vec<T> a, Vec<T> b) { return a - b; }
+    static Vec<T> exact(Vec<T> a, Vec<T> b) {
+        return a - b;
+    }
     template <class T>
-    static Vec<T> saturated(Vec<T> a, Vec<T> b) { return subSat(a, b); }
+    static Vec<T> saturated(Vec<T> a, Vec<T> b) {
+        return subSat(a, b);
+    }
     template <class T>
-    static Vec<T> sign(Vec<T> a, Vec<T> b) { return a ^ (~(a ^ b) & (a ^ (a - b))); }
+    static Vec<T> sign(Vec<T> a, Vec<T> b) {
+        return a ^ (~(a ^ b) & (a ^ (a - b)));
+    }
     template <class T>
     static Vec<T> half(Vec<T> a, Vec<T> b) {
         if constexpr (std::is_unsigned_v<T>) {
             return Sum::half(subSat(a, b), Vec<T>::zero());
         } else {
-            // A tie goes up from an odd half, except from the largest, which has no neighbour above.
+            // A tie goes up from an odd half, except from the largest, which has no neighbour
+            // above.
             const auto [floor, odd] = halved(a, b);
             const auto up = floor & odd & Vec<T>::broadcast(1);
-            if constexpr (sizeof(T) == 2) return addSat(floor, up);
-            else return floor + (up & ~(floor == Vec<T>::broadcast(std::numeric_limits<T>::max())));
+            if constexpr (sizeof(T) == 2)
+                return addSat(floor, up);
+            else
+                return floor + (up & ~(floor == Vec<T>::broadcast(std::numeric_limits<T>::max())));
         }
     }
     // Half of all bits that differ, less those that only b has: they counted up and go down.
@@ -87,27 +103,41 @@ struct ReverseDifference {
     static constexpr int vanishesFrom = Difference::vanishesFrom<T>;
 
     template <class T>
-    static Vec<T> exact(Vec<T> a, Vec<T> b) { return Difference::exact(b, a); }
+    static Vec<T> exact(Vec<T> a, Vec<T> b) {
+        return Difference::exact(b, a);
+    }
     template <class T>
-    static Vec<T> saturated(Vec<T> a, Vec<T> b) { return Difference::saturated(b, a); }
+    static Vec<T> saturated(Vec<T> a, Vec<T> b) {
+        return Difference::saturated(b, a);
+    }
     template <class T>
-    static Vec<T> sign(Vec<T> a, Vec<T> b) { return Difference::sign(b, a); }
+    static Vec<T> sign(Vec<T> a, Vec<T> b) {
+        return Difference::sign(b, a);
+    }
     template <class T>
-    static Vec<T> half(Vec<T> a, Vec<T> b) { return Difference::half(b, a); }
+    static Vec<T> half(Vec<T> a, Vec<T> b) {
+        return Difference::half(b, a);
+    }
     template <class T>
-    static Halved<T> halved(Vec<T> a, Vec<T> b) { return Difference::halved(b, a); }
+    static Halved<T> halved(Vec<T> a, Vec<T> b) {
+        return Difference::halved(b, a);
+    }
 };
 
 // ---- without a scale factor ---------------------------------------------------------------------
 template <class Op>
 struct Exact {
     template <class V>
-    V operator()(V a, V b) const { return Op::exact(a, b); }
+    V operator()(V a, V b) const {
+        return Op::exact(a, b);
+    }
 };
 template <class Op>
 struct Saturated {
     template <class V>
-    V operator()(V a, V b) const { return Op::saturated(a, b); }
+    V operator()(V a, V b) const {
+        return Op::saturated(a, b);
+    }
 };
 // Bytes to words, and words to floats by way of integers: wide enough for every result.
 template <class Op>
@@ -118,7 +148,8 @@ struct Widened {
     }
     Block<float, 2> operator()(Block<std::int16_t, 1> a, Block<std::int16_t, 1> b) const {
         const auto x = widen(a.part[0]), y = widen(b.part[0]);
-        return {{toFloat(Op::exact(x.part[0], y.part[0])), toFloat(Op::exact(x.part[1], y.part[1]))}};
+        return {
+            {toFloat(Op::exact(x.part[0], y.part[0])), toFloat(Op::exact(x.part[1], y.part[1]))}};
     }
 };
 // Words onto integers.
@@ -150,22 +181,22 @@ template <class Op, class T, class Run>
 inline void withScale(std::int32_t scaleFactor, Run run) {
     using V = Vec<T>;
     switch (classify<Op, T>(scaleFactor)) {
-    case Scaling::None:
-        return run([](V a, V b) { return Op::saturated(a, b); });
-    case Scaling::Left:
-        return run([scale = ScaleLeft<T>(scaleFactor)](V a, V b) {
-            if constexpr (SignedInteger<T> && WideInteger<T>) return scale(Op::exact(a, b), Op::sign(a, b));
-            else return scale(Op::saturated(a, b));
-        });
-    case Scaling::Half:
-        return run([](V a, V b) { return Op::half(a, b); });
-    case Scaling::Right:
-        if constexpr (std::is_unsigned_v<T> && std::is_same_v<Op, Sum>) {
-            if (scaleFactor > std::numeric_limits<T>::digits) return run(CarryOfSum<T>{});
-        }
-        return run([scale = ScaleRight<T>(scaleFactor)](V a, V b) { return scale(Op::halved(a, b)); });
-    case Scaling::Vanish:
-        return;
+        case Scaling::None: return run([](V a, V b) { return Op::saturated(a, b); });
+        case Scaling::Left:
+            return run([scale = ScaleLeft<T>(scaleFactor)](V a, V b) {
+                if constexpr (SignedInteger<T> && WideInteger<T>)
+                    return scale(Op::exact(a, b), Op::sign(a, b));
+                else
+                    return scale(Op::saturated(a, b));
+            });
+        case Scaling::Half: return run([](V a, V b) { return Op::half(a, b); });
+        case Scaling::Right:
+            if constexpr (std::is_unsigned_v<T> && std::is_same_v<Op, Sum>) {
+                if (scaleFactor > std::numeric_limits<T>::digits) return run(CarryOfSum<T>{});
+            }
+            return run(
+                [scale = ScaleRight<T>(scaleFactor)](V a, V b) { return scale(Op::halved(a, b)); });
+        case Scaling::Vanish: return;
     }
 }
 

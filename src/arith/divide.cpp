@@ -1,7 +1,7 @@
 // Quotients of integers. The second vector is divided by the first.
-#include "arith/forms.h"
 #include "arith/divide_kernels.h"
 #include "arith/divide_wide_kernels.h"
+#include "frame/loop/forms.h"
 
 #include <algorithm>
 
@@ -24,18 +24,21 @@ template <class Op, class A, class B, class D>
 VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s len) {
     auto found0 = Vec<vlq::BitsOf<A>>::zero();
     const auto is0 = [](Vec<A> v) { return v == Vec<A>::zero(); };
-    vlq::mapBlocks(dst, len, vlq::Watching<Op, decltype(is0), decltype(found0)>(op, is0, &found0), divisors, numerators);
+    vlq::mapBlocks(dst, len, vlq::Watching<Op, decltype(is0), decltype(found0)>(op, is0, &found0),
+                   divisors, numerators);
     return vlq::any(found0) ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
-// 2^-scaleFactor in the range that matters. Below -30 any quotient but 0 leaves the range of its type,
-// which takes one bit more than -31 gives to 1 / 65535.
+// 2^-scaleFactor in the range that matters. Below -30 any quotient but 0 leaves the range of its
+// type, which takes one bit more than -31 gives to 1 / 65535.
 float quotientScale(Vlq32s scaleFactor) {
-    return powerWithin<float>(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor, kFloatLimit);
+    return powerWithin<float>(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor,
+                              kFloatLimit);
 }
 
 template <class T, class Round>
-VlqStatus divided(Round round, const T* divisors, const T* numerators, T* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus divided(Round round, const T* divisors, const T* numerators, T* dst, Vlq32s len,
+                  Vlq32s scaleFactor) {
     const StandardFloatMode hold;
     const auto factor = Vec<float>::broadcast(quotientScale(scaleFactor));
     return divided(Quotient<T, Round>{factor, round}, divisors, numerators, dst, len);
@@ -49,10 +52,12 @@ VlqStatus scaled(const T* src1, const T* src2, T* dst, Vlq32s len, Vlq32s scaleF
 }
 
 template <class T>
-VlqStatus roundedByMode(const T* src1, const T* src2, T* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+VlqStatus roundedByMode(const T* src1, const T* src2, T* dst, Vlq32s len, VlqRoundMode rndMode,
+                        Vlq32s scaleFactor) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    if (rndMode != vlqRndZero && rndMode != vlqRndNear && rndMode != vlqRndFinancial) return vlqStsBadRoundMode;
+    if (rndMode != vlqRndZero && rndMode != vlqRndNear && rndMode != vlqRndFinancial)
+        return vlqStsBadRoundMode;
     if (scaleFactor >= 17) {
         // From here on all results are 0, those over zero too, which still warn.
         const VlqStatus status = anyZero(src1, len) ? vlqStsWarnDivByZero : vlqStsOk;
@@ -60,26 +65,34 @@ VlqStatus roundedByMode(const T* src1, const T* src2, T* dst, Vlq32s len, VlqRou
         return status;
     }
     switch (rndMode) {
-    case vlqRndZero: return divided(TowardsZero{}, src1, src2, dst, len, scaleFactor);
-    case vlqRndNear: return divided(Nearest{}, src1, src2, dst, len, scaleFactor);
-    default: return divided(NearestAway{}, src1, src2, dst, len, scaleFactor);
+        case vlqRndZero: return divided(TowardsZero{}, src1, src2, dst, len, scaleFactor);
+        case vlqRndNear: return divided(Nearest{}, src1, src2, dst, len, scaleFactor);
+        default: return divided(NearestAway{}, src1, src2, dst, len, scaleFactor);
     }
 }
 
-VlqStatus scaled32s(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus scaled32s(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len,
+                    Vlq32s scaleFactor) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    return divided(Quotient32s{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))}, src1, src2, dst, len);
+    return divided(
+        Quotient32s{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))}, src1,
+        src2, dst, len);
 }
 
-VlqStatus scaled16sc(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus scaled16sc(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len,
+                     Vlq32s scaleFactor) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    const ComplexQuotient16sc op{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))};
-    return divided([op](const auto& d, const auto& n) { return vlq::Block<Vlq32s, 1>{{op(d.part[0], n.part[0])}}; },
-                   elements(src1), elements(src2), elements(dst), len);
+    const ComplexQuotient16sc op{
+        Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))};
+    return divided(
+        [op](const auto& d, const auto& n) {
+            return vlq::Block<Vlq32s, 1>{{op(d.part[0], n.part[0])}};
+        },
+        elements(src1), elements(src2), elements(dst), len);
 }
 
 template <class T>
@@ -93,14 +106,18 @@ VlqStatus scaledByConstant(const T* src, T val, T* dst, Vlq32s len, Vlq32s scale
     return vlqStsOk;
 }
 
-VlqStatus scaledByConstant16sc(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus scaledByConstant16sc(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (val.re == 0 && val.im == 0) return vlqStsZeroDivisor;
     const StandardFloatMode hold;
     const double re = val.re, im = val.im;
     const double factor = powerWithin<double>(scaleFactor, kDoubleLimit) / (re * re + im * im);
-    vlq::map(elements(dst), len, TimesReciprocal16sc{Vec<double>::broadcast(re * factor), Vec<double>::broadcast(-im * factor)}, elements(src));
+    vlq::map(elements(dst), len,
+             TimesReciprocal16sc{Vec<double>::broadcast(re * factor),
+                                 Vec<double>::broadcast(-im * factor)},
+             elements(src));
     return vlqStsOk;
 }
 
@@ -115,90 +132,110 @@ VlqStatus constantBy16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len) 
     const StandardFloatMode hold;
     const Quotient<Vlq16u, Nearest> op{Vec<float>::broadcast(1.0f), {}};
     const vlq::Block<Vlq16u, 1> numerators{{Vec<Vlq16u>::broadcast(val)}};
-    vlq::mapBlocks(dst, len, [op, numerators](const auto& divisors) { return op(divisors, numerators); }, src);
+    vlq::mapBlocks(
+        dst, len, [op, numerators](const auto& divisors) { return op(divisors, numerators); }, src);
     return status;
 }
 
 }  // namespace
 
-// ---- two vectors -------------------------------------------------------------------------------------
-VlqStatus vlq::vlqsDiv_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+// ---- two vectors --------------------------------------------------------------------------------
+VlqStatus vlq::vlqsDiv_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len,
+                              Vlq32s scaleFactor) {
     return scaled(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsDiv_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled(src, srcDst, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsDiv_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled(src, srcDst, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsDiv_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled(src, srcDst, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaled32s(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsDiv_32s_ISfs(const Vlq32s* src, Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaled32s(src, srcDst, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_32s16s_Sfs(const Vlq16s* src1, const Vlq32s* src2, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_32s16s_Sfs(const Vlq16s* src1, const Vlq32s* src2, Vlq16s* dst, Vlq32s len,
+                                  Vlq32s scaleFactor) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    return divided(Quotient32s{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))}, src1, src2, dst, len);
+    return divided(
+        Quotient32s{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))}, src1,
+        src2, dst, len);
 }
-VlqStatus vlq::vlqsDiv_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return scaled16sc(src1, src2, dst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     return scaled16sc(src, srcDst, srcDst, len, scaleFactor);
 }
 
-// ---- two vectors, rounded by mode ------------------------------------------------------------------------
-VlqStatus vlq::vlqsDiv_Round_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+// ---- two vectors, rounded by mode ---------------------------------------------------------------
+VlqStatus vlq::vlqsDiv_Round_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len,
+                                    VlqRoundMode rndMode, Vlq32s scaleFactor) {
     return roundedByMode(src1, src2, dst, len, rndMode, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_Round_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_Round_8u_ISfs(const Vlq8u* src, Vlq8u* srcDst, Vlq32s len,
+                                     VlqRoundMode rndMode, Vlq32s scaleFactor) {
     return roundedByMode(src, srcDst, srcDst, len, rndMode, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_Round_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_Round_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* dst,
+                                     Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
     return roundedByMode(src1, src2, dst, len, rndMode, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_Round_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_Round_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len,
+                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
     return roundedByMode(src, srcDst, srcDst, len, rndMode, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_Round_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_Round_16u_Sfs(const Vlq16u* src1, const Vlq16u* src2, Vlq16u* dst,
+                                     Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
     return roundedByMode(src1, src2, dst, len, rndMode, scaleFactor);
 }
-VlqStatus vlq::vlqsDiv_Round_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len, VlqRoundMode rndMode, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDiv_Round_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len,
+                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
     return roundedByMode(src, srcDst, srcDst, len, rndMode, scaleFactor);
 }
 
-// ---- a constant ----------------------------------------------------------------------------------------
-VlqStatus vlq::vlqsDivC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
+// ---- a constant ---------------------------------------------------------------------------------
+VlqStatus vlq::vlqsDivC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len,
+                               Vlq32s scaleFactor) {
     return scaledByConstant(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsDivC_8u_ISfs(Vlq8u val, Vlq8u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaledByConstant(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsDivC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDivC_16s_Sfs(const Vlq16s* src, Vlq16s val, Vlq16s* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return scaledByConstant(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsDivC_16s_ISfs(Vlq16s val, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaledByConstant(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsDivC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDivC_16u_Sfs(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len,
+                                Vlq32s scaleFactor) {
     return scaledByConstant(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsDivC_16u_ISfs(Vlq16u val, Vlq16u* srcDst, Vlq32s len, Vlq32s scaleFactor) {
     return scaledByConstant(srcDst, val, srcDst, len, scaleFactor);
 }
-VlqStatus vlq::vlqsDivC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsDivC_16sc_Sfs(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vlq32s len,
+                                 Vlq32s scaleFactor) {
     return scaledByConstant16sc(src, val, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsDivC_16sc_ISfs(Vlq16sc val, Vlq16sc* srcDst, Vlq32s len, Vlq32s scaleFactor) {
@@ -208,7 +245,8 @@ VlqStatus vlq::vlqsDivC_64s_ISfs(Vlq64s val, Vlq64s* srcDst, Vlq32s len, Vlq32s 
     if (!srcDst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (val == 0) return vlqStsZeroDivisor;
-    const bool vanishes = withQuotient(val, scaleFactor, [&](auto op) { mapScalars(srcDst, len, op, srcDst); });
+    const bool vanishes =
+        withQuotient(val, scaleFactor, [&](auto op) { mapScalars(srcDst, len, op, srcDst); });
     return vanishes ? vlqsZero_64s(srcDst, len) : vlqStsOk;
 }
 VlqStatus vlq::vlqsDivCRev_16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len) {

@@ -18,7 +18,9 @@ VlqStatus divided(const T* divisors, const T* numerators, T* dst, Vlq32s len, Op
 VlqStatus constantByVector(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    const auto quotient = [n = Vec<Vlq32f>::broadcast(val)](Vec<Vlq32f> d) { return RealQuotient{}(d, n); };
+    const auto quotient = [n = Vec<Vlq32f>::broadcast(val)](Vec<Vlq32f> d) {
+        return RealQuotient{}(d, n);
+    };
     return mapQuotients(dst, len, quotient, src) ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
@@ -31,10 +33,12 @@ VlqStatus byConstant(const T* src, T val, T* dst, Vlq32s len) {
     const auto constant = Vec<T>::broadcast(val);
     if (std::abs(val) >= smallest && std::abs(val) <= 1 / smallest) {
         const auto reciprocal = Vec<T>::broadcast(1 / val);
-        vlq::map(dst, len, [reciprocal](Vec<T> n) { return n * reciprocal; }, src);
+        vlq::map(
+            dst, len, [reciprocal](Vec<T> n) { return n * reciprocal; }, src);
     } else {
         // No reciprocal of full precision, or none at all.
-        vlq::map(dst, len, [constant](Vec<T> n) { return n / constant; }, src);
+        vlq::map(
+            dst, len, [constant](Vec<T> n) { return n / constant; }, src);
     }
     return vlqStsOk;
 }
@@ -43,7 +47,8 @@ VlqStatus byComplexConstant(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (val.re == 0 && val.im == 0) return vlqStsZeroDivisor;
-    const double re = static_cast<double>(val.re), im = static_cast<double>(val.im), size = re * re + im * im;
+    const double re = static_cast<double>(val.re), im = static_cast<double>(val.im),
+                 size = re * re + im * im;
     mapValues(dst, len, TimesReciprocal32fc{vlq::broadcastPair(re / size, -im / size)}, src);
     return vlqStsOk;
 }
@@ -55,18 +60,21 @@ VlqStatus byComplexConstant(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32
     const double larger = std::max(std::abs(val.re), std::abs(val.im));
     if (larger >= 0x1p-500 && larger <= 0x1p500) {
         const double size = (val.re * val.re + val.im * val.im) * 4;
-        mapValues(dst, len, TimesReciprocal64fc{vlq::broadcastPair(val.re / size, -val.im / size)}, src);
+        mapValues(dst, len, TimesReciprocal64fc{vlq::broadcastPair(val.re / size, -val.im / size)},
+                  src);
     } else {
         // The square leaves the range, or the reciprocal does.
         const auto constant = vlq::broadcastPair(val.re, val.im);
-        mapValues(dst, len, [constant](Vec<double> n) { return ComplexQuotient64fc{}(constant, n); }, src);
+        mapValues(
+            dst, len, [constant](Vec<double> n) { return ComplexQuotient64fc{}(constant, n); },
+            src);
     }
     return vlqStsOk;
 }
 
 }  // namespace
 
-// ---- two vectors -------------------------------------------------------------------------------------
+// ---- two vectors --------------------------------------------------------------------------------
 VlqStatus vlq::vlqsDiv_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len) {
     return divided(src1, src2, dst, len, RealQuotient{});
 }
@@ -92,7 +100,7 @@ VlqStatus vlq::vlqsDiv_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len) {
     return divided(src, srcDst, srcDst, len, ComplexQuotient64fc{});
 }
 
-// ---- a constant ----------------------------------------------------------------------------------------
+// ---- a constant ---------------------------------------------------------------------------------
 VlqStatus vlq::vlqsDivC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
     return byConstant(src, val, dst, len);
 }

@@ -15,7 +15,9 @@ namespace vlq::divide {
 
 struct RealQuotient {
     template <class V>
-    V operator()(V divisor, V numerator) const { return numerator / divisor; }
+    V operator()(V divisor, V numerator) const {
+        return numerator / divisor;
+    }
 };
 
 // x conj(y) and |y|^2 of interleaved values, the latter in both lanes of each.
@@ -58,7 +60,8 @@ struct ComplexQuotient64fc {
 
     V operator()(V divisors, V numerators) const {
         const Bits e = exponents(divisors), f = exponents(numerators);
-        const V y = divisors * powerOfTwo(Bits::broadcast(kInfinity) - e), x = numerators * powerOfTwo(Bits::broadcast(kInfinity) - f);
+        const V y = divisors * powerOfTwo(Bits::broadcast(kInfinity) - e),
+                x = numerators * powerOfTwo(Bits::broadcast(kInfinity) - f);
         const V scaled = overNorm(timesConjugate(x, y), norm(y), x, divisors);
         // 0 over 0 and the like have no magnitude, and a power of two changes nothing of theirs.
         using Words = Vec<std::int32_t>;
@@ -66,8 +69,10 @@ struct ComplexQuotient64fc {
         Words distance = bitCast<std::int32_t>(f) - bitCast<std::int32_t>(e);
         distance = select(distance > limit, limit, distance);
         distance = select(distance < -limit, -limit, distance);
-        const Words half = shiftRight(distance, 1), bias = bitCast<std::int32_t>(Bits::broadcast(1023));
-        return scaled * powerOfTwo(bitCast<std::uint64_t>(half + bias)) * powerOfTwo(bitCast<std::uint64_t>(distance - half + bias));
+        const Words half = shiftRight(distance, 1),
+                    bias = bitCast<std::int32_t>(Bits::broadcast(1023));
+        return scaled * powerOfTwo(bitCast<std::uint64_t>(half + bias)) *
+               powerOfTwo(bitCast<std::uint64_t>(distance - half + bias));
     }
 
 private:
@@ -76,12 +81,13 @@ private:
     static Bits exponents(V v) {
         const V smallest = V::broadcast(std::numeric_limits<double>::min());
         const V size = absolute(v);
-        return shiftRight(bitCast<std::uint64_t>(maximum(maximum(size, swapParts(size)), smallest)), 52);
+        return shiftRight(bitCast<std::uint64_t>(maximum(maximum(size, swapParts(size)), smallest)),
+                          52);
     }
     static V powerOfTwo(Bits field) { return bitCast<double>(shiftLeft(field, 52)); }
 };
 
-// ---- complex reciprocals -----------------------------------------------------------------------------------
+// ---- complex reciprocals ------------------------------------------------------------------------
 // A product with the reciprocal of a constant, in double and rounded once.
 struct TimesReciprocal32fc {
     Vec<double> reciprocal;
@@ -100,29 +106,36 @@ private:
 struct TimesReciprocal64fc {
     Vec<double> quarter;
     Vec<double> operator()(Vec<double> x) const {
-        return subtractAdd(realParts(quarter) * x, imaginaryParts(quarter) * swapParts(x)) * Vec<double>::broadcast(4);
+        return subtractAdd(realParts(quarter) * x, imaginaryParts(quarter) * swapParts(x)) *
+               Vec<double>::broadcast(4);
     }
 };
 
-// ---- loops over complex values -----------------------------------------------------------------------------
+// ---- loops over complex values ------------------------------------------------------------------
 // 32fc moves as one 64-bit element, 64fc as a group of two doubles: a loop never splits a value.
 template <class Op, class... S>
 inline void mapValues(Vlq32fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
-    map(reinterpret_cast<std::int64_t*>(dst), len, [op](auto... v) { return bitCast<std::int64_t>(op(bitCast<float>(v)...)); },
+    map(
+        reinterpret_cast<std::int64_t*>(dst), len,
+        [op](auto... v) { return bitCast<std::int64_t>(op(bitCast<float>(v)...)); },
         reinterpret_cast<const std::int64_t*>(src)...);
 }
 template <class Op, class... S>
 inline void mapValues(Vlq64fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
     mapBlocks<2>(
-        reinterpret_cast<double*>(dst), 2 * len, [op](const auto&... v) { return Block<double, 1>{{op(v.part[0]...)}}; },
+        reinterpret_cast<double*>(dst), 2 * len,
+        [op](const auto&... v) { return Block<double, 1>{{op(v.part[0]...)}}; },
         reinterpret_cast<const double*>(src)...);
 }
 
-// ---- zero divisors ---------------------------------------------------------------------------------------------
-// The lanes of a vector, as the loop sees it, that hold a zero divisor; both lanes of a complex one.
+// ---- zero divisors ------------------------------------------------------------------------------
+// The lanes of a vector, as the loop sees it, that hold a zero divisor; both lanes of a complex
+// one.
 struct IsZero {
     template <class T>
-    auto operator()(Vec<T> v) const { return v == Vec<T>::zero(); }
+    auto operator()(Vec<T> v) const {
+        return v == Vec<T>::zero();
+    }
 };
 struct IsZero32fc {
     Vec<std::int64_t> operator()(Vec<std::int64_t> v) const {
@@ -138,27 +151,35 @@ struct IsZero64fc {
 };
 
 template <int group, class Element, class Condition, class Op, class... S>
-inline bool mapWatched(Element* dst, std::ptrdiff_t len, Condition condition, Op op, const S*... src) {
+inline bool mapWatched(Element* dst, std::ptrdiff_t len, Condition condition, Op op,
+                       const S*... src) {
     auto found = Vec<BitsOf<Element>>::zero();
-    mapBlocks<group>(dst, len, Watching<Op, Condition, decltype(found)>{op, condition, &found}, src...);
+    mapBlocks<group>(dst, len, Watching<Op, Condition, decltype(found)>{op, condition, &found},
+                     src...);
     return any(found);
 }
 
 // dst[i] = op(divisor[i], ...): is any divisor 0?
 template <class Op, class... S>
 inline bool mapQuotients(Vlq32fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
-    const auto elements = [op](const auto&... v) { return Block<std::int64_t, 1>{{bitCast<std::int64_t>(op(bitCast<float>(v.part[0])...))}}; };
-    return mapWatched<1>(reinterpret_cast<std::int64_t*>(dst), len, IsZero32fc{}, elements, reinterpret_cast<const std::int64_t*>(src)...);
+    const auto elements = [op](const auto&... v) {
+        return Block<std::int64_t, 1>{{bitCast<std::int64_t>(op(bitCast<float>(v.part[0])...))}};
+    };
+    return mapWatched<1>(reinterpret_cast<std::int64_t*>(dst), len, IsZero32fc{}, elements,
+                         reinterpret_cast<const std::int64_t*>(src)...);
 }
 template <class Op, class... S>
 inline bool mapQuotients(Vlq64fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
     const auto parts = [op](const auto&... v) { return Block<double, 1>{{op(v.part[0]...)}}; };
-    return mapWatched<2>(reinterpret_cast<double*>(dst), 2 * len, IsZero64fc{}, parts, reinterpret_cast<const double*>(src)...);
+    return mapWatched<2>(reinterpret_cast<double*>(dst), 2 * len, IsZero64fc{}, parts,
+                         reinterpret_cast<const double*>(src)...);
 }
 template <class T, class Op, class... S>
-    requires std::is_floating_point_v<T>
+requires std::is_floating_point_v<T>
 inline bool mapQuotients(T* dst, std::ptrdiff_t len, Op op, const S*... src) {
-    return mapWatched<1>(dst, len, IsZero{}, [op](const auto&... v) { return Block<T, 1>{{op(v.part[0]...)}}; }, src...);
+    return mapWatched<1>(
+        dst, len, IsZero{}, [op](const auto&... v) { return Block<T, 1>{{op(v.part[0]...)}}; },
+        src...);
 }
 
 }  // namespace vlq::divide

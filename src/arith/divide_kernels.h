@@ -7,7 +7,7 @@
 
 #include "frame/loop/any.h"
 #include "frame/loop/map.h"
-#include "frame/scale.h"
+#include "frame/scale/scale.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
 #include "vlqs/types.h"
@@ -19,35 +19,46 @@ template <class T>
 inline T powerWithin(std::int32_t scaleFactor, std::int32_t limit) {
     using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
     constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
-    const std::int32_t exponent = scaleFactor > limit ? -limit : scaleFactor < -limit ? limit : -scaleFactor;
-    return std::bit_cast<T>(static_cast<Bits>(exponent + bias) << (std::numeric_limits<T>::digits - 1));
+    const std::int32_t exponent = scaleFactor > limit    ? -limit
+                                  : scaleFactor < -limit ? limit
+                                                         : -scaleFactor;
+    return std::bit_cast<T>(static_cast<Bits>(exponent + bias)
+                            << (std::numeric_limits<T>::digits - 1));
 }
 inline constexpr std::int32_t kFloatLimit = 60;    // quotients of up to 17 bits either way
 inline constexpr std::int32_t kDoubleLimit = 120;  // of up to 33 bits
 
-// ---- rounding ----------------------------------------------------------------------------------------
+// ---- rounding -----------------------------------------------------------------------------------
 struct Nearest {
     template <class V>
-    Vec<std::int32_t> operator()(V v) const { return toNearest(v); }
+    Vec<std::int32_t> operator()(V v) const {
+        return toNearest(v);
+    }
 };
 struct TowardsZero {
     template <class V>
-    Vec<std::int32_t> operator()(V v) const { return toZero(v); }
+    Vec<std::int32_t> operator()(V v) const {
+        return toZero(v);
+    }
 };
 struct NearestAway {
     template <class V>
-    Vec<std::int32_t> operator()(V v) const { return toNearestAway(v); }
+    Vec<std::int32_t> operator()(V v) const {
+        return toNearestAway(v);
+    }
 };
 
-// ---- in and out ----------------------------------------------------------------------------------------
+// ---- in and out ---------------------------------------------------------------------------------
 // 8 and 16-bit elements as floats.
 template <class T>
 inline auto floats(Vec<T> v) {
     constexpr int parts = 4 / static_cast<int>(sizeof(T));
     Block<float, parts> result;
     const auto wide = [v] {
-        if constexpr (sizeof(T) == 1) return widenTwice(v);
-        else return widen(v);
+        if constexpr (sizeof(T) == 1)
+            return widenTwice(v);
+        else
+            return widen(v);
     }();
     for (int i = 0; i < parts; ++i) result.part[i] = toFloat(bitCast<std::int32_t>(wide.part[i]));
     return result;
@@ -77,7 +88,7 @@ inline Vec<T> quotient(Vec<T> numerator, Vec<T> divisor, Vec<T> factor) {
     return (numerator / divisor * factor) & Vec<T>::fromBits(isNot0.raw);
 }
 
-// ---- 8 and 16 bits -----------------------------------------------------------------------------------
+// ---- 8 and 16 bits ------------------------------------------------------------------------------
 template <class T, class Round>
 struct Quotient {
     Vec<float> factor;
@@ -102,17 +113,20 @@ struct TimesReciprocal {
     }
 };
 
-// ---- 32 bits --------------------------------------------------------------------------------------------
+// ---- 32 bits ------------------------------------------------------------------------------------
 struct Quotient32s {
     Vec<double> factor;
-    Block<std::int32_t, 1> operator()(const Block<std::int32_t, 1>& divisors, const Block<std::int32_t, 1>& numerators) const {
+    Block<std::int32_t, 1> operator()(const Block<std::int32_t, 1>& divisors,
+                                      const Block<std::int32_t, 1>& numerators) const {
         return {{storedDouble<std::int32_t>(quotients(divisors.part[0], numerators.part[0]))}};
     }
     // 32-bit numerators, 16-bit divisors and results.
-    Block<std::int16_t, 1> operator()(const Block<std::int16_t, 1>& divisors, const Block<std::int32_t, 2>& numerators) const {
+    Block<std::int16_t, 1> operator()(const Block<std::int16_t, 1>& divisors,
+                                      const Block<std::int32_t, 2>& numerators) const {
         const auto d = widen(divisors.part[0]);
-        return {{narrowSat<std::int16_t>(Block<std::int32_t, 2>{{storedDouble<std::int16_t>(quotients(d.part[0], numerators.part[0])),
-                                                                 storedDouble<std::int16_t>(quotients(d.part[1], numerators.part[1]))}})}};
+        return {{narrowSat<std::int16_t>(Block<std::int32_t, 2>{
+            {storedDouble<std::int16_t>(quotients(d.part[0], numerators.part[0])),
+             storedDouble<std::int16_t>(quotients(d.part[1], numerators.part[1]))}})}};
     }
 
 private:
@@ -122,7 +136,7 @@ private:
     }
 };
 
-// ---- complex values of 16-bit parts --------------------------------------------------------------------------
+// ---- complex values of 16-bit parts -------------------------------------------------------------
 struct Parts {
     Block<double, 2> re, im;
 };
@@ -131,15 +145,16 @@ inline Parts parts(Vec<std::int32_t> values) {
 }
 inline Vec<std::int32_t> joined(const Parts& v) {
     const auto within = [](Vec<double> x) {
-        return maximum(belowTop<std::int16_t>(x), Vec<double>::broadcast(std::numeric_limits<std::int16_t>::min()));
+        return maximum(belowTop<std::int16_t>(x),
+                       Vec<double>::broadcast(std::numeric_limits<std::int16_t>::min()));
     };
     const auto re = toNearest(Block<double, 2>{{within(v.re.part[0]), within(v.re.part[1])}});
     const auto im = toNearest(Block<double, 2>{{within(v.im.part[0]), within(v.im.part[1])}});
     return shiftLeft(im, 16) | (re & Vec<std::int32_t>::broadcast(0xFFFF));
 }
 
-// (c + di) / (a + bi) = ((ca + db) + (da - cb)i) / (a^2 + b^2), all of it exact but for the quotient;
-// over 0 the numerator's parts by themselves.
+// (c + di) / (a + bi) = ((ca + db) + (da - cb)i) / (a^2 + b^2), all of it exact but for the
+// quotient; over 0 the numerator's parts by themselves.
 struct ComplexQuotient16sc {
     Vec<double> factor;
     Vec<std::int32_t> operator()(Vec<std::int32_t> divisors, Vec<std::int32_t> numerators) const {

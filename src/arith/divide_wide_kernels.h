@@ -1,5 +1,6 @@
-// Quotients of 64-bit integers by a constant, exactly: round(n * 2^-scaleFactor / divisor), from a tie
-// to the even integer, saturated. Rounding to even does not look at the sign, so magnitudes are divided.
+// Quotients of 64-bit integers by a constant, exactly: round(n * 2^-scaleFactor / divisor), from a
+// tie to the even integer, saturated. Rounding to even does not look at the sign, so magnitudes are
+// divided.
 #pragma once
 
 #include <bit>
@@ -19,28 +20,37 @@ struct Magnitude {
         size = (bits ^ sign) - sign;
         below0 = sign ^ flip;
     }
-    Vlq64s withSign(std::uint64_t result) const { return static_cast<Vlq64s>((result ^ below0) - below0); }
+    Vlq64s withSign(std::uint64_t result) const {
+        return static_cast<Vlq64s>((result ^ below0) - below0);
+    }
     // The largest magnitude that its sign allows.
-    std::uint64_t limit() const { return static_cast<std::uint64_t>(std::numeric_limits<Vlq64s>::max()) - below0; }
+    std::uint64_t limit() const {
+        return static_cast<std::uint64_t>(std::numeric_limits<Vlq64s>::max()) - below0;
+    }
 };
 
-// floor(size / divisor) for size < 2^63 + 2^61 and 2 <= divisor < 2^62, in one product. The reciprocal
-// of the 2^power that brings it to 64 bits is rounded down, which makes quotients too small, mended by
-// one reciprocal more; or up, which makes them too large. The error of one of these two stays below
-// half a divisor, and no quotient of such sizes shows it.
+// floor(size / divisor) for size < 2^63 + 2^61 and 2 <= divisor < 2^62, in one product. The
+// reciprocal of the 2^power that brings it to 64 bits is rounded down, which makes quotients too
+// small, mended by one reciprocal more; or up, which makes them too large. The error of one of
+// these two stays below half a divisor, and no quotient of such sizes shows it.
 // After: A. D. Robison, N-bit unsigned division via N-bit multiply-add, 2005.
 class Reciprocal {
 public:
-    explicit Reciprocal(std::uint64_t divisor) : shift_(static_cast<int>(std::bit_width(divisor - 1)) - 1) {
+    explicit Reciprocal(std::uint64_t divisor)
+        : shift_(static_cast<int>(std::bit_width(divisor - 1)) - 1) {
         const Unsigned128 power = static_cast<Unsigned128>(1) << (64 + shift_);
         const auto rest = static_cast<std::uint64_t>(power % divisor);
         reciprocal_ = static_cast<std::uint64_t>(power / divisor);
         if (rest == 0) return;
-        if (rest > divisor / 2) ++reciprocal_;
-        else extra_ = reciprocal_;
+        if (rest > divisor / 2)
+            ++reciprocal_;
+        else
+            extra_ = reciprocal_;
     }
     std::uint64_t operator()(std::uint64_t size) const {
-        return static_cast<std::uint64_t>((static_cast<Unsigned128>(size) * reciprocal_ + extra_) >> 64) >> shift_;
+        return static_cast<std::uint64_t>((static_cast<Unsigned128>(size) * reciprocal_ + extra_) >>
+                                          64) >>
+               shift_;
     }
 
 private:
@@ -48,12 +58,13 @@ private:
     std::uint64_t reciprocal_, extra_ = 0;
 };
 
-// Divisors from 2 up to 2^62. Half a divisor is added first; where that leaves no rest, an even divisor
-// met a tie.
+// Divisors from 2 up to 2^62. Half a divisor is added first; where that leaves no rest, an even
+// divisor met a tie.
 template <bool evenDivisor>
 class RoundedQuotient {
 public:
-    RoundedQuotient(std::uint64_t divisor, bool negative) : quotient_(divisor), divisor_(divisor), flip_(0 - static_cast<std::uint64_t>(negative)) {}
+    RoundedQuotient(std::uint64_t divisor, bool negative)
+        : quotient_(divisor), divisor_(divisor), flip_(0 - static_cast<std::uint64_t>(negative)) {}
     Vlq64s operator()(Vlq64s n) const {
         const Magnitude m(n, flip_);
         const std::uint64_t raised = m.size + divisor_ / 2;
@@ -71,10 +82,13 @@ private:
 class SmallQuotient {
 public:
     SmallQuotient(std::uint64_t divisor, bool negative)
-        : one_(divisor / 2), two_(divisor >> 63 ? ~std::uint64_t{0} : divisor + (divisor - 1) / 2), flip_(0 - static_cast<std::uint64_t>(negative)) {}
+        : one_(divisor / 2),
+          two_(divisor >> 63 ? ~std::uint64_t{0} : divisor + (divisor - 1) / 2),
+          flip_(0 - static_cast<std::uint64_t>(negative)) {}
     Vlq64s operator()(Vlq64s n) const {
         const Magnitude m(n, flip_);
-        return m.withSign(static_cast<std::uint64_t>(m.size > one_) + static_cast<std::uint64_t>(m.size > two_));
+        return m.withSign(static_cast<std::uint64_t>(m.size > one_) +
+                          static_cast<std::uint64_t>(m.size > two_));
     }
 
 private:
@@ -85,7 +99,9 @@ private:
 // Times 2^up over a divisor of 1.
 class ShiftedUp {
 public:
-    ShiftedUp(std::int64_t up, bool negative) : up_(up < 63 ? static_cast<int>(up) : 63), flip_(0 - static_cast<std::uint64_t>(negative)) {}
+    ShiftedUp(std::int64_t up, bool negative)
+        : up_(up < 63 ? static_cast<int>(up) : 63),
+          flip_(0 - static_cast<std::uint64_t>(negative)) {}
     Vlq64s operator()(Vlq64s n) const {
         const Magnitude m(n, flip_);
         const std::uint64_t limit = m.limit();
@@ -97,15 +113,16 @@ private:
     std::uint64_t flip_;
 };
 
-// Times 2^up, 1 <= up, over an odd divisor of at least 3: there are no ties. Two words are divided by
-// one as in: N. Moller, T. Granlund, Improved division by invariant integers, 2011, algorithm 4.
+// Times 2^up, 1 <= up, over an odd divisor of at least 3: there are no ties. Two words are divided
+// by one as in: N. Moller, T. Granlund, Improved division by invariant integers, 2011, algorithm 4.
 class ShiftedUpQuotient {
 public:
     ShiftedUpQuotient(std::uint64_t divisor, std::int64_t up, bool negative)
         : flip_(0 - static_cast<std::uint64_t>(negative)) {
         const int room = std::countl_zero(divisor);
         divisor_ = divisor << room;
-        reciprocal_ = static_cast<std::uint64_t>(~static_cast<Unsigned128>(0) / divisor_);  // less its 65th bit
+        reciprocal_ = static_cast<std::uint64_t>(~static_cast<Unsigned128>(0) /
+                                                 divisor_);  // less its 65th bit
         half_ = (divisor / 2) << room;
         // Sizes that do not saturate are below 2^63 * divisor / 2^up.
         const Unsigned128 top = (static_cast<Unsigned128>(divisor) << 63) + divisor / 2;
@@ -119,16 +136,19 @@ public:
         const Magnitude m(n, flip_);
         const std::uint64_t limit = m.limit();
         const Unsigned128 dividend = (static_cast<Unsigned128>(m.size << high_) << low_) + half_;
-        const std::uint64_t q = quotient(static_cast<std::uint64_t>(dividend >> 64), static_cast<std::uint64_t>(dividend));
+        const std::uint64_t q = quotient(static_cast<std::uint64_t>(dividend >> 64),
+                                         static_cast<std::uint64_t>(dividend));
         return m.withSign(m.size > most_ || q > limit ? limit : q);
     }
 
 private:
     std::uint64_t quotient(std::uint64_t upper, std::uint64_t lower) const {
-        const Unsigned128 estimate = static_cast<Unsigned128>(reciprocal_) * upper + (static_cast<Unsigned128>(upper) << 64 | lower);
+        const Unsigned128 estimate = static_cast<Unsigned128>(reciprocal_) * upper +
+                                     (static_cast<Unsigned128>(upper) << 64 | lower);
         std::uint64_t q = static_cast<std::uint64_t>(estimate >> 64) + 1;
         std::uint64_t rest = lower - q * divisor_;
-        const std::uint64_t tooMuch = 0 - static_cast<std::uint64_t>(rest > static_cast<std::uint64_t>(estimate));
+        const std::uint64_t tooMuch =
+            0 - static_cast<std::uint64_t>(rest > static_cast<std::uint64_t>(estimate));
         q += tooMuch;
         rest += divisor_ & tooMuch;
         return q + static_cast<std::uint64_t>(rest >= divisor_);
@@ -142,7 +162,8 @@ private:
 template <class Run>
 inline bool withQuotient(Vlq64s val, std::int64_t scaleFactor, Run run) {
     const bool negative = val < 0;
-    std::uint64_t divisor = negative ? 0 - static_cast<std::uint64_t>(val) : static_cast<std::uint64_t>(val);
+    std::uint64_t divisor =
+        negative ? 0 - static_cast<std::uint64_t>(val) : static_cast<std::uint64_t>(val);
     // Powers of two of the divisor and the scale are one.
     const int even = std::countr_zero(divisor);
     const std::int64_t up = -scaleFactor - even;
@@ -151,8 +172,10 @@ inline bool withQuotient(Vlq64s val, std::int64_t scaleFactor, Run run) {
         // From 2^64 on the divisor is at least twice any numerator.
         if (up < -63 || divisor > ~std::uint64_t{0} >> -up) return true;
         divisor <<= -up;
-        if (divisor >> 62) run(SmallQuotient(divisor, negative));
-        else run(RoundedQuotient<true>(divisor, negative));
+        if (divisor >> 62)
+            run(SmallQuotient(divisor, negative));
+        else
+            run(RoundedQuotient<true>(divisor, negative));
     } else if (divisor == 1) {
         run(ShiftedUp(up, negative));
     } else if (up > 0) {

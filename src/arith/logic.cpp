@@ -1,5 +1,5 @@
-#include "arith/forms.h"
 #include "arith/logic_kernels.h"
+#include "frame/loop/forms.h"
 
 namespace {
 
@@ -157,9 +157,21 @@ VlqStatus vlq::vlqsXorC_32u_I(Vlq32u val, Vlq32u* srcDst, Vlq32s len) {
     return xorConstant(srcDst, val, srcDst, len);
 }
 
-VlqStatus vlq::vlqsNot_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len) { return oneVector(src, dst, len, Not{}); }
-VlqStatus vlq::vlqsNot_8u_I(Vlq8u* srcDst, Vlq32s len) { return oneVector(srcDst, srcDst, len, Not{}); }
-VlqStatus vlq::vlqsNot_16u(const Vlq16u* src, Vlq16u* dst, Vlq32s len) { return oneVector(src, dst, len, Not{}); }
-VlqStatus vlq::vlqsNot_16u_I(Vlq16u* srcDst, Vlq32s len) { return oneVector(srcDst, srcDst, len, Not{}); }
-VlqStatus vlq::vlqsNot_32u(const Vlq32u* src, Vlq32u* dst, Vlq32s len) { return oneVector(src, dst, len, Not{}); }
-VlqStatus vlq::vlqsNot_32u_I(Vlq32u* srcDst, Vlq32s len) { return oneVector(srcDst, srcDst, len, Not{}); }
+VlqStatus vlq::vlqsNot_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len) {
+    return oneVector(src, dst, len, Not{});
+}
+VlqStatus vlq::vlqsNot_8u_I(Vlq8u* srcDst, Vlq32s len) {
+    return oneVector(srcDst, srcDst, len, Not{});
+}
+VlqStatus vlq::vlqsNot_16u(const Vlq16u* src, Vlq16u* dst, Vlq32s len) {
+    return oneVector(src, dst, len, Not{});
+}
+VlqStatus vlq::vlqsNot_16u_I(Vlq16u* srcDst, Vlq32s len) {
+    return oneVector(srcDst, srcDst, len, Not{});
+}
+VlqStatus vlq::vlqsNot_32u(const Vlq32u* src, Vlq32u* dst, Vlq32s len) {
+    return oneVector(src, dst, len, Not{});
+}
+VlqStatus vlq::vlqsNot_32u_I(Vlq32u* srcDst, Vlq32s len) {
+    return oneVector(srcDst, srcDst, len, Not{});
+}

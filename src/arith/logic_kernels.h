@@ -7,19 +7,27 @@ namespace vlq::logic {
 
 struct And {
     template <class V>
-    V operator()(V a, V b) const { return a & b; }
+    V operator()(V a, V b) const {
+        return a & b;
+    }
 };
 struct Or {
     template <class V>
-    V operator()(V a, V b) const { return a | b; }
+    V operator()(V a, V b) const {
+        return a | b;
+    }
 };
 struct Xor {
     template <class V>
-    V operator()(V a, V b) const { return a ^ b; }
+    V operator()(V a, V b) const {
+        return a ^ b;
+    }
 };
 struct Not {
     template <class V>
-    V operator()(V a) const { return ~a; }
+    V operator()(V a) const {
+        return ~a;
+    }
 };
 
 // The second operand is one value.

@@ -28,7 +28,8 @@ template <class T>
 VlqStatus productByConstant(const T* src, T val, T* dst, Vlq32s len) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::map(dst, len, [b = Vec<T>::broadcast(val)](Vec<T> a) { return a * b; }, src);
+    vlq::map(
+        dst, len, [b = Vec<T>::broadcast(val)](Vec<T> a) { return a * b; }, src);
     return vlqStsOk;
 }
 
@@ -37,7 +38,9 @@ VlqStatus complexProductByConstant(const T* src, T val, T* dst, Vlq32s len) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     using V = Vec<decltype(val.re)>;
-    mapComplex(dst, len, [b = vlq::broadcastPair(val.re, val.im)](V a) { return ComplexProduct{}(b, a); }, src);
+    mapComplex(
+        dst, len, [b = vlq::broadcastPair(val.re, val.im)](V a) { return ComplexProduct{}(b, a); },
+        src);
     return vlqStsOk;
 }
 
@@ -66,7 +69,7 @@ VlqStatus accumulateComplex(const T* a, const T* b, T* acc, Vlq32s len) {
 
 }  // namespace
 
-// ---- two vectors -------------------------------------------------------------------------------------
+// ---- two vectors --------------------------------------------------------------------------------
 VlqStatus vlq::vlqsMul_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len) {
     return product(src1, src2, dst, len);
 }
@@ -104,7 +107,7 @@ VlqStatus vlq::vlqsMul_16s32f(const Vlq16s* src1, const Vlq16s* src2, Vlq32f* ds
     return vlqStsOk;
 }
 
-// ---- a constant ----------------------------------------------------------------------------------------
+// ---- a constant ---------------------------------------------------------------------------------
 VlqStatus vlq::vlqsMulC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
     return productByConstant(src, val, dst, len);
 }
@@ -130,23 +133,28 @@ VlqStatus vlq::vlqsMulC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len) {
     return complexProductByConstant(srcDst, val, srcDst, len);
 }
 
-// ---- products added to a vector -------------------------------------------------------------------------
-VlqStatus vlq::vlqsAddProduct_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* srcDst, Vlq32s len) {
+// ---- products added to a vector -----------------------------------------------------------------
+VlqStatus vlq::vlqsAddProduct_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* srcDst,
+                                  Vlq32s len) {
     return accumulate(src1, src2, srcDst, len);
 }
-VlqStatus vlq::vlqsAddProduct_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* srcDst, Vlq32s len) {
+VlqStatus vlq::vlqsAddProduct_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* srcDst,
+                                  Vlq32s len) {
     return accumulate(src1, src2, srcDst, len);
 }
-VlqStatus vlq::vlqsAddProduct_32fc(const Vlq32fc* src1, const Vlq32fc* src2, Vlq32fc* srcDst, Vlq32s len) {
+VlqStatus vlq::vlqsAddProduct_32fc(const Vlq32fc* src1, const Vlq32fc* src2, Vlq32fc* srcDst,
+                                   Vlq32s len) {
     return accumulateComplex(src1, src2, srcDst, len);
 }
-VlqStatus vlq::vlqsAddProduct_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc* srcDst, Vlq32s len) {
+VlqStatus vlq::vlqsAddProduct_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc* srcDst,
+                                   Vlq32s len) {
     return accumulateComplex(src1, src2, srcDst, len);
 }
 VlqStatus vlq::vlqsAddProductC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* srcDst, Vlq32s len) {
     if (!src || !srcDst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     using V = Vec<Vlq32f>;
-    map(srcDst, len, [b = V::broadcast(val)](V acc, V a) { return acc + a * b; }, srcDst, src);
+    map(
+        srcDst, len, [b = V::broadcast(val)](V acc, V a) { return acc + a * b; }, srcDst, src);
     return vlqStsOk;
 }

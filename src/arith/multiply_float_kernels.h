@@ -12,7 +12,9 @@ namespace vlq::multiply {
 
 struct Product {
     template <class V>
-    V operator()(V a, V b) const { return a * b; }
+    V operator()(V a, V b) const {
+        return a * b;
+    }
 };
 
 // (a + bi)(c + di) = (ac - bd) + (ad + bc)i
@@ -27,12 +29,15 @@ struct ComplexProduct {
 template <class Multiply>
 struct Accumulate {
     template <class V>
-    V operator()(V acc, V a, V b) const { return acc + Multiply{}(a, b); }
+    V operator()(V acc, V a, V b) const {
+        return acc + Multiply{}(a, b);
+    }
 };
 
 // The exact product of integers, rounded once.
 struct ProductAsFloat {
-    Block<float, 2> operator()(const Block<std::int16_t, 1>& a, const Block<std::int16_t, 1>& b) const {
+    Block<float, 2> operator()(const Block<std::int16_t, 1>& a,
+                               const Block<std::int16_t, 1>& b) const {
         const auto e = inMemoryOrder(productLanes(a.part[0], b.part[0]));
         return {{toFloat(e.part[0]), toFloat(e.part[1])}};
     }
@@ -63,19 +68,23 @@ inline void mapComplex(C* dst, std::ptrdiff_t len, Op op, const Sources*... src)
     constexpr int group = Parts<C>::group;
     mapBlocks<group>(
         reinterpret_cast<Element*>(dst), len * group,
-        [op](const auto&... block) { return Block<Element, 1>{{bitCast<Element>(op(bitCast<Part>(block.part[0])...))}}; },
+        [op](const auto&... block) {
+            return Block<Element, 1>{{bitCast<Element>(op(bitCast<Part>(block.part[0])...))}};
+        },
         reinterpret_cast<const Element*>(src)...);
 }
 
 // dst[i] = real[i] * complex[i]
-inline void mapRealByComplex(Vlq32fc* dst, std::ptrdiff_t len, const Vlq32f* real, const Vlq32fc* complex) {
+inline void mapRealByComplex(Vlq32fc* dst, std::ptrdiff_t len, const Vlq32f* real,
+                             const Vlq32fc* complex) {
     using Element = std::int64_t;
     mapBlocks(
         reinterpret_cast<Element*>(dst), len,
         [](const Block<float, 1>& a, const Block<Element, 2>& b) {
             const auto factor = twice(a.part[0]);
-            return Block<Element, 2>{{bitCast<Element>(factor.part[0] * bitCast<float>(b.part[0])),
-                                      bitCast<Element>(factor.part[1] * bitCast<float>(b.part[1]))}};
+            return Block<Element, 2>{
+                {bitCast<Element>(factor.part[0] * bitCast<float>(b.part[0])),
+                 bitCast<Element>(factor.part[1] * bitCast<float>(b.part[1]))}};
         },
         real, reinterpret_cast<const Element*>(complex));
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/loop/map.h"
-#include "frame/scale.h"
+#include "frame/scale/scale.h"
 #include "frame/simd/multiply.h"
 
 namespace vlq::multiply {
@@ -26,7 +26,7 @@ private:
     ScaleRight<T> scale_;
 };
 
-// ---- 16-bit results by the words of the product --------------------------------------------------------
+// ---- 16-bit results by the words of the product -------------------------------------------------
 // The upper words hold the quotient, so that no lane is widened.
 class RoundUpperWord {
 public:
@@ -34,7 +34,8 @@ public:
 
     // 17 <= scaleFactor <= 31
     explicit RoundUpperWord(std::int32_t scaleFactor)
-        : shift_(scaleFactor - 16), remainder_(V::broadcast(static_cast<std::int16_t>((1 << shift_) - 1))),
+        : shift_(scaleFactor - 16),
+          remainder_(V::broadcast(static_cast<std::int16_t>((1 << shift_) - 1))),
           belowMiddle_(V::broadcast(static_cast<std::int16_t>((1 << (shift_ - 1)) - 1))) {}
     V operator()(V lower, V upper) const {
         const V quotient = shiftRight(upper, shift_);
@@ -52,7 +53,8 @@ struct RoundToUpperWord {
     using V = Vec<std::int16_t>;
     V operator()(V lower, V upper) const {
         const V odd = upper & V::broadcast(1);
-        return upper - ((lower ^ V::broadcast(std::numeric_limits<std::int16_t>::min())) > (V::zero() - odd));
+        return upper - ((lower ^ V::broadcast(std::numeric_limits<std::int16_t>::min())) >
+                        (V::zero() - odd));
     }
 };
 // Scale factor 15: the quotient has a bit of the lower word, and 2^15 saturates.
@@ -64,18 +66,22 @@ struct RoundOffLowerBits {
         return subSat(addSat(addSat(upper, upper), bit), up);
     }
 };
-// Scale factors 2 to 14. Ties are first rounded down, and go up where that gave an odd result. Where the
-// result was out of range that is right too: the lower limit is even, and the upper one stays.
+// Scale factors 2 to 14. Ties are first rounded down, and go up where that gave an odd result.
+// Where the result was out of range that is right too: the lower limit is even, and the upper one
+// stays.
 class RoundLowerWord {
 public:
     using V = Vec<std::int16_t>;
 
     explicit RoundLowerWord(std::int32_t scaleFactor)
-        : shift_(scaleFactor), bias_(Vec<std::int32_t>::broadcast((1 << (scaleFactor - 1)) - 1)),
-          remainder_(V::broadcast(static_cast<std::int16_t>((1 << scaleFactor) - 1))), middle_(V::broadcast(static_cast<std::int16_t>(1 << (scaleFactor - 1)))) {}
+        : shift_(scaleFactor),
+          bias_(Vec<std::int32_t>::broadcast((1 << (scaleFactor - 1)) - 1)),
+          remainder_(V::broadcast(static_cast<std::int16_t>((1 << scaleFactor) - 1))),
+          middle_(V::broadcast(static_cast<std::int16_t>(1 << (scaleFactor - 1)))) {}
     V operator()(V a, V b) const {
         const auto e = productLanes(a, b);
-        const V down = narrowLanes<std::int16_t>({{shiftRight(e.part[0] + bias_, shift_), shiftRight(e.part[1] + bias_, shift_)}});
+        const V down = narrowLanes<std::int16_t>(
+            {{shiftRight(e.part[0] + bias_, shift_), shiftRight(e.part[1] + bias_, shift_)}});
         const V tie = (a * b & remainder_) == middle_;
         return addSat(down, tie & down & V::broadcast(1));
     }
@@ -86,13 +92,15 @@ private:
     V remainder_, middle_;
 };
 
-// Hands `run` the operation on two vectors for scale factors above 1 where words serve; says whether
-// they do.
+// Hands `run` the operation on two vectors for scale factors above 1 where words serve; says
+// whether they do.
 template <class A, class Run>
 inline bool withWords(std::int32_t scaleFactor, Run run) {
     using V = Vec<std::int16_t>;
     const auto words = [&](auto round) {
-        run([round](Vec<A> a, V b) { return round(bitCast<std::int16_t>(a) * b, productUpper(a, b)); });
+        run([round](Vec<A> a, V b) {
+            return round(bitCast<std::int16_t>(a) * b, productUpper(a, b));
+        });
         return true;
     };
     if (scaleFactor >= 17) return words(RoundUpperWord(scaleFactor));
@@ -110,7 +118,7 @@ inline Block<T, 2> both(const Op& op, Block<T, 2> v) {
     return {{op(v.part[0]), op(v.part[1])}};
 }
 
-// ---- families ----------------------------------------------------------------------------------------
+// ---- families -----------------------------------------------------------------------------------
 // roomUpTo is the last scale factor whose rounding does not lead the largest e out of its lane.
 struct Product8u {
     using Stored = std::uint8_t;
@@ -196,11 +204,13 @@ struct LastOfSum16s {
     }
 };
 
-// ---- the rule ----------------------------------------------------------------------------------------
+// ---- the rule -----------------------------------------------------------------------------------
 template <class Family, template <class> class Round>
 inline auto rounded(std::int32_t scaleFactor) {
     using Wide = typename Family::Wide;
-    return [scale = Round<Wide>(scaleFactor)](auto... operands) { return Family::narrowed(both(scale, Family::exact(operands...))); };
+    return [scale = Round<Wide>(scaleFactor)](auto... operands) {
+        return Family::narrowed(both(scale, Family::exact(operands...)));
+    };
 }
 
 // Hands `run` the operation on the family's vectors that serves this scale factor; not for a range
@@ -209,34 +219,35 @@ template <class Family, class Run>
 inline void withScale(std::int32_t scaleFactor, Run run) {
     using T = typename Family::Stored;
     switch (classify<Family, T>(scaleFactor)) {
-    case Scaling::None:
-        return run([](auto... operands) { return Family::saturated(operands...); });
-    case Scaling::Left:
-        return run([scale = ScaleLeft<T>(scaleFactor)](auto... operands) {
-            const auto clamped = Family::saturated(operands...);
-            using Lane = typename decltype(clamped)::Scalar;
-            return bitCast<Lane>(scale(bitCast<T>(clamped)));
-        });
-    case Scaling::Half:
-        return run([](auto... operands) {
-            return Family::narrowed(both([](auto e) { return roundHalf(e); }, Family::exact(operands...)));
-        });
-    case Scaling::Right:
-        if constexpr (std::is_same_v<Family, Product16s>) {
-            if (withWords<std::int16_t>(scaleFactor, run)) return;
-        } else if constexpr (std::is_same_v<Family, Product16u16s>) {
-            if (withWords<std::uint16_t>(scaleFactor, run)) return;
-        } else if constexpr (std::is_same_v<Family, SumOfProduct16s>) {
-            if (scaleFactor == 31) return run(LastOfSum16s{});
-        }
-        if (scaleFactor <= Family::roomUpTo) return run(rounded<Family, RoundRight>(scaleFactor));
-        return run(rounded<Family, RoundAny>(scaleFactor));
-    case Scaling::Vanish:
-        return;
+        case Scaling::None:
+            return run([](auto... operands) { return Family::saturated(operands...); });
+        case Scaling::Left:
+            return run([scale = ScaleLeft<T>(scaleFactor)](auto... operands) {
+                const auto clamped = Family::saturated(operands...);
+                using Lane = typename decltype(clamped)::Scalar;
+                return bitCast<Lane>(scale(bitCast<T>(clamped)));
+            });
+        case Scaling::Half:
+            return run([](auto... operands) {
+                return Family::narrowed(
+                    both([](auto e) { return roundHalf(e); }, Family::exact(operands...)));
+            });
+        case Scaling::Right:
+            if constexpr (std::is_same_v<Family, Product16s>) {
+                if (withWords<std::int16_t>(scaleFactor, run)) return;
+            } else if constexpr (std::is_same_v<Family, Product16u16s>) {
+                if (withWords<std::uint16_t>(scaleFactor, run)) return;
+            } else if constexpr (std::is_same_v<Family, SumOfProduct16s>) {
+                if (scaleFactor == 31) return run(LastOfSum16s{});
+            }
+            if (scaleFactor <= Family::roomUpTo)
+                return run(rounded<Family, RoundRight>(scaleFactor));
+            return run(rounded<Family, RoundAny>(scaleFactor));
+        case Scaling::Vanish: return;
     }
 }
 
-// ---- 16-bit factors, 32-bit results --------------------------------------------------------------------
+// ---- 16-bit factors, 32-bit results -------------------------------------------------------------
 // Hands `run` the operation on an exact vector of e: the product fills 31 bits.
 struct Product16s32s {
     template <class>
@@ -246,17 +257,18 @@ template <class Run>
 inline void withScale16s32s(std::int32_t scaleFactor, Run run) {
     using V = Vec<std::int32_t>;
     switch (classify<Product16s32s, std::int32_t>(scaleFactor)) {
-    case Scaling::None: return run([](V e) { return e; });
-    case Scaling::Left: return run(ScaleLeft<std::int32_t>(scaleFactor));
-    case Scaling::Half:
-    case Scaling::Right: return run(RoundRight<std::int32_t>(scaleFactor));
-    case Scaling::Vanish: return;
+        case Scaling::None: return run([](V e) { return e; });
+        case Scaling::Left: return run(ScaleLeft<std::int32_t>(scaleFactor));
+        case Scaling::Half:
+        case Scaling::Right: return run(RoundRight<std::int32_t>(scaleFactor));
+        case Scaling::Vanish: return;
     }
 }
 template <class Scale>
 struct StoreProduct16s32s {
     Scale scale;
-    Block<std::int32_t, 2> operator()(const Block<std::int16_t, 1>& a, const Block<std::int16_t, 1>& b) const {
+    Block<std::int32_t, 2> operator()(const Block<std::int16_t, 1>& a,
+                                      const Block<std::int16_t, 1>& b) const {
         return both(scale, inMemoryOrder(productLanes(a.part[0], b.part[0])));
     }
 };
@@ -280,25 +292,30 @@ inline void withScaleOfSum16s32s(std::int32_t scaleFactor, Run run) {
     using V = Vec<std::int32_t>;
     using Sum = SumOfProduct16s32s;
     switch (classify<Sum, std::int32_t>(scaleFactor)) {
-    case Scaling::None:
-        return run([](V acc, V product) { return Sum::saturated(acc, product); });
-    case Scaling::Left:
-        return run([scale = ScaleLeft<std::int32_t>(scaleFactor)](V acc, V product) { return scale(acc + product, Sum::sign(acc, product)); });
-    case Scaling::Half:
-        return run([](V acc, V product) {
-            const auto e = Sum::halved(acc, product);
-            return e.half + (e.half & e.odd & V::broadcast(1));
-        });
-    case Scaling::Right:
-        return run([scale = ScaleRight<std::int32_t>(scaleFactor)](V acc, V product) { return scale(Sum::halved(acc, product)); });
-    case Scaling::Vanish:
-        return;
+        case Scaling::None:
+            return run([](V acc, V product) { return Sum::saturated(acc, product); });
+        case Scaling::Left:
+            return run([scale = ScaleLeft<std::int32_t>(scaleFactor)](V acc, V product) {
+                return scale(acc + product, Sum::sign(acc, product));
+            });
+        case Scaling::Half:
+            return run([](V acc, V product) {
+                const auto e = Sum::halved(acc, product);
+                return e.half + (e.half & e.odd & V::broadcast(1));
+            });
+        case Scaling::Right:
+            return run([scale = ScaleRight<std::int32_t>(scaleFactor)](V acc, V product) {
+                return scale(Sum::halved(acc, product));
+            });
+        case Scaling::Vanish: return;
     }
 }
 template <class Add>
 struct AddProduct16s32s {
     Add add;
-    Block<std::int32_t, 2> operator()(const Block<std::int32_t, 2>& acc, const Block<std::int16_t, 1>& a, const Block<std::int16_t, 1>& b) const {
+    Block<std::int32_t, 2> operator()(const Block<std::int32_t, 2>& acc,
+                                      const Block<std::int16_t, 1>& a,
+                                      const Block<std::int16_t, 1>& b) const {
         const auto product = inMemoryOrder(productLanes(a.part[0], b.part[0]));
         return {{add(acc.part[0], product.part[0]), add(acc.part[1], product.part[1])}};
     }

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "frame/loop/map.h"
-#include "frame/scale.h"
+#include "frame/scale/scale.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
 #include "frame/simd/multiply.h"
@@ -13,7 +13,7 @@
 
 namespace vlq::multiply {
 
-// ---- 32 bits ---------------------------------------------------------------------------------------------
+// ---- 32 bits ------------------------------------------------------------------------------------
 struct Exact32s {
     template <class>
     static constexpr int vanishesFrom = 63;  // 2^62 is half of 2^63, a tie at 0
@@ -30,7 +30,8 @@ struct Product32s {
         const V sign = shiftRight(a ^ b, 31);
         const auto x = magnitude(a), y = magnitude(b);
         const auto even = round(productEven(x, y)), odd = round(productOdd(x, y));
-        const V fits = joinEvenOdd(shiftRight(even, 31), shiftRight(odd, 31)) == Vec<std::uint32_t>::zero();
+        const V fits =
+            joinEvenOdd(shiftRight(even, 31), shiftRight(odd, 31)) == Vec<std::uint32_t>::zero();
         const V low = bitCast<std::int32_t>(joinEvenOdd(even, odd));
         const V size = select(fits, low, V::broadcast(std::numeric_limits<std::int32_t>::max()));
         // The complement of the limit is the lower limit itself.
@@ -44,14 +45,15 @@ private:
     }
 };
 
-// Up to this scale factor a double serves: what it does not hold exactly, from 2^53 on, is out of range.
-// The kernels run under StandardFloatMode.
+// Up to this scale factor a double serves: what it does not hold exactly, from 2^53 on, is out of
+// range. The kernels run under StandardFloatMode.
 inline constexpr std::int32_t kLastInDouble = 21;
 
 // 2^-scaleFactor; from 2^31 on any value but 0 saturates.
 inline Vec<double> factorInDouble(std::int32_t scaleFactor) {
     const std::int64_t exponent = scaleFactor < -31 ? 31 : -std::int64_t{scaleFactor};
-    return Vec<double>::broadcast(std::bit_cast<double>(static_cast<std::uint64_t>(exponent + 1023) << 52));
+    return Vec<double>::broadcast(
+        std::bit_cast<double>(static_cast<std::uint64_t>(exponent + 1023) << 52));
 }
 // Below the range the conversion itself gives the lower limit.
 inline Vec<std::int32_t> storedFromDouble(Block<double, 2> v) {
@@ -62,34 +64,42 @@ struct Product32sInDouble {
     Vec<double> factor;
     Vec<std::int32_t> operator()(Vec<std::int32_t> a, Vec<std::int32_t> b) const {
         const auto x = toDouble(a), y = toDouble(b);
-        return storedFromDouble({{x.part[0] * (y.part[0] * factor), x.part[1] * (y.part[1] * factor)}});
+        return storedFromDouble(
+            {{x.part[0] * (y.part[0] * factor), x.part[1] * (y.part[1] * factor)}});
     }
 };
 struct SumOfProduct32sInDouble {
     Vec<double> factor;
-    Vec<std::int32_t> operator()(Vec<std::int32_t> acc, Vec<std::int32_t> a, Vec<std::int32_t> b) const {
+    Vec<std::int32_t> operator()(Vec<std::int32_t> acc, Vec<std::int32_t> a,
+                                 Vec<std::int32_t> b) const {
         const auto x = toDouble(a), y = toDouble(b), z = toDouble(acc);
-        return storedFromDouble({{(z.part[0] + x.part[0] * y.part[0]) * factor, (z.part[1] + x.part[1] * y.part[1]) * factor}});
+        return storedFromDouble({{(z.part[0] + x.part[0] * y.part[0]) * factor,
+                                  (z.part[1] + x.part[1] * y.part[1]) * factor}});
     }
 };
 
-// Complex values. One factor goes in by its upper and its lower half, whose products and their sums are
-// exact; the sum of both is, as far as a double holds it.
+// Complex values. One factor goes in by its upper and its lower half, whose products and their sums
+// are exact; the sum of both is, as far as a double holds it.
 struct ComplexProduct32scInDouble {
     Vec<double> factor;
     Vec<std::int64_t> operator()(Vec<std::int64_t> x, Vec<std::int64_t> y) const {
         using V = Vec<std::int32_t>;
         const V b = bitCast<std::int32_t>(y), lowerHalf = V::broadcast(0xFFFF);
-        const auto a = toDouble(bitCast<std::int32_t>(x)), upper = toDouble(b & ~lowerHalf), lower = toDouble(b & lowerHalf);
-        return bitCast<std::int64_t>(storedFromDouble({{(product(a.part[0], upper.part[0]) + product(a.part[0], lower.part[0])) * factor,
-                                                        (product(a.part[1], upper.part[1]) + product(a.part[1], lower.part[1])) * factor}}));
+        const auto a = toDouble(bitCast<std::int32_t>(x)), upper = toDouble(b & ~lowerHalf),
+                   lower = toDouble(b & lowerHalf);
+        return bitCast<std::int64_t>(storedFromDouble(
+            {{(product(a.part[0], upper.part[0]) + product(a.part[0], lower.part[0])) * factor,
+              (product(a.part[1], upper.part[1]) + product(a.part[1], lower.part[1])) * factor}}));
     }
 
 private:
-    static Vec<double> product(Vec<double> x, Vec<double> y) { return subtractAdd(realParts(x) * y, imaginaryParts(x) * swapParts(y)); }
+    static Vec<double> product(Vec<double> x, Vec<double> y) {
+        return subtractAdd(realParts(x) * y, imaginaryParts(x) * swapParts(y));
+    }
 };
 
-// Hands `run` the operation on vectors that serves this scale factor; not for a range that vanishes.
+// Hands `run` the operation on vectors that serves this scale factor; not for a range that
+// vanishes.
 template <class Run>
 inline void withScale32s(std::int32_t scaleFactor, Run run) {
     if (scaleFactor <= kLastInDouble) return run(Product32sInDouble{factorInDouble(scaleFactor)});
@@ -98,29 +108,35 @@ inline void withScale32s(std::int32_t scaleFactor, Run run) {
 
 // dst[i] = real[i] * complex[i], both parts.
 template <class Op>
-inline void mapRealByComplex32s(Vlq32sc* dst, std::ptrdiff_t len, Op op, const Vlq32s* real, const Vlq32sc* complex) {
+inline void mapRealByComplex32s(Vlq32sc* dst, std::ptrdiff_t len, Op op, const Vlq32s* real,
+                                const Vlq32sc* complex) {
     using Element = std::int64_t;
     mapBlocks(
         reinterpret_cast<Element*>(dst), len,
         [op](const Block<std::int32_t, 1>& a, const Block<Element, 2>& b) {
             const auto factor = twice(a.part[0]);
-            return Block<Element, 2>{{bitCast<Element>(op(factor.part[0], bitCast<std::int32_t>(b.part[0]))),
-                                      bitCast<Element>(op(factor.part[1], bitCast<std::int32_t>(b.part[1])))}};
+            return Block<Element, 2>{
+                {bitCast<Element>(op(factor.part[0], bitCast<std::int32_t>(b.part[0]))),
+                 bitCast<Element>(op(factor.part[1], bitCast<std::int32_t>(b.part[1])))}};
         },
         real, reinterpret_cast<const Element*>(complex));
 }
 
-// ---- one element at a time ---------------------------------------------------------------------------------
+// ---- one element at a time ----------------------------------------------------------------------
 __extension__ typedef __int128 Int128;
 
 // Hands `run` the scale as an operation on one exact integer; the caller has dealt with a range
 // that vanishes before the width of Wide.
 template <class T, class Wide, class Run>
 inline void withScalarScale(std::int64_t scaleFactor, Run run) {
-    if (scaleFactor == 0) run([](Wide e) { return clampTo<T>(e); });
-    else if (scaleFactor < 0) run(ScalarLeft<T, Wide>(-scaleFactor));
-    else if (scaleFactor <= ScalarRight<T, Wide>::lastShift) run(ScalarRight<T, Wide>(static_cast<int>(scaleFactor)));
-    else run(ScalarRightFar<T, Wide>(static_cast<int>(scaleFactor)));
+    if (scaleFactor == 0)
+        run([](Wide e) { return clampTo<T>(e); });
+    else if (scaleFactor < 0)
+        run(ScalarLeft<T, Wide>(-scaleFactor));
+    else if (scaleFactor <= ScalarRight<T, Wide>::lastShift)
+        run(ScalarRight<T, Wide>(static_cast<int>(scaleFactor)));
+    else
+        run(ScalarRightFar<T, Wide>(static_cast<int>(scaleFactor)));
 }
 
 struct ComplexExact32s {
@@ -134,9 +150,12 @@ struct ComplexProduct32sc {
     Scale scale;
     Vlq32sc operator()(Vlq32sc x, Vlq32sc y) const {
         const std::int64_t re = std::int64_t{x.re} * y.re - std::int64_t{x.im} * y.im;
-        const auto wrapped = static_cast<std::int64_t>(static_cast<std::uint64_t>(std::int64_t{x.re} * y.im) +
-                                                       static_cast<std::uint64_t>(std::int64_t{x.im} * y.re));
-        const std::int64_t im = wrapped == std::numeric_limits<std::int64_t>::min() ? std::numeric_limits<std::int64_t>::max() : wrapped;
+        const auto wrapped =
+            static_cast<std::int64_t>(static_cast<std::uint64_t>(std::int64_t{x.re} * y.im) +
+                                      static_cast<std::uint64_t>(std::int64_t{x.im} * y.re));
+        const std::int64_t im = wrapped == std::numeric_limits<std::int64_t>::min()
+                                    ? std::numeric_limits<std::int64_t>::max()
+                                    : wrapped;
         return {scale(re), scale(im)};
     }
 };
@@ -150,7 +169,8 @@ struct ComplexProduct32scRight {
     explicit ComplexProduct32scRight(std::int32_t scaleFactor) : scale(scaleFactor) {}
     V operator()(V x, V y) const {
         const V xIm = shiftRight(x, 32), yIm = shiftRight(y, 32);
-        const V re = productLower(x, y) - productLower(xIm, yIm), wrapped = productLower(x, yIm) + productLower(xIm, y);
+        const V re = productLower(x, y) - productLower(xIm, yIm),
+                wrapped = productLower(x, yIm) + productLower(xIm, y);
         const V im = wrapped + (wrapped == V::broadcast(std::numeric_limits<std::int64_t>::min()));
         return shiftLeft(part(im), 32) | (part(re) & V::broadcast(0xFFFFFFFF));
     }
@@ -158,7 +178,8 @@ struct ComplexProduct32scRight {
 private:
     V part(V e) const {
         const V v = scale({shiftRight(e, 1), e});
-        return minimum(maximum(v, V::broadcast(std::numeric_limits<std::int32_t>::min())), V::broadcast(std::numeric_limits<std::int32_t>::max()));
+        return minimum(maximum(v, V::broadcast(std::numeric_limits<std::int32_t>::min())),
+                       V::broadcast(std::numeric_limits<std::int32_t>::max()));
     }
 };
 #endif
@@ -173,7 +194,7 @@ struct Exact64s {
     static constexpr int vanishesFrom = 127;  // 2^126 is half of 2^127, a tie at 0
 };
 
-// ---- a float constant ------------------------------------------------------------------------------------
+// ---- a float constant ---------------------------------------------------------------------------
 // A finite double is an integer of 53 bits times a power of two.
 struct IntegerAndPower {
     std::int64_t integer;
@@ -190,7 +211,9 @@ inline IntegerAndPower takeApart(double value) {
 // 2^-scaleFactor, not above 2^400 nor below 2^-400: past these a product of two floats saturates
 // or is 0 all the same.
 inline double powerWithin400(std::int32_t scaleFactor) {
-    const std::int64_t exponent = scaleFactor > 400 ? -400 : scaleFactor < -400 ? 400 : -std::int64_t{scaleFactor};
+    const std::int64_t exponent = scaleFactor > 400    ? -400
+                                  : scaleFactor < -400 ? 400
+                                                       : -std::int64_t{scaleFactor};
     return std::bit_cast<double>(static_cast<std::uint64_t>(exponent + 1023) << 52);
 }
 
@@ -198,7 +221,8 @@ inline double powerWithin400(std::int32_t scaleFactor) {
 struct NonFiniteProduct64s {
     double constant;
     Vlq64s operator()(Vlq64s element) const {
-        if (std::isnan(constant) || element == 0 || (constant < 0) != (element < 0)) return std::numeric_limits<Vlq64s>::min();
+        if (std::isnan(constant) || element == 0 || (constant < 0) != (element < 0))
+            return std::numeric_limits<Vlq64s>::min();
         return std::numeric_limits<Vlq64s>::max();
     }
 };
@@ -217,7 +241,8 @@ private:
     Vec<std::int32_t> convert(Vec<float> v) const {
         const auto wide = toDouble(v);
         const auto top = Vec<double>::broadcast(kTop16s);
-        return toNearest(Block<double, 2>{{minimum(wide.part[0] * constant, top), minimum(wide.part[1] * constant, top)}});
+        return toNearest(Block<double, 2>{
+            {minimum(wide.part[0] * constant, top), minimum(wide.part[1] * constant, top)}});
     }
 };
 
@@ -225,7 +250,8 @@ struct ProductInFloat16s {
     Vec<float> constant;
     Block<std::int16_t, 1> operator()(const Block<float, 2>& v) const {
         const auto top = Vec<float>::broadcast(kTop16s);
-        return {{narrowSat<std::int16_t>({{toNearest(minimum(v.part[0] * constant, top)), toNearest(minimum(v.part[1] * constant, top))}})}};
+        return {{narrowSat<std::int16_t>({{toNearest(minimum(v.part[0] * constant, top)),
+                                           toNearest(minimum(v.part[1] * constant, top))}})}};
     }
 };
 

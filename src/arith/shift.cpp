@@ -1,5 +1,5 @@
-#include "arith/forms.h"
 #include "arith/shift_kernels.h"
+#include "frame/loop/forms.h"
 
 namespace {
 

@@ -9,13 +9,17 @@ namespace vlq::shift {
 struct Left {
     int count;
     template <class V>
-    V operator()(V v) const { return shiftLeft(v, count); }
+    V operator()(V v) const {
+        return shiftLeft(v, count);
+    }
 };
 // Arithmetic on signed types.
 struct Right {
     int count;
     template <class V>
-    V operator()(V v) const { return shiftRight(v, count); }
+    V operator()(V v) const {
+        return shiftRight(v, count);
+    }
 };
 
 }  // namespace vlq::shift

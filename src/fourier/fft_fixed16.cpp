@@ -1,7 +1,7 @@
 // Transforms of 16-bit samples: short ones in integers, the others in floating point.
-#include "fourier/fft_fixed.h"
+#include "fourier/fixed_by_float.h"
 #include "fourier/kernel/fixed.h"
-#include "fourier/kernel/real.h"
+#include "fourier/kernel/real_transform.h"
 
 struct vlq::VlqsFFTSpec_C_16sc : vlq::fft::FixedRecord16<vlq::VlqsFFTSpec_C_32fc> {};
 struct vlq::VlqsFFTSpec_C_16s : vlq::fft::FixedRecord16<vlq::VlqsFFTSpec_C_32f> {};
@@ -12,7 +12,8 @@ namespace {
 using namespace vlq;
 using namespace vlq::fft;
 
-template <class SpecType, class FloatCalls, class V, Vlq32s word, int largest, bool real, int integerBytes>
+template <class SpecType, class FloatCalls, class V, Vlq32s word, int largest, bool real,
+          int integerBytes>
 struct Kind16 {
     using Spec = SpecType;
     using Float = FloatCalls;
@@ -21,8 +22,12 @@ struct Kind16 {
     static constexpr bool is16 = true, isReal = real;
     static constexpr Vlq32s ident = word;
     static constexpr int largestOrder = largest;
-    static constexpr Vlq64s dataBytes(int order) { return real ? (Vlq64s{4} << order) + 8 : Vlq64s{8} << order; }
-    static constexpr Vlq64s integerWork(int order) { return (Vlq64s{integerBytes} << order) + (real ? 8 : 0); }
+    static constexpr Vlq64s dataBytes(int order) {
+        return real ? (Vlq64s{4} << order) + 8 : Vlq64s{8} << order;
+    }
+    static constexpr Vlq64s integerWork(int order) {
+        return (Vlq64s{integerBytes} << order) + (real ? 8 : 0);
+    }
 };
 using C_16sc = Kind16<VlqsFFTSpec_C_16sc, FloatC32fc, Vlq32fc, 1, 28, false, 8>;
 using C_16s = Kind16<VlqsFFTSpec_C_16s, FloatC32f, Vlq32f, 2, 28, false, 12>;
@@ -45,7 +50,8 @@ void inIntegers(In src, Out dst, const auto& spec, Vlq32s scaleFactor, Vlq8u* wo
     for (int i = 0; i < n; ++i) x[i] = {widen(src.one(i).re, order), widen(src.one(i).im, order)};
     fixedTransform(order, x);
     for (int i = 0; i < n; ++i) {
-        dst.putOne(i, Value<Vlq16s>{narrow(halved(spec, x[i].re), shift), narrow(halved(spec, x[i].im), shift)});
+        dst.putOne(i, Value<Vlq16s>{narrow(halved(spec, x[i].re), shift),
+                                    narrow(halved(spec, x[i].im), shift)});
     }
 }
 
@@ -59,8 +65,8 @@ void scaleOne(auto src, auto dst, Vlq32s scaleFactor) {
 }
 
 template <Direction direction>
-VlqStatus interleaved(const Vlq16sc* src, Vlq16sc* dst, const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor,
-                      Vlq8u* buf) {
+VlqStatus interleaved(const Vlq16sc* src, Vlq16sc* dst, const VlqsFFTSpec_C_16sc* spec,
+                      Vlq32s scaleFactor, Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
     if (spec->ident != C_16sc::ident) return vlqStsBadSpec;
     if (!src || !dst) return vlqStsNullPtr;
@@ -85,8 +91,8 @@ VlqStatus interleaved(const Vlq16sc* src, Vlq16sc* dst, const VlqsFFTSpec_C_16sc
 }
 
 template <Direction direction>
-VlqStatus split(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe, Vlq16s* dstIm, const VlqsFFTSpec_C_16s* spec,
-                Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus split(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe, Vlq16s* dstIm,
+                const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor, Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
     if (spec->ident != C_16s::ident) return vlqStsBadSpec;
     if (!srcRe || !srcIm || !dstRe || !dstIm) return vlqStsNullPtr;
@@ -104,7 +110,8 @@ VlqStatus split(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe, Vlq16s*
         return vlqStsOk;
     }
     constexpr auto call = exchanged ? vlq::vlqsFFTInv_CToC_32f_I : vlq::vlqsFFTFwd_CToC_32f_I;
-    return splitThroughFloats<C_16s>(srcRe, srcIm, dstRe, dstIm, *spec, scaleFactor, work.data(), call);
+    return splitThroughFloats<C_16s>(srcRe, srcIm, dstRe, dstIm, *spec, scaleFactor, work.data(),
+                                     call);
 }
 
 template <Direction direction, Layout layout>
@@ -128,12 +135,14 @@ constexpr int placeOf(int i, int n) {
 }
 
 template <Direction direction, Layout layout>
-void realInIntegers(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s& spec, Vlq32s scaleFactor, Vlq8u* work) {
+void realInIntegers(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s& spec,
+                    Vlq32s scaleFactor, Vlq8u* work) {
     constexpr bool forward = direction == Direction::forward;
     const int order = spec.order, n = 1 << order;
     const Vlq64s shift = shiftOf<direction>(spec, scaleFactor);
     auto* const x = reinterpret_cast<Fixed*>(work);
-    for (int i = 0; i < n; ++i) x[i] = widen(scalarAt(src + (forward ? i : placeOf<layout>(i, n))), order);
+    for (int i = 0; i < n; ++i)
+        x[i] = widen(scalarAt(src + (forward ? i : placeOf<layout>(i, n))), order);
     fixedRealTransform<forward>(order, x);
     for (int i = 0; i < n; ++i) {
         putScalar(dst + (forward ? placeOf<layout>(i, n) : i), narrow(halved(spec, x[i]), shift));
@@ -145,7 +154,8 @@ void realInIntegers(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s& spe
 }
 
 template <Direction direction, Layout layout>
-VlqStatus real(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus real(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
+               Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
     if (spec->ident != R_16s::ident) return vlqStsBadSpec;
     if (!src || !dst) return vlqStsNullPtr;
@@ -162,21 +172,22 @@ VlqStatus real(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vl
         return vlqStsOk;
     }
     const Vlq32s n = Vlq32s{1} << spec->order, spectrum = layout == Layout::ccs ? ccsLength(n) : n;
-    return throughFloats<R_16s>(src, forward ? n : spectrum, dst, forward ? spectrum : n, *spec, scaleFactor,
-                                work.data(), floatCall<direction, layout>());
+    return throughFloats<R_16s>(src, forward ? n : spectrum, dst, forward ? spectrum : n, *spec,
+                                scaleFactor, work.data(), floatCall<direction, layout>());
 }
 
 }  // namespace
 
-VlqStatus vlq::vlqsFFTGetSize_C_16sc(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes,
-                                     Vlq32s* workBytes) {
+VlqStatus vlq::vlqsFFTGetSize_C_16sc(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
+                                     Vlq32s* initBytes, Vlq32s* workBytes) {
     return fixedGetSize<C_16sc>(order, flag, hint, specBytes, initBytes, workBytes);
 }
-VlqStatus vlq::vlqsFFTInit_C_16sc(VlqsFFTSpec_C_16sc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
-                                  Vlq8u* specMem, Vlq8u* initBuf) {
+VlqStatus vlq::vlqsFFTInit_C_16sc(VlqsFFTSpec_C_16sc** outSpec, Vlq32s order, Vlq32s flag,
+                                  VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf) {
     return fixedInit<C_16sc>(outSpec, order, flag, hint, specMem, initBuf);
 }
-VlqStatus vlq::vlqsFFTInitAlloc_C_16sc(VlqsFFTSpec_C_16sc** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+VlqStatus vlq::vlqsFFTInitAlloc_C_16sc(VlqsFFTSpec_C_16sc** outSpec, Vlq32s order, Vlq32s flag,
+                                       VlqHint hint) {
     return fixedInitAlloc<C_16sc>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_C_16sc(const VlqsFFTSpec_C_16sc* spec, Vlq32s* bufBytes) {
@@ -184,15 +195,16 @@ VlqStatus vlq::vlqsFFTGetBufSize_C_16sc(const VlqsFFTSpec_C_16sc* spec, Vlq32s* 
 }
 VlqStatus vlq::vlqsFFTFree_C_16sc(VlqsFFTSpec_C_16sc* spec) { return release<C_16sc>(spec); }
 
-VlqStatus vlq::vlqsFFTGetSize_C_16s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes,
-                                    Vlq32s* workBytes) {
+VlqStatus vlq::vlqsFFTGetSize_C_16s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
+                                    Vlq32s* initBytes, Vlq32s* workBytes) {
     return fixedGetSize<C_16s>(order, flag, hint, specBytes, initBytes, workBytes);
 }
-VlqStatus vlq::vlqsFFTInit_C_16s(VlqsFFTSpec_C_16s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
-                                 Vlq8u* specMem, Vlq8u* initBuf) {
+VlqStatus vlq::vlqsFFTInit_C_16s(VlqsFFTSpec_C_16s** outSpec, Vlq32s order, Vlq32s flag,
+                                 VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf) {
     return fixedInit<C_16s>(outSpec, order, flag, hint, specMem, initBuf);
 }
-VlqStatus vlq::vlqsFFTInitAlloc_C_16s(VlqsFFTSpec_C_16s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+VlqStatus vlq::vlqsFFTInitAlloc_C_16s(VlqsFFTSpec_C_16s** outSpec, Vlq32s order, Vlq32s flag,
+                                      VlqHint hint) {
     return fixedInitAlloc<C_16s>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_C_16s(const VlqsFFTSpec_C_16s* spec, Vlq32s* bufBytes) {
@@ -200,15 +212,16 @@ VlqStatus vlq::vlqsFFTGetBufSize_C_16s(const VlqsFFTSpec_C_16s* spec, Vlq32s* bu
 }
 VlqStatus vlq::vlqsFFTFree_C_16s(VlqsFFTSpec_C_16s* spec) { return release<C_16s>(spec); }
 
-VlqStatus vlq::vlqsFFTGetSize_R_16s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes,
-                                    Vlq32s* workBytes) {
+VlqStatus vlq::vlqsFFTGetSize_R_16s(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
+                                    Vlq32s* initBytes, Vlq32s* workBytes) {
     return fixedGetSize<R_16s>(order, flag, hint, specBytes, initBytes, workBytes);
 }
-VlqStatus vlq::vlqsFFTInit_R_16s(VlqsFFTSpec_R_16s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
-                                 Vlq8u* specMem, Vlq8u* initBuf) {
+VlqStatus vlq::vlqsFFTInit_R_16s(VlqsFFTSpec_R_16s** outSpec, Vlq32s order, Vlq32s flag,
+                                 VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf) {
     return fixedInit<R_16s>(outSpec, order, flag, hint, specMem, initBuf);
 }
-VlqStatus vlq::vlqsFFTInitAlloc_R_16s(VlqsFFTSpec_R_16s** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+VlqStatus vlq::vlqsFFTInitAlloc_R_16s(VlqsFFTSpec_R_16s** outSpec, Vlq32s order, Vlq32s flag,
+                                      VlqHint hint) {
     return fixedInitAlloc<R_16s>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_R_16s(const VlqsFFTSpec_R_16s* spec, Vlq32s* bufBytes) {
@@ -216,85 +229,99 @@ VlqStatus vlq::vlqsFFTGetBufSize_R_16s(const VlqsFFTSpec_R_16s* spec, Vlq32s* bu
 }
 VlqStatus vlq::vlqsFFTFree_R_16s(VlqsFFTSpec_R_16s* spec) { return release<R_16s>(spec); }
 
-VlqStatus vlq::vlqsFFTFwd_CToC_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, const VlqsFFTSpec_C_16sc* spec,
-                                        Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_CToC_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst,
+                                        const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor,
+                                        Vlq8u* buf) {
     return interleaved<Direction::forward>(src, dst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_CToC_16sc_ISfs(Vlq16sc* srcDst, const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor,
-                                         Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_CToC_16sc_ISfs(Vlq16sc* srcDst, const VlqsFFTSpec_C_16sc* spec,
+                                         Vlq32s scaleFactor, Vlq8u* buf) {
     return interleaved<Direction::forward>(srcDst, srcDst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_CToC_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, const VlqsFFTSpec_C_16sc* spec,
-                                        Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_CToC_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst,
+                                        const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor,
+                                        Vlq8u* buf) {
     return interleaved<Direction::inverse>(src, dst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_CToC_16sc_ISfs(Vlq16sc* srcDst, const VlqsFFTSpec_C_16sc* spec, Vlq32s scaleFactor,
-                                         Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_CToC_16sc_ISfs(Vlq16sc* srcDst, const VlqsFFTSpec_C_16sc* spec,
+                                         Vlq32s scaleFactor, Vlq8u* buf) {
     return interleaved<Direction::inverse>(srcDst, srcDst, spec, scaleFactor, buf);
 }
 
-VlqStatus vlq::vlqsFFTFwd_CToC_16s_Sfs(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe, Vlq16s* dstIm,
-                                       const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_CToC_16s_Sfs(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe,
+                                       Vlq16s* dstIm, const VlqsFFTSpec_C_16s* spec,
+                                       Vlq32s scaleFactor, Vlq8u* buf) {
     return split<Direction::forward>(srcRe, srcIm, dstRe, dstIm, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_CToC_16s_ISfs(Vlq16s* srcDstRe, Vlq16s* srcDstIm, const VlqsFFTSpec_C_16s* spec,
-                                        Vlq32s scaleFactor, Vlq8u* buf) {
-    return split<Direction::forward>(srcDstRe, srcDstIm, srcDstRe, srcDstIm, spec, scaleFactor, buf);
+VlqStatus vlq::vlqsFFTFwd_CToC_16s_ISfs(Vlq16s* srcDstRe, Vlq16s* srcDstIm,
+                                        const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor,
+                                        Vlq8u* buf) {
+    return split<Direction::forward>(srcDstRe, srcDstIm, srcDstRe, srcDstIm, spec, scaleFactor,
+                                     buf);
 }
-VlqStatus vlq::vlqsFFTInv_CToC_16s_Sfs(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe, Vlq16s* dstIm,
-                                       const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_CToC_16s_Sfs(const Vlq16s* srcRe, const Vlq16s* srcIm, Vlq16s* dstRe,
+                                       Vlq16s* dstIm, const VlqsFFTSpec_C_16s* spec,
+                                       Vlq32s scaleFactor, Vlq8u* buf) {
     return split<Direction::inverse>(srcRe, srcIm, dstRe, dstIm, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_CToC_16s_ISfs(Vlq16s* srcDstRe, Vlq16s* srcDstIm, const VlqsFFTSpec_C_16s* spec,
-                                        Vlq32s scaleFactor, Vlq8u* buf) {
-    return split<Direction::inverse>(srcDstRe, srcDstIm, srcDstRe, srcDstIm, spec, scaleFactor, buf);
+VlqStatus vlq::vlqsFFTInv_CToC_16s_ISfs(Vlq16s* srcDstRe, Vlq16s* srcDstIm,
+                                        const VlqsFFTSpec_C_16s* spec, Vlq32s scaleFactor,
+                                        Vlq8u* buf) {
+    return split<Direction::inverse>(srcDstRe, srcDstIm, srcDstRe, srcDstIm, spec, scaleFactor,
+                                     buf);
 }
 
-VlqStatus vlq::vlqsFFTFwd_RToCCS_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec,
-                                         Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToCCS_16s_Sfs(const Vlq16s* src, Vlq16s* dst,
+                                         const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
+                                         Vlq8u* buf) {
     return real<Direction::forward, Layout::ccs>(src, dst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToCCS_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
-                                          Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToCCS_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec,
+                                          Vlq32s scaleFactor, Vlq8u* buf) {
     return real<Direction::forward, Layout::ccs>(srcDst, srcDst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToPack_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec,
-                                          Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToPack_16s_Sfs(const Vlq16s* src, Vlq16s* dst,
+                                          const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
+                                          Vlq8u* buf) {
     return real<Direction::forward, Layout::pack>(src, dst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToPack_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
-                                           Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToPack_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec,
+                                           Vlq32s scaleFactor, Vlq8u* buf) {
     return real<Direction::forward, Layout::pack>(srcDst, srcDst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToPerm_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec,
-                                          Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToPerm_16s_Sfs(const Vlq16s* src, Vlq16s* dst,
+                                          const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
+                                          Vlq8u* buf) {
     return real<Direction::forward, Layout::perm>(src, dst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToPerm_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
-                                           Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToPerm_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec,
+                                           Vlq32s scaleFactor, Vlq8u* buf) {
     return real<Direction::forward, Layout::perm>(srcDst, srcDst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_CCSToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec,
-                                         Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_CCSToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst,
+                                         const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
+                                         Vlq8u* buf) {
     return real<Direction::inverse, Layout::ccs>(src, dst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_CCSToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
-                                          Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_CCSToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec,
+                                          Vlq32s scaleFactor, Vlq8u* buf) {
     return real<Direction::inverse, Layout::ccs>(srcDst, srcDst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_PackToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec,
-                                          Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_PackToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst,
+                                          const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
+                                          Vlq8u* buf) {
     return real<Direction::inverse, Layout::pack>(src, dst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_PackToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
-                                           Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_PackToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec,
+                                           Vlq32s scaleFactor, Vlq8u* buf) {
     return real<Direction::inverse, Layout::pack>(srcDst, srcDst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_PermToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec,
-                                          Vlq32s scaleFactor, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_PermToR_16s_Sfs(const Vlq16s* src, Vlq16s* dst,
+                                          const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
+                                          Vlq8u* buf) {
     return real<Direction::inverse, Layout::perm>(src, dst, spec, scaleFactor, buf);
 }
-VlqStatus vlq::vlqsFFTInv_PermToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec, Vlq32s scaleFactor,
-                                           Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_PermToR_16s_ISfs(Vlq16s* srcDst, const VlqsFFTSpec_R_16s* spec,
+                                           Vlq32s scaleFactor, Vlq8u* buf) {
     return real<Direction::inverse, Layout::perm>(srcDst, srcDst, spec, scaleFactor, buf);
 }

@@ -1,4 +1,4 @@
-#include "fourier/kernel/real.h"
+#include "fourier/kernel/real_transform.h"
 #include "fourier/plan/floating_specs.h"
 #include "fourier/plan/lifecycle.h"
 #include "fourier/plan/real_plan.h"
@@ -15,7 +15,8 @@ struct RealKind {
     static constexpr Vlq32s ident = kWord<SpecType>;
     static constexpr int largestOrder = RealLimits<T>::largest;
     static PlanSizes sizes(int order) { return realSizes<T>(order); }
-    static void build(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
+    static void build(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
+                      Cursor& cursor) {
         buildRealTables<T>(record, order, sine, cursor);
     }
 };
@@ -29,22 +30,25 @@ VlqStatus transform(const T* src, T* dst, const typename Kind::Spec* spec, Vlq8u
     if (!src || !dst) return vlqStsNullPtr;
     const WorkBuffer work(buf, spec->workBytes);
     if (work.refused()) return vlqStsNoMemory;
-    if constexpr (direction == Direction::forward) realForwardTransform<layout, T>(*spec, src, dst, work.data());
-    else realInverseTransform<layout, T>(*spec, src, dst, work.data());
+    if constexpr (direction == Direction::forward)
+        realForwardTransform<layout, T>(*spec, src, dst, work.data());
+    else
+        realInverseTransform<layout, T>(*spec, src, dst, work.data());
     return vlqStsOk;
 }
 
 }  // namespace
 
-VlqStatus vlq::vlqsFFTGetSize_R_32f(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s* specBytes, Vlq32s* initBytes,
-                                    Vlq32s* workBytes) {
+VlqStatus vlq::vlqsFFTGetSize_R_32f(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s* specBytes,
+                                    Vlq32s* initBytes, Vlq32s* workBytes) {
     return getSize<R_32f>(order, flag, specBytes, initBytes, workBytes);
 }
-VlqStatus vlq::vlqsFFTInit_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem,
-                                 Vlq8u* initBuf) {
+VlqStatus vlq::vlqsFFTInit_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag,
+                                 VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf) {
     return init<R_32f>(outSpec, order, flag, hint, specMem, initBuf);
 }
-VlqStatus vlq::vlqsFFTInitAlloc_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+VlqStatus vlq::vlqsFFTInitAlloc_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order, Vlq32s flag,
+                                      VlqHint hint) {
     return initAlloc<R_32f>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_R_32f(const VlqsFFTSpec_R_32f* spec, Vlq32s* bufBytes) {
@@ -52,13 +56,16 @@ VlqStatus vlq::vlqsFFTGetBufSize_R_32f(const VlqsFFTSpec_R_32f* spec, Vlq32s* bu
 }
 VlqStatus vlq::vlqsFFTFree_R_32f(VlqsFFTSpec_R_32f* spec) { return release<R_32f>(spec); }
 
-VlqStatus vlq::vlqsFFTFwd_RToCCS_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToCCS_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec,
+                                     Vlq8u* buf) {
     return transform<R_32f, Direction::forward, Layout::ccs>(src, dst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToPack_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToPack_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec,
+                                      Vlq8u* buf) {
     return transform<R_32f, Direction::forward, Layout::pack>(src, dst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToPerm_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToPerm_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec,
+                                      Vlq8u* buf) {
     return transform<R_32f, Direction::forward, Layout::perm>(src, dst, spec, buf);
 }
 VlqStatus vlq::vlqsFFTFwd_RToCCS_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
@@ -70,13 +77,16 @@ VlqStatus vlq::vlqsFFTFwd_RToPack_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f*
 VlqStatus vlq::vlqsFFTFwd_RToPerm_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
     return vlq::vlqsFFTFwd_RToPerm_32f(srcDst, srcDst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTInv_CCSToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_CCSToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec,
+                                     Vlq8u* buf) {
     return transform<R_32f, Direction::inverse, Layout::ccs>(src, dst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTInv_PackToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_PackToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec,
+                                      Vlq8u* buf) {
     return transform<R_32f, Direction::inverse, Layout::pack>(src, dst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTInv_PermToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_PermToR_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec,
+                                      Vlq8u* buf) {
     return transform<R_32f, Direction::inverse, Layout::perm>(src, dst, spec, buf);
 }
 VlqStatus vlq::vlqsFFTInv_CCSToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf) {
@@ -89,15 +99,16 @@ VlqStatus vlq::vlqsFFTInv_PermToR_32f_I(Vlq32f* srcDst, const VlqsFFTSpec_R_32f*
     return vlq::vlqsFFTInv_PermToR_32f(srcDst, srcDst, spec, buf);
 }
 
-VlqStatus vlq::vlqsFFTGetSize_R_64f(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s* specBytes, Vlq32s* initBytes,
-                                    Vlq32s* workBytes) {
+VlqStatus vlq::vlqsFFTGetSize_R_64f(Vlq32s order, Vlq32s flag, VlqHint, Vlq32s* specBytes,
+                                    Vlq32s* initBytes, Vlq32s* workBytes) {
     return getSize<R_64f>(order, flag, specBytes, initBytes, workBytes);
 }
-VlqStatus vlq::vlqsFFTInit_R_64f(VlqsFFTSpec_R_64f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem,
-                                 Vlq8u* initBuf) {
+VlqStatus vlq::vlqsFFTInit_R_64f(VlqsFFTSpec_R_64f** outSpec, Vlq32s order, Vlq32s flag,
+                                 VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf) {
     return init<R_64f>(outSpec, order, flag, hint, specMem, initBuf);
 }
-VlqStatus vlq::vlqsFFTInitAlloc_R_64f(VlqsFFTSpec_R_64f** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
+VlqStatus vlq::vlqsFFTInitAlloc_R_64f(VlqsFFTSpec_R_64f** outSpec, Vlq32s order, Vlq32s flag,
+                                      VlqHint hint) {
     return initAlloc<R_64f>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_R_64f(const VlqsFFTSpec_R_64f* spec, Vlq32s* bufBytes) {
@@ -105,13 +116,16 @@ VlqStatus vlq::vlqsFFTGetBufSize_R_64f(const VlqsFFTSpec_R_64f* spec, Vlq32s* bu
 }
 VlqStatus vlq::vlqsFFTFree_R_64f(VlqsFFTSpec_R_64f* spec) { return release<R_64f>(spec); }
 
-VlqStatus vlq::vlqsFFTFwd_RToCCS_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToCCS_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec,
+                                     Vlq8u* buf) {
     return transform<R_64f, Direction::forward, Layout::ccs>(src, dst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToPack_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToPack_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec,
+                                      Vlq8u* buf) {
     return transform<R_64f, Direction::forward, Layout::pack>(src, dst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTFwd_RToPerm_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTFwd_RToPerm_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec,
+                                      Vlq8u* buf) {
     return transform<R_64f, Direction::forward, Layout::perm>(src, dst, spec, buf);
 }
 VlqStatus vlq::vlqsFFTFwd_RToCCS_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {
@@ -123,13 +137,16 @@ VlqStatus vlq::vlqsFFTFwd_RToPack_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f*
 VlqStatus vlq::vlqsFFTFwd_RToPerm_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {
     return vlq::vlqsFFTFwd_RToPerm_64f(srcDst, srcDst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTInv_CCSToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_CCSToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec,
+                                     Vlq8u* buf) {
     return transform<R_64f, Direction::inverse, Layout::ccs>(src, dst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTInv_PackToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_PackToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec,
+                                      Vlq8u* buf) {
     return transform<R_64f, Direction::inverse, Layout::pack>(src, dst, spec, buf);
 }
-VlqStatus vlq::vlqsFFTInv_PermToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {
+VlqStatus vlq::vlqsFFTInv_PermToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec,
+                                      Vlq8u* buf) {
     return transform<R_64f, Direction::inverse, Layout::perm>(src, dst, spec, buf);
 }
 VlqStatus vlq::vlqsFFTInv_CCSToR_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf) {

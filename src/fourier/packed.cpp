@@ -1,6 +1,6 @@
 #include "fourier/packed_kernels.h"
 
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 
 namespace {
 
@@ -31,7 +31,8 @@ VlqStatus productPackConjugate(const T* src, T* srcDst, Vlq32s len) {
 }
 
 template <class T, class Complex>
-VlqStatus expand(const T* src, Complex* dst, Vlq32s len, void (*kernel)(const T*, T*, std::ptrdiff_t)) {
+VlqStatus expand(const T* src, Complex* dst, Vlq32s len,
+                 void (*kernel)(const T*, T*, std::ptrdiff_t)) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     kernel(src, reinterpret_cast<T*>(dst), len);

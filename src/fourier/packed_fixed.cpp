@@ -1,14 +1,15 @@
 #include "fourier/packed_fixed_kernels.h"
 
 #include "fourier/packed_kernels.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 
 namespace {
 
 using namespace vlq::packed;
 
 // The real terms stand at the front and, of an even length, at `second`; pairs begin at `pairs`.
-VlqStatus product(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor, bool perm) {
+VlqStatus product(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len,
+                  Vlq32s scaleFactor, bool perm) {
     if (!srcA || !srcB || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const ProductScale scale(scaleFactor);
@@ -20,7 +21,8 @@ VlqStatus product(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s le
     return vlqStsOk;
 }
 
-VlqStatus expand(const Vlq16s* src, Vlq16sc* dst, Vlq32s len, void (*kernel)(const Vlq16s*, Vlq16s*, std::ptrdiff_t)) {
+VlqStatus expand(const Vlq16s* src, Vlq16sc* dst, Vlq32s len,
+                 void (*kernel)(const Vlq16s*, Vlq16s*, std::ptrdiff_t)) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     kernel(src, reinterpret_cast<Vlq16s*>(dst), len);
@@ -30,17 +32,19 @@ VlqStatus expand(const Vlq16s* src, Vlq16sc* dst, Vlq32s len, void (*kernel)(con
 }  // namespace
 
 VlqStatus vlq::vlqsMulPack_16s_Sfs(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len,
-                                  Vlq32s scaleFactor) {
+                                   Vlq32s scaleFactor) {
     return product(srcA, srcB, dst, len, scaleFactor, false);
 }
-VlqStatus vlq::vlqsMulPack_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsMulPack_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len,
+                                    Vlq32s scaleFactor) {
     return product(src, srcDst, srcDst, len, scaleFactor, false);
 }
 VlqStatus vlq::vlqsMulPerm_16s_Sfs(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len,
-                                  Vlq32s scaleFactor) {
+                                   Vlq32s scaleFactor) {
     return product(srcA, srcB, dst, len, scaleFactor, true);
 }
-VlqStatus vlq::vlqsMulPerm_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor) {
+VlqStatus vlq::vlqsMulPerm_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len,
+                                    Vlq32s scaleFactor) {
     return product(src, srcDst, srcDst, len, scaleFactor, true);
 }
 

@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "frame/loop/map.h"
-#include "frame/scale.h"
+#include "frame/scale/scale.h"
 #include "frame/simd/multiply.h"
 #include "vlqs/types.h"
 
@@ -19,7 +19,8 @@ struct ProductScale {
     int right;
     int left;
     explicit ProductScale(Vlq32s scaleFactor)
-        : right(std::clamp(scaleFactor, 0, 31)), left(scaleFactor < 0 ? -std::max(scaleFactor, -16) : 0) {}
+        : right(std::clamp(scaleFactor, 0, 31)),
+          left(scaleFactor < 0 ? -std::max(scaleFactor, -16) : 0) {}
     Vlq16s operator()(Vlq32s product) const {
         if (left == 0) return clampTo16(product >> right);
         return clampTo16(clampTo16(product) * (Vlq32s{1} << left));
@@ -32,11 +33,12 @@ inline void multiplyReal(const Vlq16s* a, const Vlq16s* b, Vlq16s* dst, ProductS
 }
 
 // `pairs` complex values, interleaved; dst may be a or b. A value is a lane of 32 bits.
-inline void multiplyPairs(const Vlq16s* a, const Vlq16s* b, Vlq16s* dst, std::ptrdiff_t pairs, ProductScale scale) {
+inline void multiplyPairs(const Vlq16s* a, const Vlq16s* b, Vlq16s* dst, std::ptrdiff_t pairs,
+                          ProductScale scale) {
     using V = Vec<std::int32_t>;
     const auto multiply = [=](auto op) {
-        map(reinterpret_cast<std::int32_t*>(dst), pairs, op, reinterpret_cast<const std::int32_t*>(a),
-            reinterpret_cast<const std::int32_t*>(b));
+        map(reinterpret_cast<std::int32_t*>(dst), pairs, op,
+            reinterpret_cast<const std::int32_t*>(a), reinterpret_cast<const std::int32_t*>(b));
     };
     if (scale.left == 0) {
         multiply([right = scale.right](V x, V y) {

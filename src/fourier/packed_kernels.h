@@ -48,9 +48,11 @@ inline Split<T, B> multiplySplit(const T* a, const T* b, Op op) {
 
 // Whole vectors of B bytes each from pair i on; returns where they end.
 template <int B, class T, class Op>
-inline std::ptrdiff_t multiplyVectors(const T* a, const T* b, T* dst, std::ptrdiff_t i, std::ptrdiff_t pairs, Op op) {
+inline std::ptrdiff_t multiplyVectors(const T* a, const T* b, T* dst, std::ptrdiff_t i,
+                                      std::ptrdiff_t pairs, Op op) {
     constexpr int lanes = Split<T, B>::lanes;
-    for (; i + lanes <= pairs; i += lanes) storeSplit(dst + 2 * i, multiplySplit<B>(a + 2 * i, b + 2 * i, op));
+    for (; i + lanes <= pairs; i += lanes)
+        storeSplit(dst + 2 * i, multiplySplit<B>(a + 2 * i, b + 2 * i, op));
     return i;
 }
 
@@ -68,7 +70,8 @@ inline void multiplyPairs(const T* a, const T* b, T* dst, std::ptrdiff_t pairs, 
         std::memcpy(dst, product, bytes);
         return;
     }
-    // The last vector overlaps the one before; it is read before dst is written, which may be a source.
+    // The last vector overlaps the one before; it is read before dst is written, which may be a
+    // source.
     const std::ptrdiff_t last = 2 * (pairs - lanes);
     const auto ending = multiplySplit<16>(a + last, b + last, op);
     std::ptrdiff_t i = multiplyVectors<kVecBytes>(a, b, dst, 0, pairs, op);
@@ -91,8 +94,8 @@ inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
     T real[2] = {};
     multiplyReal(a, b, &real[0]);
     if (len % 2 == 0) {
-        // The real terms go through the pairs' loop and are put right after it: so its vectors stand
-        // where a transform stored its own and reads the next, and none waits for two stores.
+        // The real terms go through the pairs' loop and are put right after it: so its vectors
+        // stand where a transform stored its own and reads the next, and none waits for two stores.
         multiplyReal(a + 1, b + 1, &real[1]);
         multiplyPairs(a, b, dst, len / 2, op);
         std::memcpy(dst, real, sizeof real);
@@ -105,8 +108,11 @@ inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
 // -v, as the nearest value of the type.
 template <class T>
 inline T negated(T v) {
-    if constexpr (std::is_floating_point_v<T>) return -v;
-    else return v == std::numeric_limits<T>::min() ? std::numeric_limits<T>::max() : static_cast<T>(-v);
+    if constexpr (std::is_floating_point_v<T>)
+        return -v;
+    else
+        return v == std::numeric_limits<T>::min() ? std::numeric_limits<T>::max()
+                                                  : static_cast<T>(-v);
 }
 
 // The same for the odd lanes, which are the imaginary parts.
@@ -123,8 +129,8 @@ inline Vec<T> conjugated(Vec<T> values) {
     }
 }
 
-// Spectrum value k, and its conjugate at len - k, for k = 1 to `pairs`; pair 1 stands at `src`. From
-// the top down, so that src may be the front of dst.
+// Spectrum value k, and its conjugate at len - k, for k = 1 to `pairs`; pair 1 stands at `src`.
+// From the top down, so that src may be the front of dst.
 template <class T>
 inline void expandPairs(const T* src, T* dst, std::ptrdiff_t pairs, std::ptrdiff_t len) {
     constexpr int lanes = Vec<T>::lanes / 2;

@@ -38,7 +38,8 @@ inline void forkTeam(Vlq32s threads, Plan&& plan, Work&& work) {
 // no other block. The lowest status of all is the result. Which thread runs a block changes
 // nothing that the block writes.
 template <class Block>
-inline VlqStatus shareBlocks(Vlq32s threads, Vlq64s total, Vlq64s step, VlqStatus* status, Block&& block) {
+inline VlqStatus shareBlocks(Vlq32s threads, Vlq64s total, Vlq64s step, VlqStatus* status,
+                             Block&& block) {
     Vlq32s size = 0;
     Vlq64s blocks = 0;
     forkTeam(

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "arith/add_ref.h"
-#include "arith/digest.h"
+#include "harness/digest.h"
 #include "harness/sweep.h"
 #include "vlqs/arith.h"
 
@@ -15,7 +15,9 @@ namespace vlqtest {
 inline std::vector<int> scaleFactors() {
     std::vector<int> all;
     for (int s = -70; s <= 70; ++s) all.push_back(s);
-    for (const int s : {INT32_MIN, INT32_MIN + 1, -65536, -1000, -256, 256, 1000, 65536, INT32_MAX - 1, INT32_MAX}) all.push_back(s);
+    for (const int s : {INT32_MIN, INT32_MIN + 1, -65536, -1000, -256, 256, 1000, 65536,
+                        INT32_MAX - 1, INT32_MAX})
+        all.push_back(s);
     return all;
 }
 
@@ -23,7 +25,8 @@ inline std::vector<int> scaleFactors() {
 template <class T>
 std::vector<int> someScaleFactors() {
     const int bits = 8 * static_cast<int>(sizeof(T));
-    return {0, 1, 2, 3, bits / 2, bits, bits + 1, bits + 2, -1, 1 - bits, -bits / 2, -bits - 1, INT32_MIN};
+    return {0,        1,  2,        3,         bits / 2,  bits,     bits + 1,
+            bits + 2, -1, 1 - bits, -bits / 2, -bits - 1, INT32_MIN};
 }
 
 // Values around the powers of two, where a sum changes its range.
@@ -32,7 +35,8 @@ std::vector<T> corners() {
     std::vector<T> values;
     for (int shift = 0; shift <= std::numeric_limits<T>::digits; ++shift) {
         for (int d = -2; d <= 2; ++d) {
-            const auto value = static_cast<T>((std::uint64_t{1} << (shift < 64 ? shift : 63)) + static_cast<std::uint64_t>(d));
+            const auto value = static_cast<T>((std::uint64_t{1} << (shift < 64 ? shift : 63)) +
+                                              static_cast<std::uint64_t>(d));
             values.push_back(value);
             values.push_back(static_cast<T>(0 - static_cast<std::uint64_t>(value)));
         }
@@ -55,9 +59,10 @@ void appendRandom(std::vector<T>& values, std::size_t count, Rng& rng) {
     for (std::size_t i = 0; i < count; ++i) values.push_back(extremeValue<T>(rng));
 }
 
-// ---- two vectors -------------------------------------------------------------------------------
+// ---- two vectors --------------------------------------------------------------------------------
 template <class T>
-using TwoVectors = std::function<VlqStatus(const T* src1, const T* src2, T* dst, int len, int scaleFactor)>;
+using TwoVectors =
+    std::function<VlqStatus(const T* src1, const T* src2, T* dst, int len, int scaleFactor)>;
 template <class T>
 using InPlace = std::function<VlqStatus(const T* src, T* srcDst, int len, int scaleFactor)>;
 template <class T>
@@ -66,13 +71,15 @@ using Element = T (*)(T, T, Vlq32s);  // of the first and the second vector, and
 template <class T, class C>
 TwoVectors<T> over(VlqStatus (*call)(const C*, const C*, C*, Vlq32s, Vlq32s)) {
     return [call](const T* a, const T* b, T* d, int len, int s) {
-        return call(reinterpret_cast<const C*>(a), reinterpret_cast<const C*>(b), reinterpret_cast<C*>(d), len, s);
+        return call(reinterpret_cast<const C*>(a), reinterpret_cast<const C*>(b),
+                    reinterpret_cast<C*>(d), len, s);
     };
 }
 template <class T, class C>
 TwoVectors<T> over(VlqStatus (*call)(const C*, const C*, C*, Vlq32s)) {
     return [call](const T* a, const T* b, T* d, int len, int) {
-        return call(reinterpret_cast<const C*>(a), reinterpret_cast<const C*>(b), reinterpret_cast<C*>(d), len);
+        return call(reinterpret_cast<const C*>(a), reinterpret_cast<const C*>(b),
+                    reinterpret_cast<C*>(d), len);
     };
 }
 template <class T, class C>
@@ -89,17 +96,18 @@ InPlace<T> over(VlqStatus (*call)(const C*, C*, Vlq32s)) {
 }
 
 template <class T>
-std::vector<T> wanted(const std::vector<T>& a, const std::vector<T>& b, Element<T> ref, int scaleFactor) {
+std::vector<T> wanted(const std::vector<T>& a, const std::vector<T>& b, Element<T> ref,
+                      int scaleFactor) {
     std::vector<T> want(a.size());
     for (std::size_t i = 0; i < a.size(); ++i) want[i] = ref(a[i], b[i], scaleFactor);
     return want;
 }
 
-// Lengths, offsets and guard pages, with the scale factors in turn; in place, over the first and over the
-// second source, and of one vector alone. Either form may be absent.
+// Lengths, offsets and guard pages, with the scale factors in turn; in place, over the first and
+// over the second source, and of one vector alone. Either form may be absent.
 template <class T>
-void checkPlaces(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T> ref, const std::vector<int>& factors,
-                 std::size_t unit = 1) {
+void checkPlaces(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T> ref,
+                 const std::vector<int>& factors, std::size_t unit = 1) {
     std::size_t turn = 0;
     sweep(static_cast<int>(sizeof(T) * unit), {5003}, [&](Case& c) {
         const int scaleFactor = factors[turn++ % factors.size()];
@@ -121,7 +129,8 @@ void checkPlaces(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T
             dst.assign(a);
             const auto ofItself = wanted<T>(a, a, ref, scaleFactor);
             ASSERT_EQ(vlqStsOk, call(dst.data(), dst.data(), dst.data(), c.len, scaleFactor));
-            ASSERT_TRUE(same(dst, ofItself)) << "of itself over itself, scale factor " << scaleFactor;
+            ASSERT_TRUE(same(dst, ofItself))
+                << "of itself over itself, scale factor " << scaleFactor;
         }
         if (inPlace) {
             dst.assign(b);
@@ -142,7 +151,8 @@ TwoVectors<T> asTwo(const InPlace<T>& call) {
 // A form of complex values as one of twice as many reals.
 template <class T>
 TwoVectors<T> asReals(const TwoVectors<T>& call) {
-    return [call](const T* a, const T* b, T* d, int len, int s) { return call(a, b, d, len / 2, s); };
+    return
+        [call](const T* a, const T* b, T* d, int len, int s) { return call(a, b, d, len / 2, s); };
 }
 template <class T>
 InPlace<T> asReals(const InPlace<T>& call) {
@@ -150,34 +160,40 @@ InPlace<T> asReals(const InPlace<T>& call) {
 }
 
 template <class T>
-void checkPairs(const std::vector<TwoVectors<T>>& forms, Element<T> ref, const std::vector<T>& a, const std::vector<T>& b, int scaleFactor) {
+void checkPairs(const std::vector<TwoVectors<T>>& forms, Element<T> ref, const std::vector<T>& a,
+                const std::vector<T>& b, int scaleFactor) {
     const auto want = wanted<T>(a, b, ref, scaleFactor);
     for (std::size_t form = 0; form < forms.size(); ++form) {
         std::vector<T> dst(a.size());
-        ASSERT_EQ(vlqStsOk, forms[form](a.data(), b.data(), dst.data(), static_cast<int>(a.size()), scaleFactor));
+        ASSERT_EQ(vlqStsOk, forms[form](a.data(), b.data(), dst.data(), static_cast<int>(a.size()),
+                                        scaleFactor));
         for (std::size_t i = 0; i < a.size(); ++i) {
-            ASSERT_EQ(want[i], dst[i]) << +a[i] << " and " << +b[i] << " at scale factor " << scaleFactor << ", form " << form;
+            ASSERT_EQ(want[i], dst[i]) << +a[i] << " and " << +b[i] << " at scale factor "
+                                       << scaleFactor << ", form " << form;
         }
     }
 }
 
 // All pairs of corners, and random ones, at every scale factor given. An even number of each.
 template <class T>
-void checkValues(const std::vector<TwoVectors<T>>& forms, Element<T> ref, std::size_t randomPairs, const std::vector<int>& factors = scaleFactors()) {
+void checkValues(const std::vector<TwoVectors<T>>& forms, Element<T> ref, std::size_t randomPairs,
+                 const std::vector<int>& factors = scaleFactors()) {
     std::vector<T> a, b;
     appendCornerPairs(a, b);
     Rng rng(seed());
     for (const int scaleFactor : factors) {
         checkPairs<T>(forms, ref, a, b, scaleFactor);
-        checkPairs<T>(forms, ref, extremeVector<T>(randomPairs, rng), extremeVector<T>(randomPairs, rng), scaleFactor);
+        checkPairs<T>(forms, ref, extremeVector<T>(randomPairs, rng),
+                      extremeVector<T>(randomPairs, rng), scaleFactor);
         if (::testing::Test::HasFailure()) return;
     }
 }
 
-// ---- vector and constant --------------------------------------------------------------------------
+// ---- vector and constant ------------------------------------------------------------------------
 // The constant comes as its reals: one, or two of a complex one.
 template <class T>
-using WithConstant = std::function<VlqStatus(const T* src, const T* val, T* dst, int len, int scaleFactor)>;
+using WithConstant =
+    std::function<VlqStatus(const T* src, const T* val, T* dst, int len, int scaleFactor)>;
 
 template <class T, class C>
 WithConstant<T> constant(VlqStatus (*call)(const C*, C, C*, Vlq32s, Vlq32s)) {
@@ -214,8 +230,8 @@ WithConstant<T> constant(VlqStatus (*call)(C, C*, Vlq32s)) {
 }
 
 template <class T>
-void checkConstantPlaces(const WithConstant<T>& call, const WithConstant<T>& inPlace, Element<T> ref,
-                         const std::vector<int>& factors, std::size_t unit = 1) {
+void checkConstantPlaces(const WithConstant<T>& call, const WithConstant<T>& inPlace,
+                         Element<T> ref, const std::vector<int>& factors, std::size_t unit = 1) {
     std::size_t turn = 0;
     sweep(static_cast<int>(sizeof(T) * unit), {5003, 9001}, [&](Case& c) {
         const int scaleFactor = factors[turn++ % factors.size()];
@@ -230,24 +246,28 @@ void checkConstantPlaces(const WithConstant<T>& call, const WithConstant<T>& inP
         Buffer<T> dst(a.size(), c.place[0]);
         if (call) {
             ASSERT_EQ(vlqStsOk, call(src.data(), val.data(), dst.data(), c.len, scaleFactor));
-            ASSERT_TRUE(same(dst, want)) << "constant " << +val[0] << ", scale factor " << scaleFactor;
+            ASSERT_TRUE(same(dst, want))
+                << "constant " << +val[0] << ", scale factor " << scaleFactor;
         }
         dst.assign(a);
         ASSERT_EQ(vlqStsOk, inPlace(dst.data(), val.data(), dst.data(), c.len, scaleFactor));
-        ASSERT_TRUE(same(dst, want)) << "in place, constant " << +val[0] << ", scale factor " << scaleFactor;
+        ASSERT_TRUE(same(dst, want))
+            << "in place, constant " << +val[0] << ", scale factor " << scaleFactor;
     });
 }
 
 template <class T>
-void checkConstants(const WithConstant<T>& call, Element<T> ref, const std::vector<T>& src, const std::vector<T>& constants,
-                    const std::vector<int>& factors) {
+void checkConstants(const WithConstant<T>& call, Element<T> ref, const std::vector<T>& src,
+                    const std::vector<T>& constants, const std::vector<int>& factors) {
     std::vector<T> dst(src.size());
     for (const int scaleFactor : factors) {
         for (const T val : constants) {
-            ASSERT_EQ(vlqStsOk, call(src.data(), &val, dst.data(), static_cast<int>(src.size()), scaleFactor));
+            ASSERT_EQ(vlqStsOk, call(src.data(), &val, dst.data(), static_cast<int>(src.size()),
+                                     scaleFactor));
             for (std::size_t i = 0; i < src.size(); ++i) {
                 ASSERT_EQ(ref(src[i], val, scaleFactor), dst[i])
-                    << +src[i] << " and the constant " << +val << " at scale factor " << scaleFactor;
+                    << +src[i] << " and the constant " << +val << " at scale factor "
+                    << scaleFactor;
             }
         }
     }

@@ -5,46 +5,71 @@ namespace {
 using namespace vlqtest;
 
 template <class T>
-T addElement(T src, T val, Vlq32s scaleFactor) { return sumRef(src, val, scaleFactor); }
+T addElement(T src, T val, Vlq32s scaleFactor) {
+    return sumRef(src, val, scaleFactor);
+}
 template <class T>
-T subElement(T src, T val, Vlq32s scaleFactor) { return differenceRef(src, val, scaleFactor); }
+T subElement(T src, T val, Vlq32s scaleFactor) {
+    return differenceRef(src, val, scaleFactor);
+}
 template <class T>
-T reverseElement(T src, T val, Vlq32s scaleFactor) { return differenceRef(val, src, scaleFactor); }
+T reverseElement(T src, T val, Vlq32s scaleFactor) {
+    return differenceRef(val, src, scaleFactor);
+}
 
-// ---- lengths, offsets, guard pages ---------------------------------------------------------------
+// ---- lengths, offsets, guard pages --------------------------------------------------------------
 template <class T>
-void checkInteger(const WithConstant<T>& call, const WithConstant<T>& inPlace, Element<T> ref, std::size_t unit = 1) {
+void checkInteger(const WithConstant<T>& call, const WithConstant<T>& inPlace, Element<T> ref,
+                  std::size_t unit = 1) {
     checkConstantPlaces<T>(call, inPlace, ref, someScaleFactors<T>(), unit);
 }
 
 TEST(AddC, Places) {
-    checkInteger<Vlq8u>(constant<Vlq8u>(vlqsAddC_8u_Sfs), constant<Vlq8u>(vlqsAddC_8u_ISfs), addElement);
-    checkInteger<Vlq16u>(constant<Vlq16u>(vlqsAddC_16u_Sfs), constant<Vlq16u>(vlqsAddC_16u_ISfs), addElement);
-    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsAddC_16s_Sfs), constant<Vlq16s>(vlqsAddC_16s_ISfs), addElement);
-    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsAddC_32s_Sfs), constant<Vlq32s>(vlqsAddC_32s_ISfs), addElement);
-    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsAddC_16sc_Sfs), constant<Vlq16s>(vlqsAddC_16sc_ISfs), addElement, 2);
-    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsAddC_32sc_Sfs), constant<Vlq32s>(vlqsAddC_32sc_ISfs), addElement, 2);
+    checkInteger<Vlq8u>(constant<Vlq8u>(vlqsAddC_8u_Sfs), constant<Vlq8u>(vlqsAddC_8u_ISfs),
+                        addElement);
+    checkInteger<Vlq16u>(constant<Vlq16u>(vlqsAddC_16u_Sfs), constant<Vlq16u>(vlqsAddC_16u_ISfs),
+                         addElement);
+    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsAddC_16s_Sfs), constant<Vlq16s>(vlqsAddC_16s_ISfs),
+                         addElement);
+    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsAddC_32s_Sfs), constant<Vlq32s>(vlqsAddC_32s_ISfs),
+                         addElement);
+    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsAddC_16sc_Sfs), constant<Vlq16s>(vlqsAddC_16sc_ISfs),
+                         addElement, 2);
+    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsAddC_32sc_Sfs), constant<Vlq32s>(vlqsAddC_32sc_ISfs),
+                         addElement, 2);
     checkConstantPlaces<Vlq16s>(nullptr, constant<Vlq16s>(vlqsAddC_16s_I), addElement, {0});
 }
 TEST(SubC, Places) {
-    checkInteger<Vlq8u>(constant<Vlq8u>(vlqsSubC_8u_Sfs), constant<Vlq8u>(vlqsSubC_8u_ISfs), subElement);
-    checkInteger<Vlq16u>(constant<Vlq16u>(vlqsSubC_16u_Sfs), constant<Vlq16u>(vlqsSubC_16u_ISfs), subElement);
-    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsSubC_16s_Sfs), constant<Vlq16s>(vlqsSubC_16s_ISfs), subElement);
-    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsSubC_32s_Sfs), constant<Vlq32s>(vlqsSubC_32s_ISfs), subElement);
-    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsSubC_16sc_Sfs), constant<Vlq16s>(vlqsSubC_16sc_ISfs), subElement, 2);
-    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsSubC_32sc_Sfs), constant<Vlq32s>(vlqsSubC_32sc_ISfs), subElement, 2);
+    checkInteger<Vlq8u>(constant<Vlq8u>(vlqsSubC_8u_Sfs), constant<Vlq8u>(vlqsSubC_8u_ISfs),
+                        subElement);
+    checkInteger<Vlq16u>(constant<Vlq16u>(vlqsSubC_16u_Sfs), constant<Vlq16u>(vlqsSubC_16u_ISfs),
+                         subElement);
+    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsSubC_16s_Sfs), constant<Vlq16s>(vlqsSubC_16s_ISfs),
+                         subElement);
+    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsSubC_32s_Sfs), constant<Vlq32s>(vlqsSubC_32s_ISfs),
+                         subElement);
+    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsSubC_16sc_Sfs), constant<Vlq16s>(vlqsSubC_16sc_ISfs),
+                         subElement, 2);
+    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsSubC_32sc_Sfs), constant<Vlq32s>(vlqsSubC_32sc_ISfs),
+                         subElement, 2);
     checkConstantPlaces<Vlq16s>(nullptr, constant<Vlq16s>(vlqsSubC_16s_I), subElement, {0});
 }
 TEST(SubCRev, Places) {
-    checkInteger<Vlq8u>(constant<Vlq8u>(vlqsSubCRev_8u_Sfs), constant<Vlq8u>(vlqsSubCRev_8u_ISfs), reverseElement);
-    checkInteger<Vlq16u>(constant<Vlq16u>(vlqsSubCRev_16u_Sfs), constant<Vlq16u>(vlqsSubCRev_16u_ISfs), reverseElement);
-    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsSubCRev_16s_Sfs), constant<Vlq16s>(vlqsSubCRev_16s_ISfs), reverseElement);
-    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsSubCRev_32s_Sfs), constant<Vlq32s>(vlqsSubCRev_32s_ISfs), reverseElement);
-    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsSubCRev_16sc_Sfs), constant<Vlq16s>(vlqsSubCRev_16sc_ISfs), reverseElement, 2);
-    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsSubCRev_32sc_Sfs), constant<Vlq32s>(vlqsSubCRev_32sc_ISfs), reverseElement, 2);
+    checkInteger<Vlq8u>(constant<Vlq8u>(vlqsSubCRev_8u_Sfs), constant<Vlq8u>(vlqsSubCRev_8u_ISfs),
+                        reverseElement);
+    checkInteger<Vlq16u>(constant<Vlq16u>(vlqsSubCRev_16u_Sfs),
+                         constant<Vlq16u>(vlqsSubCRev_16u_ISfs), reverseElement);
+    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsSubCRev_16s_Sfs),
+                         constant<Vlq16s>(vlqsSubCRev_16s_ISfs), reverseElement);
+    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsSubCRev_32s_Sfs),
+                         constant<Vlq32s>(vlqsSubCRev_32s_ISfs), reverseElement);
+    checkInteger<Vlq16s>(constant<Vlq16s>(vlqsSubCRev_16sc_Sfs),
+                         constant<Vlq16s>(vlqsSubCRev_16sc_ISfs), reverseElement, 2);
+    checkInteger<Vlq32s>(constant<Vlq32s>(vlqsSubCRev_32sc_Sfs),
+                         constant<Vlq32s>(vlqsSubCRev_32sc_ISfs), reverseElement, 2);
 }
 
-// ---- values ------------------------------------------------------------------------------------------
+// ---- values -------------------------------------------------------------------------------------
 TEST(AddC, EveryPairOf8u) {
     std::vector<int> factors = {INT32_MIN, INT32_MAX};
     for (int s = -40; s <= 40; ++s) factors.push_back(s);
@@ -54,13 +79,18 @@ TEST(AddC, EveryPairOf8u) {
     checkConstants<Vlq8u>(constant<Vlq8u>(vlqsSubCRev_8u_Sfs), reverseElement, all, all, factors);
 }
 
-// Every sample of 16 bits under constants from the ends and the middle, at every scale factor of use.
+// Every sample of 16 bits under constants from the ends and the middle, at every scale factor of
+// use.
 template <class T>
 void checkEvery16(const WithConstant<T>& call, Element<T> ref) {
     std::vector<int> factors = {INT32_MIN, INT32_MAX};
     for (int s = -18; s <= 20; ++s) factors.push_back(s);
-    const std::vector<T> constants = {T{0}, T{1}, static_cast<T>(-1), std::numeric_limits<T>::max(),
-                                      std::numeric_limits<T>::min(), static_cast<T>(12345)};
+    const std::vector<T> constants = {T{0},
+                                      T{1},
+                                      static_cast<T>(-1),
+                                      std::numeric_limits<T>::max(),
+                                      std::numeric_limits<T>::min(),
+                                      static_cast<T>(12345)};
     checkConstants<T>(call, ref, everyValue<T>(), constants, factors);
 }
 TEST(AddC, EverySampleOf16) {
@@ -76,8 +106,8 @@ TEST(SubCRev, EverySampleOf16) {
     checkEvery16<Vlq16u>(constant<Vlq16u>(vlqsSubCRev_16u_Sfs), reverseElement);
 }
 
-// All pairs of corners and ten million random pairs, 40 constants and 3,400 samples of them at each of 75
-// scale factors; each against all forms. The complex ones see the constant in both parts.
+// All pairs of corners and ten million random pairs, 40 constants and 3,400 samples of them at each
+// of 75 scale factors; each against all forms. The complex ones see the constant in both parts.
 template <class T>
 void checkConstantValues(const std::vector<WithConstant<T>>& forms, Element<T> ref) {
     Rng rng(seed());
@@ -94,9 +124,11 @@ void checkConstantValues(const std::vector<WithConstant<T>>& forms, Element<T> r
             const auto want = wanted<T>(src, std::vector<T>(src.size(), pair[0]), ref, s);
             for (std::size_t form = 0; form < forms.size(); ++form) {
                 auto dst = src;
-                ASSERT_EQ(vlqStsOk, forms[form](src.data(), pair, dst.data(), static_cast<int>(src.size()), s));
+                ASSERT_EQ(vlqStsOk, forms[form](src.data(), pair, dst.data(),
+                                                static_cast<int>(src.size()), s));
                 for (std::size_t i = 0; i < src.size(); ++i) {
-                    ASSERT_EQ(want[i], dst[i]) << src[i] << " and the constant " << pair[0] << " at scale factor " << s << ", form " << form;
+                    ASSERT_EQ(want[i], dst[i]) << src[i] << " and the constant " << pair[0]
+                                               << " at scale factor " << s << ", form " << form;
                 }
             }
         }
@@ -104,31 +136,47 @@ void checkConstantValues(const std::vector<WithConstant<T>>& forms, Element<T> r
 }
 template <class T, class... C>
 WithConstant<T> complexConstant(VlqStatus (*call)(C...)) {
-    return [form = constant<T>(call)](const T* src, const T* val, T* dst, int len, int s) { return form(src, val, dst, len / 2, s); };
+    return [form = constant<T>(call)](const T* src, const T* val, T* dst, int len, int s) {
+        return form(src, val, dst, len / 2, s);
+    };
 }
 TEST(AddC, Values16sc) {
-    checkConstantValues<Vlq16s>({complexConstant<Vlq16s>(vlqsAddC_16sc_Sfs), complexConstant<Vlq16s>(vlqsAddC_16sc_ISfs)}, addElement);
-    checkConstantValues<Vlq16s>({complexConstant<Vlq16s>(vlqsSubC_16sc_Sfs), complexConstant<Vlq16s>(vlqsSubC_16sc_ISfs)}, subElement);
-    checkConstantValues<Vlq16s>({complexConstant<Vlq16s>(vlqsSubCRev_16sc_Sfs), complexConstant<Vlq16s>(vlqsSubCRev_16sc_ISfs)}, reverseElement);
+    checkConstantValues<Vlq16s>(
+        {complexConstant<Vlq16s>(vlqsAddC_16sc_Sfs), complexConstant<Vlq16s>(vlqsAddC_16sc_ISfs)},
+        addElement);
+    checkConstantValues<Vlq16s>(
+        {complexConstant<Vlq16s>(vlqsSubC_16sc_Sfs), complexConstant<Vlq16s>(vlqsSubC_16sc_ISfs)},
+        subElement);
+    checkConstantValues<Vlq16s>({complexConstant<Vlq16s>(vlqsSubCRev_16sc_Sfs),
+                                 complexConstant<Vlq16s>(vlqsSubCRev_16sc_ISfs)},
+                                reverseElement);
 }
 TEST(AddC, Values32s) {
-    checkConstantValues<Vlq32s>({constant<Vlq32s>(vlqsAddC_32s_Sfs), constant<Vlq32s>(vlqsAddC_32s_ISfs),
-                                 complexConstant<Vlq32s>(vlqsAddC_32sc_Sfs), complexConstant<Vlq32s>(vlqsAddC_32sc_ISfs)}, addElement);
+    checkConstantValues<Vlq32s>(
+        {constant<Vlq32s>(vlqsAddC_32s_Sfs), constant<Vlq32s>(vlqsAddC_32s_ISfs),
+         complexConstant<Vlq32s>(vlqsAddC_32sc_Sfs), complexConstant<Vlq32s>(vlqsAddC_32sc_ISfs)},
+        addElement);
 }
 TEST(SubC, Values32s) {
-    checkConstantValues<Vlq32s>({constant<Vlq32s>(vlqsSubC_32s_Sfs), constant<Vlq32s>(vlqsSubC_32s_ISfs),
-                                 complexConstant<Vlq32s>(vlqsSubC_32sc_Sfs), complexConstant<Vlq32s>(vlqsSubC_32sc_ISfs)}, subElement);
+    checkConstantValues<Vlq32s>(
+        {constant<Vlq32s>(vlqsSubC_32s_Sfs), constant<Vlq32s>(vlqsSubC_32s_ISfs),
+         complexConstant<Vlq32s>(vlqsSubC_32sc_Sfs), complexConstant<Vlq32s>(vlqsSubC_32sc_ISfs)},
+        subElement);
 }
 TEST(SubCRev, Values32s) {
-    checkConstantValues<Vlq32s>({constant<Vlq32s>(vlqsSubCRev_32s_Sfs), constant<Vlq32s>(vlqsSubCRev_32s_ISfs),
-                                 complexConstant<Vlq32s>(vlqsSubCRev_32sc_Sfs), complexConstant<Vlq32s>(vlqsSubCRev_32sc_ISfs)}, reverseElement);
+    checkConstantValues<Vlq32s>(
+        {constant<Vlq32s>(vlqsSubCRev_32s_Sfs), constant<Vlq32s>(vlqsSubCRev_32s_ISfs),
+         complexConstant<Vlq32s>(vlqsSubCRev_32sc_Sfs),
+         complexConstant<Vlq32s>(vlqsSubCRev_32sc_ISfs)},
+        reverseElement);
 }
 
-// ---- 64 bits with a rounding mode -----------------------------------------------------------------------
+// ---- 64 bits with a rounding mode ---------------------------------------------------------------
 template <class T>
 T roundedSum(T src, T val, Vlq32s scaleFactor, VlqRoundMode mode) {
     const Exact e = Exact{src} + val;
-    if (mode != vlqRndZero || scaleFactor <= 0) return scaleRef<T>(e, scaleFactor, mode == vlqRndNear ? Tie::Even : Tie::Away);
+    if (mode != vlqRndZero || scaleFactor <= 0)
+        return scaleRef<T>(e, scaleFactor, mode == vlqRndNear ? Tie::Even : Tie::Away);
     if (scaleFactor > 100) return 0;
     return clampRef<T>(e / (Exact{1} << scaleFactor));
 }
@@ -169,9 +217,11 @@ void checkRounded(Rounded<T> call) {
             const T val = constants[k];
             const VlqRoundMode mode = modes[(k + static_cast<std::size_t>(s & 3)) % 4];
             std::vector<T> dst(src.size());
-            ASSERT_EQ(vlqStsOk, call(src.data(), val, dst.data(), static_cast<Vlq32u>(src.size()), s, mode));
+            ASSERT_EQ(vlqStsOk,
+                      call(src.data(), val, dst.data(), static_cast<Vlq32u>(src.size()), s, mode));
             for (std::size_t i = 0; i < src.size(); ++i) {
-                ASSERT_EQ(roundedSum(src[i], val, s, mode), dst[i]) << src[i] << " and " << val << " at scale factor " << s << ", mode " << mode;
+                ASSERT_EQ(roundedSum(src[i], val, s, mode), dst[i])
+                    << src[i] << " and " << val << " at scale factor " << s << ", mode " << mode;
             }
         }
     }
@@ -196,41 +246,65 @@ TEST(AddC, LastBitOf64s) {
     EXPECT_EQ(0, one(INT64_MIN, INT64_MIN, 66, 2));
 }
 
-// ---- floats ------------------------------------------------------------------------------------------------
+// ---- floats -------------------------------------------------------------------------------------
 // A constant of 0 keeps the bits; all others are one operation.
 template <class T>
-T addFloat(T src, T val, Vlq32s) { return val == 0 ? src : src + val; }
+T addFloat(T src, T val, Vlq32s) {
+    return val == 0 ? src : src + val;
+}
 template <class T>
-T subFloat(T src, T val, Vlq32s) { return val == 0 ? src : src - val; }
+T subFloat(T src, T val, Vlq32s) {
+    return val == 0 ? src : src - val;
+}
 template <class T>
-T reverseFloat(T src, T val, Vlq32s) { return val - src; }
+T reverseFloat(T src, T val, Vlq32s) {
+    return val - src;
+}
 template <class T>
-T addComplex(T src, T val, Vlq32s) { return src + val; }
+T addComplex(T src, T val, Vlq32s) {
+    return src + val;
+}
 template <class T>
-T subComplex(T src, T val, Vlq32s) { return src - val; }
+T subComplex(T src, T val, Vlq32s) {
+    return src - val;
+}
 
 TEST(AddC, Float) {
-    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsAddC_32f), constant<Vlq32f>(vlqsAddC_32f_I), addFloat, {0});
-    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsAddC_64f), constant<Vlq64f>(vlqsAddC_64f_I), addFloat, {0});
-    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsAddC_32fc), constant<Vlq32f>(vlqsAddC_32fc_I), addComplex, {0}, 2);
-    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsAddC_64fc), constant<Vlq64f>(vlqsAddC_64fc_I), addComplex, {0}, 2);
+    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsAddC_32f), constant<Vlq32f>(vlqsAddC_32f_I),
+                                addFloat, {0});
+    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsAddC_64f), constant<Vlq64f>(vlqsAddC_64f_I),
+                                addFloat, {0});
+    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsAddC_32fc), constant<Vlq32f>(vlqsAddC_32fc_I),
+                                addComplex, {0}, 2);
+    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsAddC_64fc), constant<Vlq64f>(vlqsAddC_64fc_I),
+                                addComplex, {0}, 2);
 }
 TEST(SubC, Float) {
-    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsSubC_32f), constant<Vlq32f>(vlqsSubC_32f_I), subFloat, {0});
-    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsSubC_64f), constant<Vlq64f>(vlqsSubC_64f_I), subFloat, {0});
-    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsSubC_32fc), constant<Vlq32f>(vlqsSubC_32fc_I), subComplex, {0}, 2);
-    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsSubC_64fc), constant<Vlq64f>(vlqsSubC_64fc_I), subComplex, {0}, 2);
+    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsSubC_32f), constant<Vlq32f>(vlqsSubC_32f_I),
+                                subFloat, {0});
+    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsSubC_64f), constant<Vlq64f>(vlqsSubC_64f_I),
+                                subFloat, {0});
+    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsSubC_32fc), constant<Vlq32f>(vlqsSubC_32fc_I),
+                                subComplex, {0}, 2);
+    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsSubC_64fc), constant<Vlq64f>(vlqsSubC_64fc_I),
+                                subComplex, {0}, 2);
 }
 TEST(SubCRev, Float) {
-    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsSubCRev_32f), constant<Vlq32f>(vlqsSubCRev_32f_I), reverseFloat, {0});
-    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsSubCRev_64f), constant<Vlq64f>(vlqsSubCRev_64f_I), reverseFloat, {0});
-    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsSubCRev_32fc), constant<Vlq32f>(vlqsSubCRev_32fc_I), reverseFloat, {0}, 2);
-    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsSubCRev_64fc), constant<Vlq64f>(vlqsSubCRev_64fc_I), reverseFloat, {0}, 2);
+    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsSubCRev_32f),
+                                constant<Vlq32f>(vlqsSubCRev_32f_I), reverseFloat, {0});
+    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsSubCRev_64f),
+                                constant<Vlq64f>(vlqsSubCRev_64f_I), reverseFloat, {0});
+    checkConstantPlaces<Vlq32f>(constant<Vlq32f>(vlqsSubCRev_32fc),
+                                constant<Vlq32f>(vlqsSubCRev_32fc_I), reverseFloat, {0}, 2);
+    checkConstantPlaces<Vlq64f>(constant<Vlq64f>(vlqsSubCRev_64fc),
+                                constant<Vlq64f>(vlqsSubCRev_64fc_I), reverseFloat, {0}, 2);
 }
 
 TEST(AddC, ZeroKeepsTheBits) {
-    const std::vector<Vlq32f> v = {-0.0f, 0.0f, std::numeric_limits<Vlq32f>::signaling_NaN(), 1.5f, -INFINITY};
-    const std::vector<Vlq64f> w = {-0.0, 0.0, std::numeric_limits<Vlq64f>::signaling_NaN(), 1.5, -INFINITY};
+    const std::vector<Vlq32f> v = {-0.0f, 0.0f, std::numeric_limits<Vlq32f>::signaling_NaN(), 1.5f,
+                                   -INFINITY};
+    const std::vector<Vlq64f> w = {-0.0, 0.0, std::numeric_limits<Vlq64f>::signaling_NaN(), 1.5,
+                                   -INFINITY};
     const Buffer<Vlq32f> src(v);
     const Buffer<Vlq64f> wide(w);
     for (const Vlq32f zero : {0.0f, -0.0f}) {
@@ -262,7 +336,8 @@ TEST(AddC, ZeroKeepsTheBits) {
 TEST(AddC, NotANumberSpreads) {
     const std::vector<Vlq32f> v(37, 1.0f);
     std::vector<Vlq32f> dst(37);
-    ASSERT_EQ(vlqStsOk, vlqsAddC_32f(v.data(), std::numeric_limits<Vlq32f>::quiet_NaN(), dst.data(), 37));
+    ASSERT_EQ(vlqStsOk,
+              vlqsAddC_32f(v.data(), std::numeric_limits<Vlq32f>::quiet_NaN(), dst.data(), 37));
     for (const Vlq32f x : dst) EXPECT_TRUE(std::isnan(x));
 }
 
@@ -296,7 +371,7 @@ TEST(AddC, WrappedCopyOf64f) {
     EXPECT_TRUE(same(dst, std::vector<Vlq64f>{1.5, 7.0}));
 }
 
-// ---- statuses ---------------------------------------------------------------------------------------------
+// ---- statuses -----------------------------------------------------------------------------------
 template <class C>
 struct Forms {
     VlqStatus (*call)(const C*, C, C*, Vlq32s, Vlq32s);
@@ -307,7 +382,8 @@ const std::vector<int> kEveryRange = {0, 1, 2, 8, 9, 17, 18, 33, INT32_MAX, -1, 
 
 // Pointers, then length, whatever the constant and the scale factor.
 template <class C>
-void checkStatuses(Forms<C> forms, const std::vector<C>& constants, const std::vector<int>& factors = kEveryRange) {
+void checkStatuses(Forms<C> forms, const std::vector<C>& constants,
+                   const std::vector<int>& factors = kEveryRange) {
     const C src[2] = {};
     Buffer<C> dst(2);
     for (const C val : constants) {
@@ -328,7 +404,8 @@ void checkStatuses(Forms<C> forms, const std::vector<C>& constants, const std::v
 }
 
 template <class C>
-void checkStatuses(VlqStatus (*call)(const C*, C, C*, Vlq32s), VlqStatus (*inPlace)(C, C*, Vlq32s), const std::vector<C>& constants) {
+void checkStatuses(VlqStatus (*call)(const C*, C, C*, Vlq32s), VlqStatus (*inPlace)(C, C*, Vlq32s),
+                   const std::vector<C>& constants) {
     const C src[2] = {};
     Buffer<C> dst(2);
     for (const C val : constants) {
@@ -408,7 +485,8 @@ TEST(AddC, Statuses64) {
 TEST(AddC, Shortcuts16u) {
     const Vlq16u src[2] = {1, 2};
     Buffer<Vlq16u> dst(2);
-    for (const auto& forms : {Forms<Vlq16u>{vlqsAddC_16u_Sfs, vlqsAddC_16u_ISfs}, {vlqsSubC_16u_Sfs, vlqsSubC_16u_ISfs}}) {
+    for (const auto& forms : {Forms<Vlq16u>{vlqsAddC_16u_Sfs, vlqsAddC_16u_ISfs},
+                              {vlqsSubC_16u_Sfs, vlqsSubC_16u_ISfs}}) {
         checkStatuses<Vlq16u>(forms, {5}, {0, 1, 2, 16, 17, 18, INT32_MAX, -1, -15});
         EXPECT_EQ(vlqStsNullPtr, forms.call(nullptr, 0, dst.data(), 0, 0));
         EXPECT_EQ(vlqStsNullPtr, forms.call(src, 0, nullptr, 0, 0));
@@ -431,7 +509,8 @@ TEST(AddC, Shortcuts16u) {
 TEST(SubCRev, Shortcuts16u) {
     const Vlq16u src[2] = {1, 2};
     Buffer<Vlq16u> dst(2);
-    checkStatuses<Vlq16u>({vlqsSubCRev_16u_Sfs, vlqsSubCRev_16u_ISfs}, {5}, {0, 1, 2, 16, -1, -16, INT32_MIN});
+    checkStatuses<Vlq16u>({vlqsSubCRev_16u_Sfs, vlqsSubCRev_16u_ISfs}, {5},
+                          {0, 1, 2, 16, -1, -16, INT32_MIN});
     EXPECT_EQ(vlqStsNullPtr, vlqsSubCRev_16u_Sfs(src, 5, nullptr, 0, 17));
     EXPECT_EQ(vlqStsBadSize, vlqsSubCRev_16u_Sfs(src, 5, dst.data(), 0, 17));
     EXPECT_EQ(vlqStsBadSize, vlqsSubCRev_16u_ISfs(0, dst.data(), 0, 3));
@@ -448,7 +527,7 @@ TEST(SubCRev, KnownValue) {
     EXPECT_EQ(32767, dst);
 }
 
-// ---- digests ------------------------------------------------------------------------------------------------
+// ---- digests ------------------------------------------------------------------------------------
 template <class T>
 void checkDigest(const WithConstant<T>& call, Element<T> ref, std::uint64_t digest) {
     const auto src = fixedVector<T>(2000, 3), constants = fixedVector<T>(141, 4);

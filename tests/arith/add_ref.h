@@ -40,8 +40,12 @@ T scaleRef(Exact e, std::int32_t scaleFactor, Tie tie = Tie::Even) {
 }
 
 template <class T>
-T sumRef(T a, T b, std::int32_t scaleFactor) { return scaleRef<T>(Exact{a} + b, scaleFactor); }
+T sumRef(T a, T b, std::int32_t scaleFactor) {
+    return scaleRef<T>(Exact{a} + b, scaleFactor);
+}
 template <class T>
-T differenceRef(T a, T b, std::int32_t scaleFactor) { return scaleRef<T>(Exact{a} - b, scaleFactor); }
+T differenceRef(T a, T b, std::int32_t scaleFactor) {
+    return scaleRef<T>(Exact{a} - b, scaleFactor);
+}
 
 }  // namespace vlqtest

@@ -6,21 +6,31 @@ using namespace vlqtest;
 
 // Sub computes src2 - src1, in place srcDst - src.
 template <class T>
-T addElement(T src1, T src2, Vlq32s scaleFactor) { return sumRef(src1, src2, scaleFactor); }
+T addElement(T src1, T src2, Vlq32s scaleFactor) {
+    return sumRef(src1, src2, scaleFactor);
+}
 template <class T>
-T subElement(T src1, T src2, Vlq32s scaleFactor) { return differenceRef(src2, src1, scaleFactor); }
+T subElement(T src1, T src2, Vlq32s scaleFactor) {
+    return differenceRef(src2, src1, scaleFactor);
+}
 template <class T>
-T addFloat(T src1, T src2, Vlq32s) { return src1 + src2; }
+T addFloat(T src1, T src2, Vlq32s) {
+    return src1 + src2;
+}
 template <class T>
-T subFloat(T src1, T src2, Vlq32s) { return src2 - src1; }
+T subFloat(T src1, T src2, Vlq32s) {
+    return src2 - src1;
+}
 
-// ---- integers with a scale factor ----------------------------------------------------------------
-// Ten million random pairs, and all pairs of corners, over 151 scale factors; each against all forms.
+// ---- integers with a scale factor ---------------------------------------------------------------
+// Ten million random pairs, and all pairs of corners, over 151 scale factors; each against all
+// forms.
 constexpr std::size_t kPairs = 68000;
 
 // The complex forms take part where they are given.
 template <class T>
-void checkScaled(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T> ref, const TwoVectors<T>& complexCall = nullptr,
+void checkScaled(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T> ref,
+                 const TwoVectors<T>& complexCall = nullptr,
                  const InPlace<T>& complexInPlace = nullptr) {
     checkPlaces<T>(call, inPlace, ref, someScaleFactors<T>());
     std::vector<TwoVectors<T>> forms = {call};
@@ -34,16 +44,20 @@ void checkScaled(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T
 }
 
 TEST(Add, Scaled16s) {
-    checkScaled<Vlq16s>(vlqsAdd_16s_Sfs, vlqsAdd_16s_ISfs, addElement, over<Vlq16s>(vlqsAdd_16sc_Sfs), over<Vlq16s>(vlqsAdd_16sc_ISfs));
+    checkScaled<Vlq16s>(vlqsAdd_16s_Sfs, vlqsAdd_16s_ISfs, addElement,
+                        over<Vlq16s>(vlqsAdd_16sc_Sfs), over<Vlq16s>(vlqsAdd_16sc_ISfs));
 }
 TEST(Add, Scaled32s) {
-    checkScaled<Vlq32s>(vlqsAdd_32s_Sfs, vlqsAdd_32s_ISfs, addElement, over<Vlq32s>(vlqsAdd_32sc_Sfs), over<Vlq32s>(vlqsAdd_32sc_ISfs));
+    checkScaled<Vlq32s>(vlqsAdd_32s_Sfs, vlqsAdd_32s_ISfs, addElement,
+                        over<Vlq32s>(vlqsAdd_32sc_Sfs), over<Vlq32s>(vlqsAdd_32sc_ISfs));
 }
 TEST(Sub, Scaled16s) {
-    checkScaled<Vlq16s>(vlqsSub_16s_Sfs, vlqsSub_16s_ISfs, subElement, over<Vlq16s>(vlqsSub_16sc_Sfs), over<Vlq16s>(vlqsSub_16sc_ISfs));
+    checkScaled<Vlq16s>(vlqsSub_16s_Sfs, vlqsSub_16s_ISfs, subElement,
+                        over<Vlq16s>(vlqsSub_16sc_Sfs), over<Vlq16s>(vlqsSub_16sc_ISfs));
 }
 TEST(Sub, Scaled32s) {
-    checkScaled<Vlq32s>(vlqsSub_32s_Sfs, vlqsSub_32s_ISfs, subElement, over<Vlq32s>(vlqsSub_32sc_Sfs), over<Vlq32s>(vlqsSub_32sc_ISfs));
+    checkScaled<Vlq32s>(vlqsSub_32s_Sfs, vlqsSub_32s_ISfs, subElement,
+                        over<Vlq32s>(vlqsSub_32sc_Sfs), over<Vlq32s>(vlqsSub_32sc_ISfs));
 }
 TEST(Add, Scaled16u) { checkScaled<Vlq16u>(vlqsAdd_16u_Sfs, vlqsAdd_16u_ISfs, addElement); }
 TEST(Sub, Scaled16u) { checkScaled<Vlq16u>(vlqsSub_16u_Sfs, vlqsSub_16u_ISfs, subElement); }
@@ -72,7 +86,7 @@ TEST(Add, EveryPairOf8u) {
     }
 }
 
-// ---- integers without a scale factor ---------------------------------------------------------------
+// ---- integers without a scale factor ------------------------------------------------------------
 TEST(Add, Saturated) {
     checkPlaces<Vlq16s>(over<Vlq16s>(vlqsAdd_16s), over<Vlq16s>(vlqsAdd_16s_I), addElement, {0});
     checkPlaces<Vlq16u>(over<Vlq16u>(vlqsAdd_16u), nullptr, addElement, {0});
@@ -80,10 +94,12 @@ TEST(Add, Saturated) {
     checkPlaces<Vlq16s>(over<Vlq16s>(vlqsSub_16s), over<Vlq16s>(vlqsSub_16s_I), subElement, {0});
     // Ten million pairs, a part at a time.
     const std::vector<int> parts(10, 0);
-    checkValues<Vlq16s>({over<Vlq16s>(vlqsAdd_16s), asTwo(over<Vlq16s>(vlqsAdd_16s_I))}, addElement, 1'000'000, parts);
+    checkValues<Vlq16s>({over<Vlq16s>(vlqsAdd_16s), asTwo(over<Vlq16s>(vlqsAdd_16s_I))}, addElement,
+                        1'000'000, parts);
     checkValues<Vlq16u>({over<Vlq16u>(vlqsAdd_16u)}, addElement, 1'000'000, parts);
     checkValues<Vlq32u>({over<Vlq32u>(vlqsAdd_32u)}, addElement, 1'000'000, parts);
-    checkValues<Vlq16s>({over<Vlq16s>(vlqsSub_16s), asTwo(over<Vlq16s>(vlqsSub_16s_I))}, subElement, 1'000'000, parts);
+    checkValues<Vlq16s>({over<Vlq16s>(vlqsSub_16s), asTwo(over<Vlq16s>(vlqsSub_16s_I))}, subElement,
+                        1'000'000, parts);
 }
 
 template <class S, class D>
@@ -106,7 +122,8 @@ void checkWidened(VlqStatus (*call)(const S*, const S*, D*, Vlq32s), int sign) {
         appendRandom(b, 1'000'000, rng);
         std::vector<D> dst(a.size());
         ASSERT_EQ(vlqStsOk, call(a.data(), b.data(), dst.data(), static_cast<int>(a.size())));
-        for (std::size_t i = 0; i < a.size(); ++i) ASSERT_EQ(static_cast<D>(b[i] + sign * a[i]), dst[i]) << +a[i] << " and " << +b[i];
+        for (std::size_t i = 0; i < a.size(); ++i)
+            ASSERT_EQ(static_cast<D>(b[i] + sign * a[i]), dst[i]) << +a[i] << " and " << +b[i];
     }
 }
 
@@ -136,11 +153,12 @@ TEST(Add, WordsOntoIntegers) {
         appendRandom(b, 1'000'000, rng);
         auto dst = b;
         ASSERT_EQ(vlqStsOk, vlqsAdd_16s32s_I(a.data(), dst.data(), static_cast<int>(a.size())));
-        for (std::size_t i = 0; i < a.size(); ++i) ASSERT_EQ(sumRef<Vlq32s>(a[i], b[i], 0), dst[i]) << a[i] << " onto " << b[i];
+        for (std::size_t i = 0; i < a.size(); ++i)
+            ASSERT_EQ(sumRef<Vlq32s>(a[i], b[i], 0), dst[i]) << a[i] << " onto " << b[i];
     }
 }
 
-// ---- floats --------------------------------------------------------------------------------------------
+// ---- floats -------------------------------------------------------------------------------------
 TEST(Add, Float) {
     checkPlaces<Vlq32f>(over<Vlq32f>(vlqsAdd_32f), over<Vlq32f>(vlqsAdd_32f_I), addFloat, {0});
     checkPlaces<Vlq64f>(over<Vlq64f>(vlqsAdd_64f), over<Vlq64f>(vlqsAdd_64f_I), addFloat, {0});
@@ -171,10 +189,12 @@ void checkStreamed(const TwoVectors<T>& call, Element<T> ref) {
             ASSERT_TRUE(same(dst, want)) << "len " << len << ", offset " << offset;
             Buffer<T> sumOver(a, {offset, false});
             ASSERT_EQ(vlqStsOk, call(sumOver.data(), src2.data(), sumOver.data(), len, 0));
-            ASSERT_TRUE(same(sumOver, want)) << "over the first, len " << len << ", offset " << offset;
+            ASSERT_TRUE(same(sumOver, want))
+                << "over the first, len " << len << ", offset " << offset;
             sumOver.assign(b);
             ASSERT_EQ(vlqStsOk, call(src1.data(), sumOver.data(), sumOver.data(), len, 0));
-            ASSERT_TRUE(same(sumOver, want)) << "over the second, len " << len << ", offset " << offset;
+            ASSERT_TRUE(same(sumOver, want))
+                << "over the second, len " << len << ", offset " << offset;
         }
     }
 }
@@ -185,11 +205,12 @@ TEST(Add, FloatPastTheCache) {
     checkStreamed<Vlq32f>(over<Vlq32f>(vlqsSub_32f), subFloat);
 }
 
-// ---- statuses ---------------------------------------------------------------------------------------------
+// ---- statuses -----------------------------------------------------------------------------------
 enum class First { Pointers, Length };
 
 template <class S, class D, class... Scale>
-void checkStatuses(VlqStatus (*call)(const S*, const S*, D*, Vlq32s, Scale...), First first, Scale... scale) {
+void checkStatuses(VlqStatus (*call)(const S*, const S*, D*, Vlq32s, Scale...), First first,
+                   Scale... scale) {
     const S src[4] = {};
     Buffer<D> dst(4);
     const VlqStatus both = first == First::Pointers ? vlqStsNullPtr : vlqStsBadSize;
@@ -232,7 +253,8 @@ void checkStatuses(VlqStatus (*call)(const S*, D*, Vlq32s, Scale...), First firs
 }
 template <class Call>
 void checkScaledStatuses(Call call, First first = First::Pointers) {
-    for (const Vlq32s s : {0, 1, 2, 18, 40, 64, INT32_MAX, -1, -20, INT32_MIN}) checkStatuses(call, first, s);
+    for (const Vlq32s s : {0, 1, 2, 18, 40, 64, INT32_MAX, -1, -20, INT32_MIN})
+        checkStatuses(call, first, s);
 }
 
 TEST(Add, Statuses) {
@@ -302,7 +324,7 @@ TEST(Add, WrappedClearOf64s) {
     EXPECT_TRUE(dst.untouched());
 }
 
-// ---- single values ----------------------------------------------------------------------------------------
+// ---- single values ------------------------------------------------------------------------------
 template <class T>
 T one(VlqStatus (*call)(const T*, const T*, T*, Vlq32s, Vlq32s), T src1, T src2, int scaleFactor) {
     T dst{};
@@ -311,7 +333,9 @@ T one(VlqStatus (*call)(const T*, const T*, T*, Vlq32s, Vlq32s), T src1, T src2,
 }
 
 TEST(Add, KnownValues) {
-    auto add16s = [](int a, int b, int s) { return one<Vlq16s>(vlqsAdd_16s_Sfs, static_cast<Vlq16s>(a), static_cast<Vlq16s>(b), s); };
+    auto add16s = [](int a, int b, int s) {
+        return one<Vlq16s>(vlqsAdd_16s_Sfs, static_cast<Vlq16s>(a), static_cast<Vlq16s>(b), s);
+    };
     EXPECT_EQ(32767, add16s(32767, 32767, 0));
     EXPECT_EQ(32767, add16s(32767, 32767, 1));
     EXPECT_EQ(1, add16s(32767, 32767, 16));
@@ -341,12 +365,13 @@ TEST(Sub, ExchangedOperandsNegate) {
         ASSERT_EQ(vlqStsOk, vlqsSub_32s_Sfs(b.data(), a.data(), back.data(), 4096, s));
         for (std::size_t i = 0; i < a.size(); ++i) {
             const Vlq32s negated = forth[i] == INT32_MIN ? INT32_MAX : -forth[i];
-            ASSERT_TRUE(back[i] == negated || (forth[i] == INT32_MAX && back[i] == INT32_MIN)) << i << " at " << s;
+            ASSERT_TRUE(back[i] == negated || (forth[i] == INT32_MAX && back[i] == INT32_MIN))
+                << i << " at " << s;
         }
     }
 }
 
-// ---- digests ------------------------------------------------------------------------------------------------
+// ---- digests ------------------------------------------------------------------------------------
 template <class T>
 void checkDigest(const TwoVectors<T>& call, Element<T> ref, std::uint64_t digest) {
     const auto a = fixedVector<T>(2000, 1), b = fixedVector<T>(2000, 2);

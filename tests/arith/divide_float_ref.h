@@ -8,7 +8,8 @@
 
 namespace vlqtest {
 
-// Parts of (c + di) / (a + bi). Where the divisor is 0 each part of the numerator over its real part.
+// Parts of (c + di) / (a + bi). Where the divisor is 0 each part of the numerator over its real
+// part.
 struct LongComplex {
     long double re, im;
 };
@@ -24,17 +25,22 @@ LongComplex complexQuotientRef(C divisor, C numerator) {
 template <class T>
 double stepsApart(T got, long double want) {
     const T rounded = static_cast<T>(want);
-    if (std::isnan(got) || std::isnan(rounded)) return std::isnan(got) && std::isnan(rounded) ? 0 : INFINITY;
+    if (std::isnan(got) || std::isnan(rounded))
+        return std::isnan(got) && std::isnan(rounded) ? 0 : INFINITY;
     if (got == rounded) return std::signbit(got) == std::signbit(rounded) ? 0 : INFINITY;
     if (std::isinf(got) || std::isinf(rounded)) {
         // The last step before infinity.
         const T finite = std::isinf(got) ? rounded : got;
-        return std::abs(finite) == std::numeric_limits<T>::max() && std::signbit(got) == std::signbit(rounded) ? 1 : INFINITY;
+        return std::abs(finite) == std::numeric_limits<T>::max() &&
+                       std::signbit(got) == std::signbit(rounded)
+                   ? 1
+                   : INFINITY;
     }
     int exponent = 0;
     std::frexp(rounded, &exponent);
     const int lowest = std::numeric_limits<T>::min_exponent;
-    const long double step = std::ldexp(1.0L, (exponent < lowest ? lowest : exponent) - std::numeric_limits<T>::digits);
+    const long double step =
+        std::ldexp(1.0L, (exponent < lowest ? lowest : exponent) - std::numeric_limits<T>::digits);
     return static_cast<double>(std::abs(static_cast<long double>(got) - want) / step);
 }
 

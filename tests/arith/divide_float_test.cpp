@@ -2,7 +2,7 @@
 
 #include "arith/divide_float_ref.h"
 
-#include "arith/element.h"
+#include "harness/element.h"
 #include "vlqs/arith.h"
 
 namespace {
@@ -11,8 +11,10 @@ using namespace vlqtest;
 
 template <class T>
 bool isZero(T v) {
-    if constexpr (ComplexElement<T>) return v.re == 0 && v.im == 0;
-    else return v == 0;
+    if constexpr (ComplexElement<T>)
+        return v.re == 0 && v.im == 0;
+    else
+        return v == 0;
 }
 template <class T>
 VlqStatus expectedStatus(const std::vector<T>& divisors) {
@@ -29,18 +31,23 @@ std::vector<T> someValues(std::size_t count, std::size_t turn, Rng& rng) {
     std::uniform_real_distribution<double> draw(0.5, 100);
     std::vector<T> values(count);
     for (T& v : values) {
-        if constexpr (ComplexElement<T>) v = {static_cast<decltype(v.re)>(draw(rng)), static_cast<decltype(v.re)>(-draw(rng))};
-        else v = static_cast<T>(rng() % 2 ? draw(rng) : -draw(rng));
+        if constexpr (ComplexElement<T>)
+            v = {static_cast<decltype(v.re)>(draw(rng)), static_cast<decltype(v.re)>(-draw(rng))};
+        else
+            v = static_cast<T>(rng() % 2 ? draw(rng) : -draw(rng));
     }
     if (turn % 3 == 2) {
-        if constexpr (ComplexElement<T>) values[rng() % count] = {0, -0.0f};
-        else values[rng() % count] = T(-0.0);
+        if constexpr (ComplexElement<T>)
+            values[rng() % count] = {0, -0.0f};
+        else
+            values[rng() % count] = T(-0.0);
     }
     return values;
 }
 
 template <class T, class Close>
-void checkQuotients(VlqStatus (*call)(const T*, const T*, T*, Vlq32s), VlqStatus (*inPlace)(const T*, T*, Vlq32s), Close close) {
+void checkQuotients(VlqStatus (*call)(const T*, const T*, T*, Vlq32s),
+                    VlqStatus (*inPlace)(const T*, T*, Vlq32s), Close close) {
     std::size_t turn = 0;
     sweep(sizeof(T), {511, 512, 513, 1024, 2049, 20011}, [&](Case& c) {
         const auto n = static_cast<std::size_t>(c.len);
@@ -50,7 +57,9 @@ void checkQuotients(VlqStatus (*call)(const T*, const T*, T*, Vlq32s), VlqStatus
         ASSERT_EQ(expectedStatus(a), call(src1.data(), src2.data(), dst.data(), c.len));
         const auto got = dst.values();
         ASSERT_TRUE(dst.marginsIntact());
-        for (std::size_t i = 0; i < n; ++i) ASSERT_TRUE(close(got[i], a[i], b[i])) << show(b[i]) << " / " << show(a[i]) << " gave " << show(got[i]);
+        for (std::size_t i = 0; i < n; ++i)
+            ASSERT_TRUE(close(got[i], a[i], b[i]))
+                << show(b[i]) << " / " << show(a[i]) << " gave " << show(got[i]);
         dst.assign(b);
         ASSERT_EQ(expectedStatus(a), inPlace(src1.data(), dst.data(), c.len));
         ASSERT_TRUE(sameNumbers(dst, got)) << "in place";
@@ -86,14 +95,17 @@ bool close64fc(Vlq64fc got, Vlq64fc a, Vlq64fc b, long double units) {
     const long double size = std::hypot(want.re, want.im);
     if (size > static_cast<long double>(std::numeric_limits<double>::max()) * 0.999L) return true;
     const long double bound = units * 0x1p-53L * size + 4 * 0x1p-1074L;
-    return std::abs(static_cast<long double>(got.re) - want.re) <= bound && std::abs(static_cast<long double>(got.im) - want.im) <= bound;
+    return std::abs(static_cast<long double>(got.re) - want.re) <= bound &&
+           std::abs(static_cast<long double>(got.im) - want.im) <= bound;
 }
 
 TEST(DivFloat, Vectors32f) { checkQuotients<Vlq32f>(vlqsDiv_32f, vlqsDiv_32f_I, exact32f); }
 TEST(DivFloat, Vectors64f) { checkQuotients<Vlq64f>(vlqsDiv_64f, vlqsDiv_64f_I, exact64f); }
 TEST(DivFloat, Vectors32fc) { checkQuotients<Vlq32fc>(vlqsDiv_32fc, vlqsDiv_32fc_I, exact32fc); }
 TEST(DivFloat, Vectors64fc) {
-    checkQuotients<Vlq64fc>(vlqsDiv_64fc, vlqsDiv_64fc_I, [](Vlq64fc got, Vlq64fc a, Vlq64fc b) { return close64fc(got, a, b, 6); });
+    checkQuotients<Vlq64fc>(vlqsDiv_64fc, vlqsDiv_64fc_I, [](Vlq64fc got, Vlq64fc a, Vlq64fc b) {
+        return close64fc(got, a, b, 6);
+    });
 }
 
 // Any bits at all, ten million pairs.
@@ -106,12 +118,16 @@ TEST(DivFloat, AllExponents32f) {
             b[i] = std::bit_cast<Vlq32f>(static_cast<std::uint32_t>(rng()));
             // One in two near 1.
             if (i / 64 % 2 == 0) {
-                a[i] = std::bit_cast<Vlq32f>((std::bit_cast<std::uint32_t>(a[i]) & 0x807FFFFF) | 0x3F800000);
-                b[i] = std::bit_cast<Vlq32f>((std::bit_cast<std::uint32_t>(b[i]) & 0x80FFFFFF) | 0x3F000000);
+                a[i] = std::bit_cast<Vlq32f>((std::bit_cast<std::uint32_t>(a[i]) & 0x807FFFFF) |
+                                             0x3F800000);
+                b[i] = std::bit_cast<Vlq32f>((std::bit_cast<std::uint32_t>(b[i]) & 0x80FFFFFF) |
+                                             0x3F000000);
             }
         }
         vlqsDiv_32f(a.data(), b.data(), dst.data(), static_cast<int>(a.size()));
-        for (std::size_t i = 0; i < a.size(); ++i) ASSERT_TRUE(exact32f(dst[i], a[i], b[i])) << show(b[i]) << " / " << show(a[i]) << " gave " << show(dst[i]);
+        for (std::size_t i = 0; i < a.size(); ++i)
+            ASSERT_TRUE(exact32f(dst[i], a[i], b[i]))
+                << show(b[i]) << " / " << show(a[i]) << " gave " << show(dst[i]);
     }
 }
 
@@ -124,23 +140,29 @@ TEST(DivFloat, AllExponents64fc) {
         for (std::size_t i = 0; i < a.size(); ++i) {
             const auto any = [&] {
                 const int e = static_cast<int>(rng() % 2090) - 1068;
-                return Vlq64fc{std::ldexp(draw(rng), e), std::ldexp(draw(rng), e - static_cast<int>(rng() % 60))};
+                return Vlq64fc{std::ldexp(draw(rng), e),
+                               std::ldexp(draw(rng), e - static_cast<int>(rng() % 60))};
             };
             a[i] = any();
             b[i] = any();
         }
         vlqsDiv_64fc(a.data(), b.data(), dst.data(), static_cast<int>(a.size()));
-        for (std::size_t i = 0; i < a.size(); ++i) ASSERT_TRUE(close64fc(dst[i], a[i], b[i], 6)) << show(b[i]) << " / " << show(a[i]) << " gave " << show(dst[i]);
+        for (std::size_t i = 0; i < a.size(); ++i)
+            ASSERT_TRUE(close64fc(dst[i], a[i], b[i], 6))
+                << show(b[i]) << " / " << show(a[i]) << " gave " << show(dst[i]);
         const Vlq64fc val = a[0];
         if (isZero(val)) continue;
         ASSERT_EQ(vlqStsOk, vlqsDivC_64fc(b.data(), val, dst.data(), static_cast<int>(b.size())));
-        for (std::size_t i = 0; i < a.size(); ++i) ASSERT_TRUE(close64fc(dst[i], val, b[i], 8)) << show(b[i]) << " / " << show(val) << " gave " << show(dst[i]);
+        for (std::size_t i = 0; i < a.size(); ++i)
+            ASSERT_TRUE(close64fc(dst[i], val, b[i], 8))
+                << show(b[i]) << " / " << show(val) << " gave " << show(dst[i]);
     }
 }
 
-// ---- constants -----------------------------------------------------------------------------------------
+// ---- constants ----------------------------------------------------------------------------------
 template <class T, class Close>
-void checkConstant(VlqStatus (*call)(const T*, T, T*, Vlq32s), VlqStatus (*inPlace)(T, T*, Vlq32s), const std::vector<T>& constants, Close close) {
+void checkConstant(VlqStatus (*call)(const T*, T, T*, Vlq32s), VlqStatus (*inPlace)(T, T*, Vlq32s),
+                   const std::vector<T>& constants, Close close) {
     std::size_t turn = 0;
     sweep(sizeof(T), {5003}, [&](Case& c) {
         const auto n = static_cast<std::size_t>(c.len);
@@ -151,7 +173,9 @@ void checkConstant(VlqStatus (*call)(const T*, T, T*, Vlq32s), VlqStatus (*inPla
         ASSERT_EQ(vlqStsOk, call(src.data(), val, dst.data(), c.len));
         const auto got = dst.values();
         ASSERT_TRUE(dst.marginsIntact());
-        for (std::size_t i = 0; i < n; ++i) ASSERT_TRUE(close(got[i], val, b[i])) << show(b[i]) << " / " << show(val) << " gave " << show(got[i]);
+        for (std::size_t i = 0; i < n; ++i)
+            ASSERT_TRUE(close(got[i], val, b[i]))
+                << show(b[i]) << " / " << show(val) << " gave " << show(got[i]);
         dst.assign(b);
         ASSERT_EQ(vlqStsOk, inPlace(val, dst.data(), c.len));
         ASSERT_TRUE(sameNumbers(dst, got)) << "in place";
@@ -163,20 +187,43 @@ bool nearReciprocal(T got, T a, T b) {
     return stepsApart(got, static_cast<long double>(b) / static_cast<long double>(a)) <= 2;
 }
 TEST(DivCFloat, Reals) {
-    checkConstant<Vlq32f>(vlqsDivC_32f, vlqsDivC_32f_I, {1, -3, 7.5f, 1e30f, -1e-30f, 0x1p-126f, 0x1p-149f, 3.4e38f, 0x1.8p-140f, INFINITY}, nearReciprocal<Vlq32f>);
-    checkConstant<Vlq64f>(vlqsDivC_64f, vlqsDivC_64f_I, {1, -3, 7.5, 1e300, -1e-300, 0x1p-1022, 0x1p-1074, 1.79e308, 0x1.8p-1040, INFINITY}, nearReciprocal<Vlq64f>);
+    checkConstant<Vlq32f>(
+        vlqsDivC_32f, vlqsDivC_32f_I,
+        {1, -3, 7.5f, 1e30f, -1e-30f, 0x1p-126f, 0x1p-149f, 3.4e38f, 0x1.8p-140f, INFINITY},
+        nearReciprocal<Vlq32f>);
+    checkConstant<Vlq64f>(
+        vlqsDivC_64f, vlqsDivC_64f_I,
+        {1, -3, 7.5, 1e300, -1e-300, 0x1p-1022, 0x1p-1074, 1.79e308, 0x1.8p-1040, INFINITY},
+        nearReciprocal<Vlq64f>);
 }
 TEST(DivCFloat, Complex) {
     const auto near32 = [](Vlq32fc got, Vlq32fc a, Vlq32fc b) {
         if (!finite(b)) return true;
         const LongComplex want = complexQuotientRef(a, b);
-        const long double size = std::hypot(want.re, want.im), bound = 0.51L * 0x1p-23L * size + 0x1p-149L;
-        const auto part = [&](float x, long double y) { return std::isinf(static_cast<float>(y)) ? true : std::abs(static_cast<long double>(x) - y) <= bound; };
+        const long double size = std::hypot(want.re, want.im),
+                          bound = 0.51L * 0x1p-23L * size + 0x1p-149L;
+        const auto part = [&](float x, long double y) {
+            return std::isinf(static_cast<float>(y))
+                       ? true
+                       : std::abs(static_cast<long double>(x) - y) <= bound;
+        };
         return part(got.re, want.re) && part(got.im, want.im);
     };
-    checkConstant<Vlq32fc>(vlqsDivC_32fc, vlqsDivC_32fc_I, {{1, 0}, {0, -2}, {3, 4}, {1e-38f, 1e-38f}, {0x1p-149f, 0}, {3e38f, -3e38f}, {0, 1e-30f}}, near32);
-    checkConstant<Vlq64fc>(vlqsDivC_64fc, vlqsDivC_64fc_I, {{1, 0}, {0, -2}, {3, 4}, {1e-308, 1e-308}, {0x1p-1074, 0}, {1e308, -1e308}, {0, 1e-300}, {1e200, 1e-200}},
-                           [](Vlq64fc got, Vlq64fc a, Vlq64fc b) { return close64fc(got, a, b, 8); });
+    checkConstant<Vlq32fc>(
+        vlqsDivC_32fc, vlqsDivC_32fc_I,
+        {{1, 0}, {0, -2}, {3, 4}, {1e-38f, 1e-38f}, {0x1p-149f, 0}, {3e38f, -3e38f}, {0, 1e-30f}},
+        near32);
+    checkConstant<Vlq64fc>(
+        vlqsDivC_64fc, vlqsDivC_64fc_I,
+        {{1, 0},
+         {0, -2},
+         {3, 4},
+         {1e-308, 1e-308},
+         {0x1p-1074, 0},
+         {1e308, -1e308},
+         {0, 1e-300},
+         {1e200, 1e-200}},
+        [](Vlq64fc got, Vlq64fc a, Vlq64fc b) { return close64fc(got, a, b, 8); });
 }
 TEST(DivCFloat, ZeroDivisor) {
     Vlq32f a = 5;
@@ -204,7 +251,9 @@ TEST(DivCRevFloat, Vectors) {
         ASSERT_EQ(expectedStatus(a), vlqsDivCRev_32f(src.data(), val, dst.data(), c.len));
         const auto got = dst.values();
         ASSERT_TRUE(dst.marginsIntact());
-        for (std::size_t i = 0; i < a.size(); ++i) ASSERT_TRUE(exact32f(got[i], a[i], val)) << show(val) << " / " << show(a[i]) << " gave " << show(got[i]);
+        for (std::size_t i = 0; i < a.size(); ++i)
+            ASSERT_TRUE(exact32f(got[i], a[i], val))
+                << show(val) << " / " << show(a[i]) << " gave " << show(got[i]);
         dst.assign(a);
         ASSERT_EQ(expectedStatus(a), vlqsDivCRev_32f_I(val, dst.data(), c.len));
         ASSERT_TRUE(sameNumbers(dst, got));

@@ -34,7 +34,8 @@ T overZeroRef(N numerator) {
 // The end of the range that a quotient's sign points to; 0 stays.
 template <class T, class N, class D>
 T saturatedRef(N numerator, D divisor) {
-    return overZeroRef<T>(divisor < 0 ? -static_cast<std::int64_t>(numerator) : static_cast<std::int64_t>(numerator));
+    return overZeroRef<T>(divisor < 0 ? -static_cast<std::int64_t>(numerator)
+                                      : static_cast<std::int64_t>(numerator));
 }
 // Scale factors below these saturate every quotient but 0.
 template <class T>
@@ -47,17 +48,19 @@ T quotientRef(N numerator, D divisor, int mode, std::int32_t scaleFactor) {
     if (scaleFactor < kLeastQuotientScale<N>) return saturatedRef<T>(numerator, divisor);
     const F quotient = static_cast<F>(numerator) / static_cast<F>(divisor);
     const int scale = scaleFactor > 500 ? 500 : scaleFactor < -500 ? -500 : scaleFactor;
-    return clampFloatRef<T>(roundRef(std::ldexp(static_cast<double>(quotient), -scale), mode));  // the scale is exact
+    return clampFloatRef<T>(
+        roundRef(std::ldexp(static_cast<double>(quotient), -scale), mode));  // the scale is exact
 }
 
-// The same quotient rounded exactly: numerator * 2^-scaleFactor / divisor to the nearest, ties to even,
-// stopped at the ends of T.
+// The same quotient rounded exactly: numerator * 2^-scaleFactor / divisor to the nearest, ties to
+// even, stopped at the ends of T.
 template <class T>
 T exactQuotientRef(Exact numerator, Exact divisor, std::int32_t scaleFactor) {
     const bool negative = (numerator < 0) != (divisor < 0);
     const ExactMagnitude n = static_cast<ExactMagnitude>(numerator < 0 ? -numerator : numerator);
     ExactMagnitude d = static_cast<ExactMagnitude>(divisor < 0 ? -divisor : divisor);
-    const ExactMagnitude limit = static_cast<ExactMagnitude>(std::numeric_limits<T>::max()) + (negative && std::numeric_limits<T>::min() != 0);
+    const ExactMagnitude limit = static_cast<ExactMagnitude>(std::numeric_limits<T>::max()) +
+                                 (negative && std::numeric_limits<T>::min() != 0);
     if (n == 0 || (negative && std::numeric_limits<T>::min() == 0)) return 0;
     if (scaleFactor > 0) {
         if (scaleFactor > 64) return 0;  // numerators have up to 64 bits
@@ -65,7 +68,8 @@ T exactQuotientRef(Exact numerator, Exact divisor, std::int32_t scaleFactor) {
     }
     ExactMagnitude quotient = n / d, rest = n % d;
     // The bits that a negative scale brings up, 60 at a time: divisors have up to 64.
-    for (std::int64_t left = -std::int64_t{scaleFactor}; left > 0 && quotient <= limit && (quotient != 0 || rest != 0);) {
+    for (std::int64_t left = -std::int64_t{scaleFactor};
+         left > 0 && quotient <= limit && (quotient != 0 || rest != 0);) {
         const int step = left < 60 ? static_cast<int>(left) : 60;
         quotient = (quotient << step) + (rest << step) / d;
         rest = (rest << step) % d;
@@ -87,19 +91,26 @@ T timesReciprocalRef(T numerator, T divisor, std::int32_t scaleFactor) {
 }
 
 // The same for complex values, in double precision: the reciprocal's parts are rounded once each.
-inline Vlq16sc timesComplexReciprocalRef(Vlq16sc numerator, Vlq16sc divisor, std::int32_t scaleFactor) {
+inline Vlq16sc timesComplexReciprocalRef(Vlq16sc numerator, Vlq16sc divisor,
+                                         std::int32_t scaleFactor) {
     const double a = divisor.re, b = divisor.im, c = numerator.re, d = numerator.im;
-    const double factor = std::ldexp(1.0, scaleFactor > 120 ? -120 : scaleFactor < -120 ? 120 : -scaleFactor) / (a * a + b * b);
+    const double factor = std::ldexp(1.0, scaleFactor > 120    ? -120
+                                          : scaleFactor < -120 ? 120
+                                                               : -scaleFactor) /
+                          (a * a + b * b);
     const double re = a * factor, im = -b * factor;
-    return {clampFloatRef<Vlq16s>(std::nearbyint(c * re - d * im)), clampFloatRef<Vlq16s>(std::nearbyint(c * im + d * re))};
+    return {clampFloatRef<Vlq16s>(std::nearbyint(c * re - d * im)),
+            clampFloatRef<Vlq16s>(std::nearbyint(c * im + d * re))};
 }
 
 // (c + di) / (a + bi), each part rounded exactly.
 inline Vlq16sc complexQuotientRef(Vlq16sc divisor, Vlq16sc numerator, std::int32_t scaleFactor) {
     const Exact a = divisor.re, b = divisor.im, c = numerator.re, d = numerator.im;
-    if (a == 0 && b == 0) return {overZeroRef<Vlq16s>(numerator.re), overZeroRef<Vlq16s>(numerator.im)};
+    if (a == 0 && b == 0)
+        return {overZeroRef<Vlq16s>(numerator.re), overZeroRef<Vlq16s>(numerator.im)};
     const int scale = scaleFactor > 60 ? 60 : scaleFactor;
-    return {exactQuotientRef<Vlq16s>(c * a + d * b, a * a + b * b, scale), exactQuotientRef<Vlq16s>(d * a - c * b, a * a + b * b, scale)};
+    return {exactQuotientRef<Vlq16s>(c * a + d * b, a * a + b * b, scale),
+            exactQuotientRef<Vlq16s>(d * a - c * b, a * a + b * b, scale)};
 }
 
 }  // namespace vlqtest

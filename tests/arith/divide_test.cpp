@@ -34,7 +34,8 @@ std::vector<A> someDivisors(std::size_t count, std::size_t turn, Rng& rng) {
 }
 
 template <class A, class B, class D>
-void checkPlacesOfQuotients(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref) {
+void checkPlacesOfQuotients(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace,
+                            ElementRef<A, B, D> ref) {
     std::size_t turn = 0;
     const int factors[] = {0, 1, 5, 15, 16, 17, -1, -7, -20, -31, 33, -63};
     sweep(static_cast<int>(std::min(sizeof(A), sizeof(D))), {2047, 2048, 2049, 5003}, [&](Case& c) {
@@ -66,9 +67,15 @@ void checkPlacesOfQuotients(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, E
 }
 
 template <class T>
-T inFloat(T divisor, T numerator, Vlq32s scaleFactor) { return quotientRef<T, float>(numerator, divisor, vlqRndNear, scaleFactor); }
-Vlq32s inDouble(Vlq32s divisor, Vlq32s numerator, Vlq32s scaleFactor) { return quotientRef<Vlq32s, double>(numerator, divisor, vlqRndNear, scaleFactor); }
-Vlq16s inDouble16s(Vlq16s divisor, Vlq32s numerator, Vlq32s scaleFactor) { return quotientRef<Vlq16s, double>(numerator, divisor, vlqRndNear, scaleFactor); }
+T inFloat(T divisor, T numerator, Vlq32s scaleFactor) {
+    return quotientRef<T, float>(numerator, divisor, vlqRndNear, scaleFactor);
+}
+Vlq32s inDouble(Vlq32s divisor, Vlq32s numerator, Vlq32s scaleFactor) {
+    return quotientRef<Vlq32s, double>(numerator, divisor, vlqRndNear, scaleFactor);
+}
+Vlq16s inDouble16s(Vlq16s divisor, Vlq32s numerator, Vlq32s scaleFactor) {
+    return quotientRef<Vlq16s, double>(numerator, divisor, vlqRndNear, scaleFactor);
+}
 
 // Corner and random pairs have zeros among the divisors.
 template <class A, class B, class D>
@@ -86,15 +93,22 @@ TEST(Div, Scaled8u) {
         for (std::size_t i = 0; i < a.size(); ++i) {
             // Of bytes single precision finds every exact result.
             if (a[i] == 0) continue;
-            ASSERT_EQ(exactQuotientRef<Vlq8u>(b[i], a[i], s), inFloat<Vlq8u>(a[i], b[i], s)) << +b[i] << " / " << +a[i] << " at " << s;
+            ASSERT_EQ(exactQuotientRef<Vlq8u>(b[i], a[i], s), inFloat<Vlq8u>(a[i], b[i], s))
+                << +b[i] << " / " << +a[i] << " at " << s;
         }
     }
 }
-TEST(Div, Scaled16s) { check<Vlq16s, Vlq16s, Vlq16s>(vlqsDiv_16s_Sfs, vlqsDiv_16s_ISfs, inFloat<Vlq16s>); }
-TEST(Div, Scaled16u) { check<Vlq16u, Vlq16u, Vlq16u>(vlqsDiv_16u_Sfs, vlqsDiv_16u_ISfs, inFloat<Vlq16u>); }
+TEST(Div, Scaled16s) {
+    check<Vlq16s, Vlq16s, Vlq16s>(vlqsDiv_16s_Sfs, vlqsDiv_16s_ISfs, inFloat<Vlq16s>);
+}
+TEST(Div, Scaled16u) {
+    check<Vlq16u, Vlq16u, Vlq16u>(vlqsDiv_16u_Sfs, vlqsDiv_16u_ISfs, inFloat<Vlq16u>);
+}
 TEST(Div, Scaled32s) { check<Vlq32s, Vlq32s, Vlq32s>(vlqsDiv_32s_Sfs, vlqsDiv_32s_ISfs, inDouble); }
 TEST(Div, Scaled32s16s) { check<Vlq16s, Vlq32s, Vlq16s>(vlqsDiv_32s16s_Sfs, nullptr, inDouble16s); }
-TEST(Div, Scaled16sc) { check<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsDiv_16sc_Sfs, vlqsDiv_16sc_ISfs, complexQuotientRef); }
+TEST(Div, Scaled16sc) {
+    check<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsDiv_16sc_Sfs, vlqsDiv_16sc_ISfs, complexQuotientRef);
+}
 
 // Without a negative scale the quotient in single precision rounds as the exact one; with one it
 // stays within a step or within the precision.
@@ -109,7 +123,7 @@ TEST(Div, CloseToExact16s) {
     }
 }
 
-// ---- rounded by mode ---------------------------------------------------------------------------------
+// ---- rounded by mode ----------------------------------------------------------------------------
 template <class T>
 using Rounded = VlqStatus (*)(const T*, const T*, T*, Vlq32s, VlqRoundMode, Vlq32s);
 template <class T>
@@ -125,7 +139,8 @@ void checkRounded(Rounded<T> call, RoundedInPlace<T> inPlace) {
     std::size_t turn = 0;
     const int factors[] = {0, 1, 5, 16, 17, 18, -1, -7, -30, -31, INT32_MAX, INT32_MIN};
     sweep(sizeof(T), {2047, 2049, 5003}, [&](Case& c) {
-        const int scaleFactor = factors[(turn / 3) % std::size(factors)], mode = static_cast<int>(c.rng() % 3);
+        const int scaleFactor = factors[(turn / 3) % std::size(factors)],
+                  mode = static_cast<int>(c.rng() % 3);
         const auto n = static_cast<std::size_t>(c.len);
         const auto a = someDivisors<T>(n, turn++, c.rng);
         const auto b = extremeElements<T>(n, c.rng);
@@ -133,17 +148,23 @@ void checkRounded(Rounded<T> call, RoundedInPlace<T> inPlace) {
         for (std::size_t i = 0; i < n; ++i) want[i] = byModeRef(a[i], b[i], mode, scaleFactor);
         const Buffer<T> src1(a, c.place[1]), src2(b, c.place[2]);
         Buffer<T> dst(n, c.place[0]);
-        ASSERT_EQ(expectedStatus(a), call(src1.data(), src2.data(), dst.data(), c.len, mode, scaleFactor));
+        ASSERT_EQ(expectedStatus(a),
+                  call(src1.data(), src2.data(), dst.data(), c.len, mode, scaleFactor));
         ASSERT_TRUE(same(dst, want)) << "scale factor " << scaleFactor << ", mode " << mode;
         dst.assign(a);
-        ASSERT_EQ(expectedStatus(a), call(dst.data(), src2.data(), dst.data(), c.len, mode, scaleFactor));
-        ASSERT_TRUE(same(dst, want)) << "over the divisors, scale factor " << scaleFactor << ", mode " << mode;
+        ASSERT_EQ(expectedStatus(a),
+                  call(dst.data(), src2.data(), dst.data(), c.len, mode, scaleFactor));
+        ASSERT_TRUE(same(dst, want))
+            << "over the divisors, scale factor " << scaleFactor << ", mode " << mode;
         dst.assign(b);
-        ASSERT_EQ(expectedStatus(a), call(src1.data(), dst.data(), dst.data(), c.len, mode, scaleFactor));
-        ASSERT_TRUE(same(dst, want)) << "over the numerators, scale factor " << scaleFactor << ", mode " << mode;
+        ASSERT_EQ(expectedStatus(a),
+                  call(src1.data(), dst.data(), dst.data(), c.len, mode, scaleFactor));
+        ASSERT_TRUE(same(dst, want))
+            << "over the numerators, scale factor " << scaleFactor << ", mode " << mode;
         dst.assign(b);
         ASSERT_EQ(expectedStatus(a), inPlace(src1.data(), dst.data(), c.len, mode, scaleFactor));
-        ASSERT_TRUE(same(dst, want)) << "in place, scale factor " << scaleFactor << ", mode " << mode;
+        ASSERT_TRUE(same(dst, want))
+            << "in place, scale factor " << scaleFactor << ", mode " << mode;
     });
     Rng rng(seed());
     for (const int scaleFactor : scaleFactors()) {
@@ -154,12 +175,16 @@ void checkRounded(Rounded<T> call, RoundedInPlace<T> inPlace) {
             appendRandom(b, 25500, rng);
             const int len = static_cast<int>(a.size());
             auto dst = a, dstInPlace = b;
-            ASSERT_EQ(vlqStsWarnDivByZero, call(a.data(), b.data(), dst.data(), len, mode, scaleFactor));
-            ASSERT_EQ(vlqStsWarnDivByZero, inPlace(a.data(), dstInPlace.data(), len, mode, scaleFactor));
+            ASSERT_EQ(vlqStsWarnDivByZero,
+                      call(a.data(), b.data(), dst.data(), len, mode, scaleFactor));
+            ASSERT_EQ(vlqStsWarnDivByZero,
+                      inPlace(a.data(), dstInPlace.data(), len, mode, scaleFactor));
             for (std::size_t i = 0; i < a.size(); ++i) {
                 const T want = byModeRef(a[i], b[i], mode, scaleFactor);
-                ASSERT_EQ(want, dst[i]) << +b[i] << " / " << +a[i] << " at " << scaleFactor << ", mode " << mode;
-                ASSERT_EQ(want, dstInPlace[i]) << +b[i] << " / " << +a[i] << " at " << scaleFactor << ", mode " << mode << ", in place";
+                ASSERT_EQ(want, dst[i])
+                    << +b[i] << " / " << +a[i] << " at " << scaleFactor << ", mode " << mode;
+                ASSERT_EQ(want, dstInPlace[i]) << +b[i] << " / " << +a[i] << " at " << scaleFactor
+                                               << ", mode " << mode << ", in place";
             }
         }
     }
@@ -171,8 +196,12 @@ TEST(DivRound, Values8u) {
     for (const int s : byteScaleFactors()) {
         for (const int mode : {0, 1, 2}) {
             std::vector<Vlq8u> dst(a.size());
-            ASSERT_EQ(vlqStsWarnDivByZero, vlqsDiv_Round_8u_Sfs(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), mode, s));
-            for (std::size_t i = 0; i < a.size(); ++i) ASSERT_EQ(byModeRef(a[i], b[i], mode, s), dst[i]) << +b[i] << " / " << +a[i] << " at " << s;
+            ASSERT_EQ(vlqStsWarnDivByZero,
+                      vlqsDiv_Round_8u_Sfs(a.data(), b.data(), dst.data(),
+                                           static_cast<int>(a.size()), mode, s));
+            for (std::size_t i = 0; i < a.size(); ++i)
+                ASSERT_EQ(byModeRef(a[i], b[i], mode, s), dst[i])
+                    << +b[i] << " / " << +a[i] << " at " << s;
         }
     }
 }
@@ -190,15 +219,17 @@ TEST(DivRound, ModesAndChecks) {
     dst[0] = 77;
     EXPECT_EQ(vlqStsBadRoundMode, vlqsDiv_Round_16s_Sfs(a, b, dst, 4, 3, 0));
     EXPECT_EQ(vlqStsBadRoundMode, vlqsDiv_Round_16s_Sfs(a, b, dst, 4, -1, 40));
-    EXPECT_EQ(vlqStsBadRoundMode, vlqsDiv_Round_8u_ISfs(reinterpret_cast<const Vlq8u*>(a), reinterpret_cast<Vlq8u*>(dst), 4, 3, 0));
+    EXPECT_EQ(vlqStsBadRoundMode, vlqsDiv_Round_8u_ISfs(reinterpret_cast<const Vlq8u*>(a),
+                                                        reinterpret_cast<Vlq8u*>(dst), 4, 3, 0));
     EXPECT_EQ(vlqStsBadSize, vlqsDiv_Round_16s_Sfs(a, b, dst, 0, 3, 0));
     EXPECT_EQ(vlqStsNullPtr, vlqsDiv_Round_16s_Sfs(nullptr, b, dst, 0, 3, 0));
     EXPECT_EQ(77, dst[0]);
 }
 
-// ---- a constant ------------------------------------------------------------------------------------------
+// ---- a constant ---------------------------------------------------------------------------------
 template <class T>
-void checkDivisors(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace, std::vector<T> constants) {
+void checkDivisors(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace,
+                   std::vector<T> constants) {
     std::size_t turn = 0;
     sweep(sizeof(T), {5003}, [&](Case& c) {
         const int scaleFactor = turningScale(turn++, 8);
@@ -206,26 +237,39 @@ void checkDivisors(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace, std
         const auto a = extremeElements<T>(n, c.rng);
         T val = extremeValue<T>(c.rng);
         if (val == 0) val = 7;
-        const auto want = wanted<T, T, T>(a, std::vector<T>(n, val), timesReciprocalRef<T>, scaleFactor);
+        const auto want =
+            wanted<T, T, T>(a, std::vector<T>(n, val), timesReciprocalRef<T>, scaleFactor);
         const Buffer<T> src(a, c.place[1]);
         Buffer<T> dst(n, c.place[0]);
         ASSERT_EQ(vlqStsOk, call(src.data(), val, dst.data(), c.len, scaleFactor));
         ASSERT_TRUE(same(dst, want)) << "constant " << +val << ", scale factor " << scaleFactor;
     });
-    checkConstants<T>(nullptr, inPlace, [](T a, T val, Vlq32s s) { return timesReciprocalRef(a, val == 0 ? T{1} : val, s); }, constants, 0);
+    checkConstants<T>(
+        nullptr, inPlace,
+        [](T a, T val, Vlq32s s) { return timesReciprocalRef(a, val == 0 ? T{1} : val, s); },
+        constants, 0);
 }
 template <class T, VlqStatus (*inPlace)(T, T*, Vlq32s, Vlq32s)>
-VlqStatus nonZero(T val, T* v, Vlq32s len, Vlq32s scaleFactor) { return inPlace(val == 0 ? T{1} : val, v, len, scaleFactor); }
+VlqStatus nonZero(T val, T* v, Vlq32s len, Vlq32s scaleFactor) {
+    return inPlace(val == 0 ? T{1} : val, v, len, scaleFactor);
+}
 
 TEST(DivC, Scaled8u) {
     std::vector<Vlq8u> all;
     for (int x = 1; x < 256; ++x) all.push_back(static_cast<Vlq8u>(x));
     checkDivisors<Vlq8u>(vlqsDivC_8u_Sfs, nonZero<Vlq8u, vlqsDivC_8u_ISfs>, all);
 }
-TEST(DivC, Scaled16s) { checkDivisors<Vlq16s>(vlqsDivC_16s_Sfs, nonZero<Vlq16s, vlqsDivC_16s_ISfs>, {1, -1, 3, 1000, -32768, 32767}); }
-TEST(DivC, Scaled16u) { checkDivisors<Vlq16u>(vlqsDivC_16u_Sfs, nonZero<Vlq16u, vlqsDivC_16u_ISfs>, {1, 3, 1000, 32768, 65535}); }
+TEST(DivC, Scaled16s) {
+    checkDivisors<Vlq16s>(vlqsDivC_16s_Sfs, nonZero<Vlq16s, vlqsDivC_16s_ISfs>,
+                          {1, -1, 3, 1000, -32768, 32767});
+}
+TEST(DivC, Scaled16u) {
+    checkDivisors<Vlq16u>(vlqsDivC_16u_Sfs, nonZero<Vlq16u, vlqsDivC_16u_ISfs>,
+                          {1, 3, 1000, 32768, 65535});
+}
 
-// Multiplying by a reciprocal may miss the exact result by a step, and only where that lies next to a tie.
+// Multiplying by a reciprocal may miss the exact result by a step, and only where that lies next to
+// a tie.
 TEST(DivC, Scaled16sc) {
     Rng rng(seed());
     auto source = cornerValues<Vlq16sc>();
@@ -235,22 +279,28 @@ TEST(DivC, Scaled16sc) {
     const auto check = [](Vlq16s got, Exact n, Exact d, int s) {
         const int exact = exactQuotientRef<Vlq16s>(n, d, s > 60 ? 60 : s);
         if (exact == got) return true;
-        const long double value = std::ldexp(static_cast<long double>(n) / static_cast<long double>(d), -s);
-        return std::abs(exact - got) == 1 && std::abs(std::abs(value - std::floor(value)) - 0.5L) < 1e-9L;
+        const long double value =
+            std::ldexp(static_cast<long double>(n) / static_cast<long double>(d), -s);
+        return std::abs(exact - got) == 1 &&
+               std::abs(std::abs(value - std::floor(value)) - 0.5L) < 1e-9L;
     };
     for (const Vlq16sc val : constants) {
         if (isZero(val)) continue;
         for (const int s : {0, 1, -1, 5, 15, 16, 17, -10, -31, -40, 40, INT32_MIN, INT32_MAX}) {
             std::vector<Vlq16sc> dst(source.size());
-            ASSERT_EQ(vlqStsOk, vlqsDivC_16sc_Sfs(source.data(), val, dst.data(), static_cast<int>(dst.size()), s));
+            ASSERT_EQ(vlqStsOk, vlqsDivC_16sc_Sfs(source.data(), val, dst.data(),
+                                                  static_cast<int>(dst.size()), s));
             const Exact a = val.re, b = val.im, norm = a * a + b * b;
             for (std::size_t i = 0; i < source.size(); ++i) {
                 const Exact c = source[i].re, d = source[i].im;
-                ASSERT_TRUE(check(dst[i].re, c * a + d * b, norm, s) && check(dst[i].im, d * a - c * b, norm, s))
-                    << showInteger(source[i]) << " over " << showInteger(val) << " at " << s << ": " << showInteger(dst[i]);
+                ASSERT_TRUE(check(dst[i].re, c * a + d * b, norm, s) &&
+                            check(dst[i].im, d * a - c * b, norm, s))
+                    << showInteger(source[i]) << " over " << showInteger(val) << " at " << s << ": "
+                    << showInteger(dst[i]);
             }
             auto inPlace = source;
-            ASSERT_EQ(vlqStsOk, vlqsDivC_16sc_ISfs(val, inPlace.data(), static_cast<int>(dst.size()), s));
+            ASSERT_EQ(vlqStsOk,
+                      vlqsDivC_16sc_ISfs(val, inPlace.data(), static_cast<int>(dst.size()), s));
             ASSERT_EQ(0, std::memcmp(inPlace.data(), dst.data(), dst.size() * sizeof(Vlq16sc)));
         }
     }
@@ -278,10 +328,15 @@ TEST(DivC, Exact64s) {
     auto source = cornerValues<Vlq64s>();
     for (int i = 0; i < 900; ++i) source.push_back(extremeValue<Vlq64s>(rng));
     for (const Vlq64s val : constants) {
-        for (const int s : {0, 1, 2, 5, 31, 32, 61, 62, 65, INT32_MAX, -1, -2, -31, -32, -62, -63, -64, -65, -100, -125, -126, -127, -200, INT32_MIN}) {
+        for (const int s :
+             {0,   1,   2,   5,   31,  32,  61,   62,   65,   INT32_MAX, -1,   -2,
+              -31, -32, -62, -63, -64, -65, -100, -125, -126, -127,      -200, INT32_MIN}) {
             auto dst = source;
-            ASSERT_EQ(vlqStsOk, vlqsDivC_64s_ISfs(val, dst.data(), static_cast<int>(dst.size()), s));
-            for (std::size_t i = 0; i < dst.size(); ++i) ASSERT_EQ(ref(source[i], val, s), dst[i]) << source[i] << " / " << val << " at " << s;
+            ASSERT_EQ(vlqStsOk,
+                      vlqsDivC_64s_ISfs(val, dst.data(), static_cast<int>(dst.size()), s));
+            for (std::size_t i = 0; i < dst.size(); ++i)
+                ASSERT_EQ(ref(source[i], val, s), dst[i])
+                    << source[i] << " / " << val << " at " << s;
         }
     }
     // The last scale with a result: 2^63 / 2^63 is 1; one more is a tie at 0.
@@ -322,7 +377,7 @@ TEST(DivC, ZeroDivisorComesLast) {
     EXPECT_EQ(-3, z.im);
 }
 
-// ---- a constant over a vector --------------------------------------------------------------------------------
+// ---- a constant over a vector -------------------------------------------------------------------
 TEST(DivCRev, Values16u) {
     std::size_t turn = 0;
     sweep(sizeof(Vlq16u), {5003}, [&](Case& c) {
@@ -346,7 +401,9 @@ TEST(DivCRev, Values16u) {
         std::vector<Vlq16u> v;
         for (int x = 1; x < 65536; ++x) v.push_back(static_cast<Vlq16u>(x));
         ASSERT_EQ(vlqStsOk, vlqsDivCRev_16u_I(val, v.data(), static_cast<int>(v.size())));
-        for (int x = 1; x < 65536; ++x) ASSERT_EQ(exactQuotientRef<Vlq16u>(val, x, 0), v[static_cast<std::size_t>(x - 1)]) << val << " / " << x;
+        for (int x = 1; x < 65536; ++x)
+            ASSERT_EQ(exactQuotientRef<Vlq16u>(val, x, 0), v[static_cast<std::size_t>(x - 1)])
+                << val << " / " << x;
     }
 }
 
@@ -377,7 +434,7 @@ TEST(Div, OverZero) {
     EXPECT_EQ(0, revDst[0] | revDst[1] | revDst[2]);
 }
 
-// ---- digests ------------------------------------------------------------------------------------------
+// ---- digests ------------------------------------------------------------------------------------
 template <class T>
 void checkRoundedDigest(Rounded<T> call, std::uint64_t expected) {
     auto a = fixedVector<T>(2000, 1);
@@ -396,12 +453,18 @@ void checkRoundedDigest(Rounded<T> call, std::uint64_t expected) {
     expectDigest(expected, got, want);
 }
 TEST(Div, Digests) {
-    checkDigest<Vlq8u, Vlq8u, Vlq8u>(vlqsDiv_8u_Sfs, inFloat<Vlq8u>, 0xa3b9a42d2ee3c5df, vlqStsWarnDivByZero);
-    checkDigest<Vlq16s, Vlq16s, Vlq16s>(vlqsDiv_16s_Sfs, inFloat<Vlq16s>, 0x77ddccce13e423aa, vlqStsWarnDivByZero);
-    checkDigest<Vlq16u, Vlq16u, Vlq16u>(vlqsDiv_16u_Sfs, inFloat<Vlq16u>, 0x9a2aaae5a5c93d29, vlqStsWarnDivByZero);
-    checkDigest<Vlq32s, Vlq32s, Vlq32s>(vlqsDiv_32s_Sfs, inDouble, 0x26e70421d79bd1b7, vlqStsWarnDivByZero);
-    checkDigest<Vlq16s, Vlq32s, Vlq16s>(vlqsDiv_32s16s_Sfs, inDouble16s, 0x1df4f38e745b0d7f, vlqStsWarnDivByZero);
-    checkDigest<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsDiv_16sc_Sfs, complexQuotientRef, 0x754c4ab51011586e, vlqStsWarnDivByZero);
+    checkDigest<Vlq8u, Vlq8u, Vlq8u>(vlqsDiv_8u_Sfs, inFloat<Vlq8u>, 0xa3b9a42d2ee3c5df,
+                                     vlqStsWarnDivByZero);
+    checkDigest<Vlq16s, Vlq16s, Vlq16s>(vlqsDiv_16s_Sfs, inFloat<Vlq16s>, 0x77ddccce13e423aa,
+                                        vlqStsWarnDivByZero);
+    checkDigest<Vlq16u, Vlq16u, Vlq16u>(vlqsDiv_16u_Sfs, inFloat<Vlq16u>, 0x9a2aaae5a5c93d29,
+                                        vlqStsWarnDivByZero);
+    checkDigest<Vlq32s, Vlq32s, Vlq32s>(vlqsDiv_32s_Sfs, inDouble, 0x26e70421d79bd1b7,
+                                        vlqStsWarnDivByZero);
+    checkDigest<Vlq16s, Vlq32s, Vlq16s>(vlqsDiv_32s16s_Sfs, inDouble16s, 0x1df4f38e745b0d7f,
+                                        vlqStsWarnDivByZero);
+    checkDigest<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsDiv_16sc_Sfs, complexQuotientRef, 0x754c4ab51011586e,
+                                           vlqStsWarnDivByZero);
 }
 TEST(DivRound, Digests) {
     checkRoundedDigest<Vlq8u>(vlqsDiv_Round_8u_Sfs, 0x75da43665c1425ed);
@@ -413,7 +476,10 @@ TEST(DivC, Digests) {
     checkConstantDigest<Vlq16s>(vlqsDivC_16s_ISfs, timesReciprocalRef<Vlq16s>, 0xdc1eb770d2e1c51c);
     checkConstantDigest<Vlq16u>(vlqsDivC_16u_ISfs, timesReciprocalRef<Vlq16u>, 0x829dcda3e7ce21c9);
     checkConstantDigest<Vlq16sc>(vlqsDivC_16sc_ISfs, timesComplexReciprocalRef, 0xba16efbfa0f1f976);
-    checkConstantDigest<Vlq64s>(vlqsDivC_64s_ISfs, [](Vlq64s a, Vlq64s val, Vlq32s s) { return exactQuotientRef<Vlq64s>(a, val, s); }, 0xaecb7905737bdc66);
+    checkConstantDigest<Vlq64s>(
+        vlqsDivC_64s_ISfs,
+        [](Vlq64s a, Vlq64s val, Vlq32s s) { return exactQuotientRef<Vlq64s>(a, val, s); },
+        0xaecb7905737bdc66);
 }
 TEST(DivCRev, Digest) {
     auto src = fixedVector<Vlq16u>(2000, 3);

@@ -1,5 +1,5 @@
-// Vectors of more than 2^31 bytes or elements. Their memory is a few megabytes, seen again and again at
-// ascending addresses, and a tail of its own behind these, where the end of a call shows.
+// Vectors of more than 2^31 bytes or elements. Their memory is a few megabytes, seen again and
+// again at ascending addresses, and a tail of its own behind these, where the end of a call shows.
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -7,9 +7,10 @@
 #include <climits>
 #include <cmath>
 
-#include "arith/element.h"
+#include "harness/element.h"
 #include "vlqs/arith.h"
 #include "vlqs/convert.h"
+#include "vlqs/move.h"
 
 namespace {
 
@@ -30,11 +31,13 @@ public:
     explicit LongVector(std::size_t count) : count_(count), whole_(count / kPeriod) {
         constexpr std::size_t window = kPeriod * sizeof(T);
         bytes_ = (whole_ + 1) * window;
-        start_ = static_cast<std::byte*>(mmap(nullptr, bytes_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
+        start_ = static_cast<std::byte*>(mmap(nullptr, bytes_, PROT_READ | PROT_WRITE,
+                                              MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
         const int file = memfd_create("period", 0);
         usable_ = start_ != MAP_FAILED && file >= 0 && ftruncate(file, window) == 0;
         for (std::size_t k = 0; usable_ && k < whole_; ++k) {
-            usable_ = mmap(start_ + k * window, window, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_FIXED, file, 0) != MAP_FAILED;
+            usable_ = mmap(start_ + k * window, window, PROT_READ | PROT_WRITE,
+                           MAP_SHARED | MAP_FIXED, file, 0) != MAP_FAILED;
         }
         if (file >= 0) close(file);
     }
@@ -81,14 +84,16 @@ public:
         compare(src_.period(), dst_.period(), LongVector<D>::kPeriod, ref);
         compare(src_.tail(), dst_.tail(), dst_.tailLength(), ref);
         const D* const end = dst_.tail() + dst_.tailLength();
-        ASSERT_TRUE(std::all_of(end, end + beyond, [&](D v) { return equal(v, untouched_); })) << "beyond the end";
+        ASSERT_TRUE(std::all_of(end, end + beyond, [&](D v) { return equal(v, untouched_); }))
+            << "beyond the end";
     }
 
 private:
     static bool equal(D a, D b) { return std::memcmp(&a, &b, sizeof a) == 0; }
     template <class Ref>
     void compare(const S* from, const D* to, std::size_t length, Ref ref) {
-        for (std::size_t i = 0; i < length; ++i) ASSERT_TRUE(equal(ref(from[i]), to[i])) << "element " << i;
+        for (std::size_t i = 0; i < length; ++i)
+            ASSERT_TRUE(equal(ref(from[i]), to[i])) << "element " << i;
     }
 
     LongVector<S> src_;
@@ -101,11 +106,16 @@ TEST(LongVectors, Bytes) {
     if (kTooSlow) GTEST_SKIP() << "instrumented";
     Pair<Vlq8u, Vlq8u> pair(INT_MAX);
     if (!pair.usable()) GTEST_SKIP() << "no address space";
-    pair.check([](const Vlq8u* s, Vlq8u* d) { return vlqsCopy_8u(s, d, INT_MAX); }, [](Vlq8u v) { return v; });
-    pair.check([](const Vlq8u*, Vlq8u* d) { return vlqsSet_8u(201, d, INT_MAX); }, [](Vlq8u) { return Vlq8u{201}; });
-    pair.check([](const Vlq8u* s, Vlq8u* d) { return vlqsMove_8u(s, d, INT_MAX); }, [](Vlq8u v) { return v; });
-    pair.check([](const Vlq8u*, Vlq8u* d) { return vlqsZero_8u(d, INT_MAX); }, [](Vlq8u) { return Vlq8u{0}; });
-    pair.check([](const Vlq8u* s, Vlq8u* d) { return vlqsAdd_8u_Sfs(s, s, d, INT_MAX, 1); }, [](Vlq8u v) { return v; });
+    pair.check([](const Vlq8u* s, Vlq8u* d) { return vlqsCopy_8u(s, d, INT_MAX); },
+               [](Vlq8u v) { return v; });
+    pair.check([](const Vlq8u*, Vlq8u* d) { return vlqsSet_8u(201, d, INT_MAX); },
+               [](Vlq8u) { return Vlq8u{201}; });
+    pair.check([](const Vlq8u* s, Vlq8u* d) { return vlqsMove_8u(s, d, INT_MAX); },
+               [](Vlq8u v) { return v; });
+    pair.check([](const Vlq8u*, Vlq8u* d) { return vlqsZero_8u(d, INT_MAX); },
+               [](Vlq8u) { return Vlq8u{0}; });
+    pair.check([](const Vlq8u* s, Vlq8u* d) { return vlqsAdd_8u_Sfs(s, s, d, INT_MAX, 1); },
+               [](Vlq8u v) { return v; });
 }
 
 // Elements whose bytes do not fit 32 bits.
@@ -114,10 +124,21 @@ TEST(LongVectors, MoreBytesThan32Bits) {
     constexpr int len = (1 << 28) + 12345;
     Pair<Vlq64sc, Vlq64sc> pair(len);
     if (!pair.usable()) GTEST_SKIP() << "no address space";
-    pair.check([](const Vlq64sc* s, Vlq64sc* d) { return vlqsCopy_64sc(s, d, len); }, [](Vlq64sc v) { return v; });
-    pair.check([](const Vlq64sc*, Vlq64sc* d) { return vlqsSet_64sc({7, -8}, d, len); }, [](Vlq64sc) { return Vlq64sc{7, -8}; });
-    pair.check([](const Vlq64sc* s, Vlq64sc* d) { return vlqsMove_64sc(s, d, len); }, [](Vlq64sc v) { return v; });
-    pair.check([](const Vlq64sc*, Vlq64sc* d) { return vlqsZero_64sc(d, len); }, [](Vlq64sc) { return Vlq64sc{0, 0}; });
+    pair.check([](const Vlq64sc* s, Vlq64sc* d) { return vlqsCopy_64sc(s, d, len); },
+               [](Vlq64sc v) { return v; });
+    pair.check(
+        [](const Vlq64sc*, Vlq64sc* d) {
+            return vlqsSet_64sc({7, -8}, d, len);
+        },
+        [](Vlq64sc) {
+            return Vlq64sc{7, -8};
+        });
+    pair.check([](const Vlq64sc* s, Vlq64sc* d) { return vlqsMove_64sc(s, d, len); },
+               [](Vlq64sc v) { return v; });
+    pair.check([](const Vlq64sc*, Vlq64sc* d) { return vlqsZero_64sc(d, len); },
+               [](Vlq64sc) {
+                   return Vlq64sc{0, 0};
+               });
 }
 
 // Unsigned lengths beyond the signed ones.
@@ -126,9 +147,12 @@ TEST(LongVectors, UnsignedLength) {
     if (kTooSlow) GTEST_SKIP() << "instrumented";
     Pair<Vlq16s, Vlq8s> pair(kUnsigned);
     if (!pair.usable()) GTEST_SKIP() << "no address space";
-    pair.check([](const Vlq16s* s, Vlq8s* d) { return vlqsConvert_16s8s_Sfs(s, d, kUnsigned, vlqRndNear, 0); },
+    pair.check([](const Vlq16s* s,
+                  Vlq8s* d) { return vlqsConvert_16s8s_Sfs(s, d, kUnsigned, vlqRndNear, 0); },
                [](Vlq16s v) { return static_cast<Vlq8s>(std::clamp<int>(v, -128, 127)); });
-    pair.check([](const Vlq16s* s, Vlq8s* d) { return vlqsConvert_16s8s_Sfs(s, d, kUnsigned, vlqRndNear, 40); }, [](Vlq16s) { return Vlq8s{0}; });
+    pair.check([](const Vlq16s* s,
+                  Vlq8s* d) { return vlqsConvert_16s8s_Sfs(s, d, kUnsigned, vlqRndNear, 40); },
+               [](Vlq16s) { return Vlq8s{0}; });
 }
 
 // A length that is taken as it is leads into a protected page.
@@ -138,10 +162,14 @@ TEST(LongVectors, UnsignedLengthIsNotNegative) {
     Buffer<Vlq64f> floats(count, {0, true});
     Buffer<Vlq64u> naturals(count, {0, true});
     EXPECT_DEATH(vlqsConvert_64s64f(integers.data(), floats.data(), kUnsigned), "");
-    EXPECT_DEATH(vlqsConvert_64f64s_Sfs(floats.data(), integers.data(), kUnsigned, vlqRndNear, 0), "");
-    EXPECT_DEATH(vlqsConvert_64f64s_Sfs(floats.data(), integers.data(), 0xFFFFFFFFu, vlqRndZero, 3), "");
-    EXPECT_DEATH(vlqsAddC_64s_Sfs(integers.data(), 3, integers.data(), kUnsigned, 1, vlqRndNear), "");
-    EXPECT_DEATH(vlqsAddC_64u_Sfs(naturals.data(), 3, naturals.data(), 0xFFFFFFFFu, -1, vlqRndNear), "");
+    EXPECT_DEATH(vlqsConvert_64f64s_Sfs(floats.data(), integers.data(), kUnsigned, vlqRndNear, 0),
+                 "");
+    EXPECT_DEATH(vlqsConvert_64f64s_Sfs(floats.data(), integers.data(), 0xFFFFFFFFu, vlqRndZero, 3),
+                 "");
+    EXPECT_DEATH(vlqsAddC_64s_Sfs(integers.data(), 3, integers.data(), kUnsigned, 1, vlqRndNear),
+                 "");
+    EXPECT_DEATH(vlqsAddC_64u_Sfs(naturals.data(), 3, naturals.data(), 0xFFFFFFFFu, -1, vlqRndNear),
+                 "");
 }
 
 }  // namespace

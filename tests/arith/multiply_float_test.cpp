@@ -1,6 +1,6 @@
 #include "arith/multiply_float_ref.h"
 
-#include "arith/element.h"
+#include "harness/element.h"
 #include "vlqs/arith.h"
 
 namespace {
@@ -42,7 +42,8 @@ void checkInPlace(VlqStatus (*call)(const A*, D*, Vlq32s)) {
 }
 
 template <class T>
-void checkConstant(VlqStatus (*call)(const T*, T, T*, Vlq32s), VlqStatus (*inPlace)(T, T*, Vlq32s)) {
+void checkConstant(VlqStatus (*call)(const T*, T, T*, Vlq32s),
+                   VlqStatus (*inPlace)(T, T*, Vlq32s)) {
     sweep(sizeof(T), {5003}, [&](Case& c) {
         const auto n = static_cast<std::size_t>(c.len);
         const auto a = extremeElements<T>(n, c.rng);
@@ -62,7 +63,8 @@ template <class T>
 void checkAccumulate(VlqStatus (*call)(const T*, const T*, T*, Vlq32s)) {
     sweep(sizeof(T), {5003}, [&](Case& c) {
         const auto n = static_cast<std::size_t>(c.len);
-        const auto a = extremeElements<T>(n, c.rng), b = extremeElements<T>(n, c.rng), acc = extremeElements<T>(n, c.rng);
+        const auto a = extremeElements<T>(n, c.rng), b = extremeElements<T>(n, c.rng),
+                   acc = extremeElements<T>(n, c.rng);
         auto want = products<T, T, T>(a, b);
         for (std::size_t i = 0; i < n; ++i) want[i] = sumRef(acc[i], want[i]);
         const Buffer<T> src1(a, c.place[1]), src2(b, c.place[2]);
@@ -72,11 +74,26 @@ void checkAccumulate(VlqStatus (*call)(const T*, const T*, T*, Vlq32s)) {
     });
 }
 
-TEST(MulFloat, Vectors32f) { checkOutOfPlace(vlqsMul_32f); checkInPlace(vlqsMul_32f_I); }
-TEST(MulFloat, Vectors64f) { checkOutOfPlace(vlqsMul_64f); checkInPlace(vlqsMul_64f_I); }
-TEST(MulFloat, Vectors32fc) { checkOutOfPlace(vlqsMul_32fc); checkInPlace(vlqsMul_32fc_I); }
-TEST(MulFloat, Vectors64fc) { checkOutOfPlace(vlqsMul_64fc); checkInPlace(vlqsMul_64fc_I); }
-TEST(MulFloat, RealByComplex) { checkOutOfPlace(vlqsMul_32f32fc); checkInPlace(vlqsMul_32f32fc_I); }
+TEST(MulFloat, Vectors32f) {
+    checkOutOfPlace(vlqsMul_32f);
+    checkInPlace(vlqsMul_32f_I);
+}
+TEST(MulFloat, Vectors64f) {
+    checkOutOfPlace(vlqsMul_64f);
+    checkInPlace(vlqsMul_64f_I);
+}
+TEST(MulFloat, Vectors32fc) {
+    checkOutOfPlace(vlqsMul_32fc);
+    checkInPlace(vlqsMul_32fc_I);
+}
+TEST(MulFloat, Vectors64fc) {
+    checkOutOfPlace(vlqsMul_64fc);
+    checkInPlace(vlqsMul_64fc_I);
+}
+TEST(MulFloat, RealByComplex) {
+    checkOutOfPlace(vlqsMul_32f32fc);
+    checkInPlace(vlqsMul_32f32fc_I);
+}
 TEST(MulFloat, Integers16s32f) { checkOutOfPlace(vlqsMul_16s32f); }
 
 TEST(MulFloat, Constant32f) { checkConstant(vlqsMulC_32f, vlqsMulC_32f_I); }

@@ -20,7 +20,8 @@ T clampRef(Exact e) {
 // e / 2^shift to the nearest integer, from a tie to the even one; |e| < 2^127, 1 <= shift.
 inline Exact nearestEvenRef(Exact e, int shift) {
     const bool negative = e < 0;
-    const ExactMagnitude size = negative ? -static_cast<ExactMagnitude>(e) : static_cast<ExactMagnitude>(e);
+    const ExactMagnitude size =
+        negative ? -static_cast<ExactMagnitude>(e) : static_cast<ExactMagnitude>(e);
     if (shift > 127) return 0;  // below one half
     ExactMagnitude quotient = size >> shift;
     const ExactMagnitude rest = size - (quotient << shift), half = ExactMagnitude{1} << (shift - 1);
@@ -40,7 +41,9 @@ T scaleRef(Exact e, std::int32_t scaleFactor) {
 
 // The stored product of any two integers.
 template <class D, class A, class B>
-D productRef(A a, B b, std::int32_t scaleFactor) { return scaleRef<D>(Exact{a} * Exact{b}, scaleFactor); }
+D productRef(A a, B b, std::int32_t scaleFactor) {
+    return scaleRef<D>(Exact{a} * Exact{b}, scaleFactor);
+}
 
 // (a + bi)(c + di) = (ac - bd) + (ad + bc)i
 template <class C>
@@ -51,6 +54,8 @@ C complexProductRef(C x, C y, std::int32_t scaleFactor) {
 }
 
 template <class D, class A>
-D sumOfProductRef(D acc, A a, A b, std::int32_t scaleFactor) { return scaleRef<D>(Exact{acc} + Exact{a} * Exact{b}, scaleFactor); }
+D sumOfProductRef(D acc, A a, A b, std::int32_t scaleFactor) {
+    return scaleRef<D>(Exact{acc} + Exact{a} * Exact{b}, scaleFactor);
+}
 
 }  // namespace vlqtest

@@ -16,11 +16,17 @@ TEST(Mul, Scaled8u) {
     checkPlaces<Vlq8u, Vlq8u, Vlq8u>(vlqsMul_8u_Sfs, vlqsMul_8u_ISfs, productRef);
     checkAllBytes(vlqsMul_8u_Sfs, vlqsMul_8u_ISfs, productRef);
 }
-TEST(Mul, Scaled16s) { check<Vlq16s, Vlq16s, Vlq16s>(vlqsMul_16s_Sfs, vlqsMul_16s_ISfs, productRef); }
-TEST(Mul, Scaled16u) { check<Vlq16u, Vlq16u, Vlq16u>(vlqsMul_16u_Sfs, vlqsMul_16u_ISfs, productRef); }
+TEST(Mul, Scaled16s) {
+    check<Vlq16s, Vlq16s, Vlq16s>(vlqsMul_16s_Sfs, vlqsMul_16s_ISfs, productRef);
+}
+TEST(Mul, Scaled16u) {
+    check<Vlq16u, Vlq16u, Vlq16u>(vlqsMul_16u_Sfs, vlqsMul_16u_ISfs, productRef);
+}
 TEST(Mul, Scaled16u16s) { check<Vlq16u, Vlq16s, Vlq16s>(vlqsMul_16u16s_Sfs, nullptr, productRef); }
 TEST(Mul, Scaled16s32s) { check<Vlq16s, Vlq16s, Vlq32s>(vlqsMul_16s32s_Sfs, nullptr, productRef); }
-TEST(Mul, Scaled16sc) { check<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsMul_16sc_Sfs, vlqsMul_16sc_ISfs, complexProductRef); }
+TEST(Mul, Scaled16sc) {
+    check<Vlq16sc, Vlq16sc, Vlq16sc>(vlqsMul_16sc_Sfs, vlqsMul_16sc_ISfs, complexProductRef);
+}
 
 // The forms without a scale, as if it were 0.
 template <class A, class B, class D>
@@ -30,16 +36,22 @@ void checkUnscaled(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace) {
     checkValues<A, B, D>(call, inPlace, ref, vlqStsOk, std::vector<int>(10, 0));
 }
 TEST(Mul, Unscaled16s) {
-    checkUnscaled<Vlq16s, Vlq16s, Vlq16s>([](const Vlq16s* a, const Vlq16s* b, Vlq16s* d, Vlq32s n, Vlq32s) { return vlqsMul_16s(a, b, d, n); },
-                                          [](const Vlq16s* a, Vlq16s* d, Vlq32s n, Vlq32s) { return vlqsMul_16s_I(a, d, n); });
+    checkUnscaled<Vlq16s, Vlq16s, Vlq16s>(
+        [](const Vlq16s* a, const Vlq16s* b, Vlq16s* d, Vlq32s n, Vlq32s) {
+            return vlqsMul_16s(a, b, d, n);
+        },
+        [](const Vlq16s* a, Vlq16s* d, Vlq32s n, Vlq32s) { return vlqsMul_16s_I(a, d, n); });
 }
 TEST(Mul, Unscaled8u16u) {
-    checkUnscaled<Vlq8u, Vlq8u, Vlq16u>([](const Vlq8u* a, const Vlq8u* b, Vlq16u* d, Vlq32s n, Vlq32s) { return vlqsMul_8u16u(a, b, d, n); }, nullptr);
+    checkUnscaled<Vlq8u, Vlq8u, Vlq16u>([](const Vlq8u* a, const Vlq8u* b, Vlq16u* d, Vlq32s n,
+                                           Vlq32s) { return vlqsMul_8u16u(a, b, d, n); },
+                                        nullptr);
     std::vector<Vlq8u> a, b;
     appendAllBytePairs(a, b);
     std::vector<Vlq16u> dst(a.size());
     ASSERT_EQ(vlqStsOk, vlqsMul_8u16u(a.data(), b.data(), dst.data(), static_cast<int>(a.size())));
-    for (std::size_t i = 0; i < a.size(); ++i) ASSERT_EQ(a[i] * b[i], dst[i]) << +a[i] << " * " << +b[i];
+    for (std::size_t i = 0; i < a.size(); ++i)
+        ASSERT_EQ(a[i] * b[i], dst[i]) << +a[i] << " * " << +b[i];
 }
 
 TEST(MulC, Scaled8u) {
@@ -50,15 +62,18 @@ TEST(MulC, Scaled8u) {
 }
 TEST(MulC, Scaled16s) {
     checkConstantPlaces<Vlq16s>(vlqsMulC_16s_Sfs, vlqsMulC_16s_ISfs, productRef);
-    checkConstants<Vlq16s>(vlqsMulC_16s_Sfs, vlqsMulC_16s_ISfs, productRef, {0, 1, -1, 255, -32768, 32767}, 0);
+    checkConstants<Vlq16s>(vlqsMulC_16s_Sfs, vlqsMulC_16s_ISfs, productRef,
+                           {0, 1, -1, 255, -32768, 32767}, 0);
 }
 TEST(MulC, Scaled16u) {
     checkConstantPlaces<Vlq16u>(vlqsMulC_16u_Sfs, vlqsMulC_16u_ISfs, productRef);
-    checkConstants<Vlq16u>(vlqsMulC_16u_Sfs, vlqsMulC_16u_ISfs, productRef, {1, 255, 32768, 65535}, 0);
+    checkConstants<Vlq16u>(vlqsMulC_16u_Sfs, vlqsMulC_16u_ISfs, productRef, {1, 255, 32768, 65535},
+                           0);
 }
 TEST(MulC, Scaled16sc) {
     checkConstantPlaces<Vlq16sc>(vlqsMulC_16sc_Sfs, vlqsMulC_16sc_ISfs, complexProductRef);
-    checkConstants<Vlq16sc>(vlqsMulC_16sc_Sfs, vlqsMulC_16sc_ISfs, complexProductRef, cornerValues<Vlq16sc>(), 1000);
+    checkConstants<Vlq16sc>(vlqsMulC_16sc_Sfs, vlqsMulC_16sc_ISfs, complexProductRef,
+                            cornerValues<Vlq16sc>(), 1000);
 }
 TEST(MulC, Unscaled16s) {
     for (const Vlq16s val : std::vector<Vlq16s>{0, 1, -1, 3, -32768, 32767}) {
@@ -66,7 +81,8 @@ TEST(MulC, Unscaled16s) {
         for (int x = -32768; x < 32768; ++x) source.push_back(static_cast<Vlq16s>(x));
         dst = source;
         ASSERT_EQ(vlqStsOk, vlqsMulC_16s_I(val, dst.data(), static_cast<int>(dst.size())));
-        for (std::size_t i = 0; i < dst.size(); ++i) ASSERT_EQ(productRef<Vlq16s>(source[i], val, 0), dst[i]) << source[i] << " * " << val;
+        for (std::size_t i = 0; i < dst.size(); ++i)
+            ASSERT_EQ(productRef<Vlq16s>(source[i], val, 0), dst[i]) << source[i] << " * " << val;
     }
 }
 
@@ -79,7 +95,8 @@ void checkSums(VlqStatus (*call)(const Vlq16s*, const Vlq16s*, D*, Vlq32s, Vlq32
         const auto a = extremeElements<Vlq16s>(n, c.rng), b = extremeElements<Vlq16s>(n, c.rng);
         const auto acc = extremeElements<D>(n, c.rng);
         std::vector<D> want(n);
-        for (std::size_t i = 0; i < n; ++i) want[i] = sumOfProductRef(acc[i], a[i], b[i], scaleFactor);
+        for (std::size_t i = 0; i < n; ++i)
+            want[i] = sumOfProductRef(acc[i], a[i], b[i], scaleFactor);
         const Buffer<Vlq16s> src1(a, c.place[1]), src2(b, c.place[2]);
         Buffer<D> dst(acc, c.place[0]);
         ASSERT_EQ(vlqStsOk, call(src1.data(), src2.data(), dst.data(), c.len, scaleFactor));
@@ -107,9 +124,11 @@ void checkSums(VlqStatus (*call)(const Vlq16s*, const Vlq16s*, D*, Vlq32s, Vlq32
             acc.push_back(extremeElement<D>(rng));
         }
         auto dst = acc;
-        ASSERT_EQ(vlqStsOk, call(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), scaleFactor));
+        ASSERT_EQ(vlqStsOk,
+                  call(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), scaleFactor));
         for (std::size_t i = 0; i < a.size(); ++i) {
-            ASSERT_EQ(sumOfProductRef(acc[i], a[i], b[i], scaleFactor), dst[i]) << acc[i] << " + " << a[i] << " * " << b[i] << " at " << scaleFactor;
+            ASSERT_EQ(sumOfProductRef(acc[i], a[i], b[i], scaleFactor), dst[i])
+                << acc[i] << " + " << a[i] << " * " << b[i] << " at " << scaleFactor;
         }
     }
 }
@@ -118,7 +137,8 @@ TEST(AddProduct, OverItsFactors16s) {
     std::size_t turn = 0;
     sweep(sizeof(Vlq16s), {5003}, [&](Case& c) {
         const int scaleFactor = turningScale(turn++, 16);
-        const auto a = extremeElements<Vlq16s>(static_cast<std::size_t>(c.len), c.rng), b = extremeElements<Vlq16s>(a.size(), c.rng);
+        const auto a = extremeElements<Vlq16s>(static_cast<std::size_t>(c.len), c.rng),
+                   b = extremeElements<Vlq16s>(a.size(), c.rng);
         std::vector<Vlq16s> overOne(a.size()), overAll(a.size());
         for (std::size_t i = 0; i < a.size(); ++i) {
             overOne[i] = sumOfProductRef(a[i], a[i], b[i], scaleFactor);
@@ -126,13 +146,16 @@ TEST(AddProduct, OverItsFactors16s) {
         }
         const Buffer<Vlq16s> other(b, c.place[1]);
         Buffer<Vlq16s> dst(a, c.place[0]);
-        ASSERT_EQ(vlqStsOk, vlqsAddProduct_16s_Sfs(dst.data(), other.data(), dst.data(), c.len, scaleFactor));
+        ASSERT_EQ(vlqStsOk,
+                  vlqsAddProduct_16s_Sfs(dst.data(), other.data(), dst.data(), c.len, scaleFactor));
         ASSERT_TRUE(same(dst, overOne)) << "over the first, scale factor " << scaleFactor;
         dst.assign(a);
-        ASSERT_EQ(vlqStsOk, vlqsAddProduct_16s_Sfs(other.data(), dst.data(), dst.data(), c.len, scaleFactor));
+        ASSERT_EQ(vlqStsOk,
+                  vlqsAddProduct_16s_Sfs(other.data(), dst.data(), dst.data(), c.len, scaleFactor));
         ASSERT_TRUE(same(dst, overOne)) << "over the second, scale factor " << scaleFactor;
         dst.assign(a);
-        ASSERT_EQ(vlqStsOk, vlqsAddProduct_16s_Sfs(dst.data(), dst.data(), dst.data(), c.len, scaleFactor));
+        ASSERT_EQ(vlqStsOk,
+                  vlqsAddProduct_16s_Sfs(dst.data(), dst.data(), dst.data(), c.len, scaleFactor));
         ASSERT_TRUE(same(dst, overAll)) << "over both, scale factor " << scaleFactor;
     });
 }
@@ -178,16 +201,18 @@ TEST(MulC, ChecksOfTrivialConstants) {
     EXPECT_EQ(0, v[0] | v[1] | v[2]);
 }
 
-// ---- digests ------------------------------------------------------------------------------------------
+// ---- digests ------------------------------------------------------------------------------------
 template <class D>
-void checkSumDigest(VlqStatus (*call)(const Vlq16s*, const Vlq16s*, D*, Vlq32s, Vlq32s), std::uint64_t expected) {
+void checkSumDigest(VlqStatus (*call)(const Vlq16s*, const Vlq16s*, D*, Vlq32s, Vlq32s),
+                    std::uint64_t expected) {
     const auto a = fixedVector<Vlq16s>(2000, 1), b = fixedVector<Vlq16s>(2000, 2);
     const auto acc = fixedVector<D>(2000, 3);
     Digest got, want;
     for (int s = -70; s <= 70; ++s) {
         auto dst = acc, ref = acc;
         ASSERT_EQ(vlqStsOk, call(a.data(), b.data(), dst.data(), 2000, s));
-        for (std::size_t i = 0; i < ref.size(); ++i) ref[i] = sumOfProductRef(acc[i], a[i], b[i], s);
+        for (std::size_t i = 0; i < ref.size(); ++i)
+            ref[i] = sumOfProductRef(acc[i], a[i], b[i], s);
         got.add(dst);
         want.add(ref);
     }

@@ -17,18 +17,26 @@ Vlq32sc realByComplexRef(Vlq32s a, Vlq32sc b, Vlq32s scaleFactor) {
     return {productRef<Vlq32s>(a, b.re, scaleFactor), productRef<Vlq32s>(a, b.im, scaleFactor)};
 }
 
-TEST(Mul, Scaled32s) { check<Vlq32s, Vlq32s, Vlq32s>(vlqsMul_32s_Sfs, vlqsMul_32s_ISfs, productRef); }
+TEST(Mul, Scaled32s) {
+    check<Vlq32s, Vlq32s, Vlq32s>(vlqsMul_32s_Sfs, vlqsMul_32s_ISfs, productRef);
+}
 TEST(Mul, Scaled32sLow) { check<Vlq32s, Vlq32s, Vlq32s>(vlqsMul_Low_32s_Sfs, nullptr, productRef); }
-TEST(Mul, Scaled32s32sc) { check<Vlq32s, Vlq32sc, Vlq32sc>(vlqsMul_32s32sc_Sfs, vlqsMul_32s32sc_ISfs, realByComplexRef); }
-TEST(Mul, Scaled32sc) { check<Vlq32sc, Vlq32sc, Vlq32sc>(vlqsMul_32sc_Sfs, vlqsMul_32sc_ISfs, complexProductRef); }
+TEST(Mul, Scaled32s32sc) {
+    check<Vlq32s, Vlq32sc, Vlq32sc>(vlqsMul_32s32sc_Sfs, vlqsMul_32s32sc_ISfs, realByComplexRef);
+}
+TEST(Mul, Scaled32sc) {
+    check<Vlq32sc, Vlq32sc, Vlq32sc>(vlqsMul_32sc_Sfs, vlqsMul_32sc_ISfs, complexProductRef);
+}
 
 TEST(MulC, Scaled32s) {
     checkConstantPlaces<Vlq32s>(vlqsMulC_32s_Sfs, vlqsMulC_32s_ISfs, productRef);
-    checkConstants<Vlq32s>(vlqsMulC_32s_Sfs, vlqsMulC_32s_ISfs, productRef, cornerValues<Vlq32s>(), 500);
+    checkConstants<Vlq32s>(vlqsMulC_32s_Sfs, vlqsMulC_32s_ISfs, productRef, cornerValues<Vlq32s>(),
+                           500);
 }
 TEST(MulC, Scaled32sc) {
     checkConstantPlaces<Vlq32sc>(vlqsMulC_32sc_Sfs, vlqsMulC_32sc_ISfs, complexProductRef);
-    checkConstants<Vlq32sc>(vlqsMulC_32sc_Sfs, vlqsMulC_32sc_ISfs, complexProductRef, cornerValues<Vlq32sc>(), 1000);
+    checkConstants<Vlq32sc>(vlqsMulC_32sc_Sfs, vlqsMulC_32sc_ISfs, complexProductRef,
+                            cornerValues<Vlq32sc>(), 1000);
 }
 TEST(MulC, Scaled64s) {
     checkConstantPlaces<Vlq64s>(nullptr, vlqsMulC_64s_ISfs, productRef);
@@ -53,12 +61,15 @@ TEST(AddProduct, Scaled32s) {
     sweep(sizeof(Vlq32s), {5003}, [&](Case& c) {
         const int scaleFactor = turningScale(turn++, 32);
         const auto n = static_cast<std::size_t>(c.len);
-        const auto a = extremeElements<Vlq32s>(n, c.rng), b = extremeElements<Vlq32s>(n, c.rng), acc = extremeElements<Vlq32s>(n, c.rng);
+        const auto a = extremeElements<Vlq32s>(n, c.rng), b = extremeElements<Vlq32s>(n, c.rng),
+                   acc = extremeElements<Vlq32s>(n, c.rng);
         std::vector<Vlq32s> want(n);
-        for (std::size_t i = 0; i < n; ++i) want[i] = sumOfProductRef(acc[i], a[i], b[i], scaleFactor);
+        for (std::size_t i = 0; i < n; ++i)
+            want[i] = sumOfProductRef(acc[i], a[i], b[i], scaleFactor);
         const Buffer<Vlq32s> src1(a, c.place[1]), src2(b, c.place[2]);
         Buffer<Vlq32s> dst(acc, c.place[0]);
-        ASSERT_EQ(vlqStsOk, vlqsAddProduct_32s_Sfs(src1.data(), src2.data(), dst.data(), c.len, scaleFactor));
+        ASSERT_EQ(vlqStsOk,
+                  vlqsAddProduct_32s_Sfs(src1.data(), src2.data(), dst.data(), c.len, scaleFactor));
         ASSERT_TRUE(same(dst, want)) << "scale factor " << scaleFactor;
     });
     Rng rng(seed());
@@ -73,14 +84,16 @@ TEST(AddProduct, Scaled32s) {
             acc.push_back(extremeElement<Vlq32s>(rng));
         }
         auto dst = acc;
-        ASSERT_EQ(vlqStsOk, vlqsAddProduct_32s_Sfs(a.data(), b.data(), dst.data(), static_cast<int>(a.size()), scaleFactor));
+        ASSERT_EQ(vlqStsOk, vlqsAddProduct_32s_Sfs(a.data(), b.data(), dst.data(),
+                                                   static_cast<int>(a.size()), scaleFactor));
         for (std::size_t i = 0; i < a.size(); ++i) {
-            ASSERT_EQ(sumOfProductRef(acc[i], a[i], b[i], scaleFactor), dst[i]) << acc[i] << " + " << a[i] << " * " << b[i] << " at " << scaleFactor;
+            ASSERT_EQ(sumOfProductRef(acc[i], a[i], b[i], scaleFactor), dst[i])
+                << acc[i] << " + " << a[i] << " * " << b[i] << " at " << scaleFactor;
         }
     }
 }
 
-// ---- float constants ---------------------------------------------------------------------------------
+// ---- float constants ----------------------------------------------------------------------------
 // The double's fraction as an integer times the element, exactly, with its power in the scale.
 Vlq64s floatProductRef(Vlq64s a, double val, std::int32_t scaleFactor) {
     if (std::isnan(val) || (std::isinf(val) && a == 0)) return INT64_MIN;
@@ -88,22 +101,43 @@ Vlq64s floatProductRef(Vlq64s a, double val, std::int32_t scaleFactor) {
     int exponent = 0;
     const auto fraction = static_cast<std::int64_t>(std::ldexp(std::frexp(val, &exponent), 53));
     const std::int64_t scale = std::int64_t{scaleFactor} - (exponent - 53);
-    return scaleRef<Vlq64s>(Exact{a} * fraction, static_cast<std::int32_t>(scale > 500 ? 500 : scale < -500 ? -500 : scale));
+    return scaleRef<Vlq64s>(Exact{a} * fraction, static_cast<std::int32_t>(scale > 500    ? 500
+                                                                           : scale < -500 ? -500
+                                                                                          : scale));
 }
 
 TEST(MulC, Scaled64f64s) {
     Rng rng(seed());
-    std::vector<double> constants{0, -0.0, 1, -1, 0.5, 1.5, 2.5, 0x1p-1074, -0x1p-1022, 0x1p1023, 0x1.fffffffffffffp1023, INFINITY, -INFINITY, NAN,
-                                  0x1p63, -0x1p63, 1e10, 3.14159, -2.71828e-5};
+    std::vector<double> constants{0,
+                                  -0.0,
+                                  1,
+                                  -1,
+                                  0.5,
+                                  1.5,
+                                  2.5,
+                                  0x1p-1074,
+                                  -0x1p-1022,
+                                  0x1p1023,
+                                  0x1.fffffffffffffp1023,
+                                  INFINITY,
+                                  -INFINITY,
+                                  NAN,
+                                  0x1p63,
+                                  -0x1p63,
+                                  1e10,
+                                  3.14159,
+                                  -2.71828e-5};
     for (int i = 0; i < 20; ++i) constants.push_back(extremeValue<double>(rng));
     auto source = cornerValues<Vlq64s>();
     for (int i = 0; i < 2000; ++i) source.push_back(extremeValue<Vlq64s>(rng));
     for (const double val : constants) {
         for (const int scaleFactor : scaleFactors()) {
             auto dst = source;
-            ASSERT_EQ(vlqStsOk, vlqsMulC_64f64s_ISfs(val, dst.data(), static_cast<int>(dst.size()), scaleFactor));
+            ASSERT_EQ(vlqStsOk, vlqsMulC_64f64s_ISfs(val, dst.data(), static_cast<int>(dst.size()),
+                                                     scaleFactor));
             for (std::size_t i = 0; i < source.size(); ++i) {
-                ASSERT_EQ(floatProductRef(source[i], val, scaleFactor), dst[i]) << source[i] << " * " << val << " at " << scaleFactor;
+                ASSERT_EQ(floatProductRef(source[i], val, scaleFactor), dst[i])
+                    << source[i] << " * " << val << " at " << scaleFactor;
             }
         }
     }
@@ -116,18 +150,25 @@ Vlq16s store16(long double value) {
     return static_cast<Vlq16s>(rounded > 32767 ? 32767 : rounded < -32768 ? -32768 : rounded);
 }
 long double scaledBy(long double value, std::int32_t scaleFactor) {
-    return std::ldexp(value, scaleFactor > 2000 ? -2000 : scaleFactor < -2000 ? 2000 : -scaleFactor);
+    return std::ldexp(value, scaleFactor > 2000    ? -2000
+                             : scaleFactor < -2000 ? 2000
+                                                   : -scaleFactor);
 }
 
 TEST(MulC, Scaled32f16s) {
     std::size_t turn = 0;
     const auto factors = scaleFactors();
-    const auto check = [&](const std::vector<Vlq32f>& a, Vlq32f val, int scaleFactor, const Vlq32f* src, Buffer<Vlq16s>& dst) {
+    const auto check = [&](const std::vector<Vlq32f>& a, Vlq32f val, int scaleFactor,
+                           const Vlq32f* src, Buffer<Vlq16s>& dst) {
         std::vector<Vlq16s> want(a.size());
-        for (std::size_t i = 0; i < a.size(); ++i) want[i] = store16(scaledBy(static_cast<long double>(a[i]) * static_cast<long double>(val), scaleFactor));
-        ASSERT_EQ(vlqStsOk, vlqsMulC_32f16s_Sfs(src, val, dst.data(), static_cast<int>(a.size()), scaleFactor));
+        for (std::size_t i = 0; i < a.size(); ++i)
+            want[i] = store16(scaledBy(
+                static_cast<long double>(a[i]) * static_cast<long double>(val), scaleFactor));
+        ASSERT_EQ(vlqStsOk, vlqsMulC_32f16s_Sfs(src, val, dst.data(), static_cast<int>(a.size()),
+                                                scaleFactor));
         ASSERT_TRUE(same(dst, want)) << "constant " << val << ", scale factor " << scaleFactor;
-        for (std::size_t i = 0; i < a.size(); ++i) want[i] = store16(static_cast<long double>(a[i] * val));
+        for (std::size_t i = 0; i < a.size(); ++i)
+            want[i] = store16(static_cast<long double>(a[i] * val));
         ASSERT_EQ(vlqStsOk, vlqsMulC_Low_32f16s(src, val, dst.data(), static_cast<int>(a.size())));
         ASSERT_TRUE(same(dst, want)) << "single precision, constant " << val;
     };
@@ -146,11 +187,12 @@ TEST(MulC, Scaled32f16s) {
     }
 }
 
-// ---- digests ------------------------------------------------------------------------------------------
+// ---- digests ------------------------------------------------------------------------------------
 TEST(Mul, WideDigests) {
     checkDigest<Vlq32s, Vlq32s, Vlq32s>(vlqsMul_32s_Sfs, productRef, 0x512e37c33cbf5e2f);
     checkDigest<Vlq32s, Vlq32s, Vlq32s>(vlqsMul_Low_32s_Sfs, productRef, 0x512e37c33cbf5e2f);
-    checkDigest<Vlq32s, Vlq32sc, Vlq32sc>(vlqsMul_32s32sc_Sfs, realByComplexRef, 0xbf7451ccc3168477);
+    checkDigest<Vlq32s, Vlq32sc, Vlq32sc>(vlqsMul_32s32sc_Sfs, realByComplexRef,
+                                          0xbf7451ccc3168477);
     checkDigest<Vlq32sc, Vlq32sc, Vlq32sc>(vlqsMul_32sc_Sfs, complexProductRef, 0x198fa146882d4a2e);
 }
 TEST(MulC, WideDigests) {
@@ -159,12 +201,14 @@ TEST(MulC, WideDigests) {
     checkConstantDigest<Vlq64s>(vlqsMulC_64s_ISfs, productRef, 0x228ffce1c81fe39f);
 }
 TEST(AddProduct, WideDigest) {
-    const auto a = fixedVector<Vlq32s>(2000, 1), b = fixedVector<Vlq32s>(2000, 2), acc = fixedVector<Vlq32s>(2000, 3);
+    const auto a = fixedVector<Vlq32s>(2000, 1), b = fixedVector<Vlq32s>(2000, 2),
+               acc = fixedVector<Vlq32s>(2000, 3);
     Digest got, want;
     for (int s = -70; s <= 70; ++s) {
         auto dst = acc, ref = acc;
         ASSERT_EQ(vlqStsOk, vlqsAddProduct_32s_Sfs(a.data(), b.data(), dst.data(), 2000, s));
-        for (std::size_t i = 0; i < ref.size(); ++i) ref[i] = sumOfProductRef(acc[i], a[i], b[i], s);
+        for (std::size_t i = 0; i < ref.size(); ++i)
+            ref[i] = sumOfProductRef(acc[i], a[i], b[i], s);
         got.add(dst);
         want.add(ref);
     }
@@ -175,7 +219,8 @@ TEST(MulC, FloatConstantDigests) {
     const auto samples = fixedVector<Vlq32s>(2000, 5);
     Digest got, want, got16, want16, gotLow, wantLow;
     for (int s = -70; s <= 70; ++s) {
-        const double val = static_cast<double>(constants[static_cast<std::size_t>(s + 70)]) * 0x1p-20;
+        const double val =
+            static_cast<double>(constants[static_cast<std::size_t>(s + 70)]) * 0x1p-20;
         auto dst = src, ref = src;
         ASSERT_EQ(vlqStsOk, vlqsMulC_64f64s_ISfs(val, dst.data(), 2000, s));
         std::vector<Vlq32f> floats(2000);
@@ -184,7 +229,8 @@ TEST(MulC, FloatConstantDigests) {
         for (std::size_t i = 0; i < src.size(); ++i) {
             ref[i] = floatProductRef(src[i], val, s);
             floats[i] = static_cast<Vlq32f>(samples[i]) * 0x1p-10f;
-            ref16[i] = store16(scaledBy(static_cast<long double>(floats[i]) * static_cast<long double>(constant), s));
+            ref16[i] = store16(scaledBy(
+                static_cast<long double>(floats[i]) * static_cast<long double>(constant), s));
             refLow[i] = store16(static_cast<long double>(floats[i] * constant));
         }
         ASSERT_EQ(vlqStsOk, vlqsMulC_32f16s_Sfs(floats.data(), constant, dst16.data(), 2000, s));

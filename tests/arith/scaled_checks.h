@@ -1,8 +1,8 @@
 // Checks of element-wise calls with a scale factor against a function of one element pair.
 #pragma once
 
-#include "arith/digest.h"
-#include "arith/element.h"
+#include "harness/digest.h"
+#include "harness/element.h"
 #include "vlqs/arith.h"
 
 namespace vlqtest {
@@ -11,7 +11,9 @@ namespace vlqtest {
 inline std::vector<int> scaleFactors() {
     std::vector<int> all;
     for (int s = -40; s <= 70; ++s) all.push_back(s);
-    for (const int s : {INT32_MIN, INT32_MIN + 1, -65536, -1000, -256, -130, -127, -126, -64, -63, -62, -61, -50, 126, 127, 128, 129, 256, 1000, 65536, INT32_MAX}) {
+    for (const int s :
+         {INT32_MIN, INT32_MIN + 1, -65536, -1000, -256, -130, -127, -126, -64,   -63,      -62,
+          -61,       -50,           126,    127,   128,  129,  256,  1000, 65536, INT32_MAX}) {
         all.push_back(s);
     }
     return all;
@@ -29,28 +31,35 @@ template <class A, class B, class D>
 using ElementRef = D (*)(A, B, Vlq32s);
 
 template <class A, class B, class D>
-std::vector<D> wanted(const std::vector<A>& a, const std::vector<B>& b, ElementRef<A, B, D> ref, int scaleFactor) {
+std::vector<D> wanted(const std::vector<A>& a, const std::vector<B>& b, ElementRef<A, B, D> ref,
+                      int scaleFactor) {
     std::vector<D> want(a.size());
     for (std::size_t i = 0; i < a.size(); ++i) want[i] = ref(a[i], b[i], scaleFactor);
     return want;
 }
 
 template <class T>
-bool equalElements(T a, T b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+bool equalElements(T a, T b) {
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
 
 template <class T>
 std::string showInteger(T v) {
-    if constexpr (ComplexElement<T>) return std::to_string(v.re).append(" and ").append(std::to_string(v.im)).append(" i");
-    else return std::to_string(v);
+    if constexpr (ComplexElement<T>)
+        return std::to_string(v.re).append(" and ").append(std::to_string(v.im)).append(" i");
+    else
+        return std::to_string(v);
 }
 
 // A turn through scale factors that lie in every range of a type of `bits` bits.
 inline int turningScale(std::size_t turn, int bits) {
-    const int factors[] = {0, 1, 2, 3, bits / 2, bits, 2 * bits - 2, 2 * bits, 2 * bits + 1, -1, -bits / 2, -bits - 1};
+    const int factors[] = {
+        0, 1, 2, 3, bits / 2, bits, 2 * bits - 2, 2 * bits, 2 * bits + 1, -1, -bits / 2, -bits - 1};
     return factors[turn % std::size(factors)];
 }
 
-// Lengths, offsets and guard pages, with a scale factor of each range in turn. A null call is left out.
+// Lengths, offsets and guard pages, with a scale factor of each range in turn. A null call is left
+// out.
 template <class A, class B, class D>
 void checkPlaces(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref) {
     std::size_t turn = 0;
@@ -84,13 +93,15 @@ void checkPlaces(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A
         if constexpr (std::is_same_v<A, D> && std::is_same_v<B, D>) {
             dst.assign(a);
             ASSERT_EQ(vlqStsOk, call(dst.data(), dst.data(), dst.data(), c.len, scaleFactor));
-            ASSERT_TRUE(same(dst, wanted<A, B, D>(a, a, ref, scaleFactor))) << "of itself over itself, scale factor " << scaleFactor;
+            ASSERT_TRUE(same(dst, wanted<A, B, D>(a, a, ref, scaleFactor)))
+                << "of itself over itself, scale factor " << scaleFactor;
         }
     });
 }
 
 template <class T>
-void checkConstantPlaces(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> ref) {
+void checkConstantPlaces(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace,
+                         ElementRef<T, T, T> ref) {
     std::size_t turn = 0;
     sweep(sizeof(T), {5003}, [&](Case& c) {
         const int scaleFactor = turningScale(turn++, 8 * static_cast<int>(sizeof(T)));
@@ -116,7 +127,8 @@ std::vector<T> cornerValues() {
     std::vector<T> values;
     for (int shift = 0; shift <= std::numeric_limits<T>::digits; ++shift) {
         for (const int d : {-1, 0, 1}) {
-            const auto value = static_cast<T>((std::uint64_t{1} << (shift < 64 ? shift : 63)) + static_cast<std::uint64_t>(d));
+            const auto value = static_cast<T>((std::uint64_t{1} << (shift < 64 ? shift : 63)) +
+                                              static_cast<std::uint64_t>(d));
             values.push_back(value);
             values.push_back(static_cast<T>(0 - static_cast<std::uint64_t>(value)));
         }
@@ -128,21 +140,27 @@ std::vector<C> cornerValues() {
     using T = decltype(C::re);
     constexpr T low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
     std::vector<C> values;
-    for (const T re : {low, static_cast<T>(low + 1), high, T{0}, T{1}, T{-1}, static_cast<T>(low / 2), static_cast<T>(high / 2 + 1)}) {
-        for (const T im : {low, static_cast<T>(low + 1), high, T{0}, T{1}, T{-1}, static_cast<T>(low / 2), static_cast<T>(high / 2)}) values.push_back({re, im});
+    for (const T re : {low, static_cast<T>(low + 1), high, T{0}, T{1}, T{-1},
+                       static_cast<T>(low / 2), static_cast<T>(high / 2 + 1)}) {
+        for (const T im : {low, static_cast<T>(low + 1), high, T{0}, T{1}, T{-1},
+                           static_cast<T>(low / 2), static_cast<T>(high / 2)})
+            values.push_back({re, im});
     }
     return values;
 }
 
 // Given pairs at one scale factor, out of place and in place.
 template <class A, class B, class D>
-void checkPairs(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref, const std::vector<A>& a, const std::vector<B>& b, int scaleFactor,
+void checkPairs(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref,
+                const std::vector<A>& a, const std::vector<B>& b, int scaleFactor,
                 VlqStatus status = vlqStsOk) {
     const auto want = wanted<A, B, D>(a, b, ref, scaleFactor);
     const auto compare = [&](const std::vector<D>& dst) {
         for (std::size_t i = 0; i < a.size(); ++i) {
-            ASSERT_TRUE(equalElements(want[i], dst[i])) << showInteger(a[i]) << " with " << showInteger(b[i]) << " at scale factor " << scaleFactor
-                                                        << ": " << showInteger(dst[i]) << ", expected " << showInteger(want[i]);
+            ASSERT_TRUE(equalElements(want[i], dst[i]))
+                << showInteger(a[i]) << " with " << showInteger(b[i]) << " at scale factor "
+                << scaleFactor << ": " << showInteger(dst[i]) << ", expected "
+                << showInteger(want[i]);
         }
     };
     const int len = static_cast<int>(a.size());
@@ -175,8 +193,8 @@ void appendRandom(std::vector<T>& values, std::size_t count, Rng& rng) {
 // Corner pairs, and ten million random pairs over all scale factors.
 inline constexpr std::size_t kRandomPairs = 10'000'000;
 template <class A, class B, class D>
-void checkValues(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref, VlqStatus status = vlqStsOk,
-                 const std::vector<int>& factors = scaleFactors()) {
+void checkValues(Scaled<A, B, D> call, ScaledInPlace<A, D> inPlace, ElementRef<A, B, D> ref,
+                 VlqStatus status = vlqStsOk, const std::vector<int>& factors = scaleFactors()) {
     Rng rng(seed());
     for (const int scaleFactor : factors) {
         std::vector<A> a;
@@ -203,8 +221,8 @@ inline std::vector<int> byteScaleFactors() {
     for (int s = -40; s <= 40; ++s) factors.push_back(s);
     return factors;
 }
-inline void checkAllBytes(Scaled<Vlq8u, Vlq8u, Vlq8u> call, ScaledInPlace<Vlq8u, Vlq8u> inPlace, ElementRef<Vlq8u, Vlq8u, Vlq8u> ref,
-                          VlqStatus status = vlqStsOk) {
+inline void checkAllBytes(Scaled<Vlq8u, Vlq8u, Vlq8u> call, ScaledInPlace<Vlq8u, Vlq8u> inPlace,
+                          ElementRef<Vlq8u, Vlq8u, Vlq8u> ref, VlqStatus status = vlqStsOk) {
     std::vector<Vlq8u> a, b;
     appendAllBytePairs(a, b);
     for (const int s : byteScaleFactors()) {
@@ -213,10 +231,11 @@ inline void checkAllBytes(Scaled<Vlq8u, Vlq8u, Vlq8u> call, ScaledInPlace<Vlq8u,
     }
 }
 
-// ---- digests ---------------------------------------------------------------------------------------
+// ---- digests ------------------------------------------------------------------------------------
 // Results of fixed vectors over scale factors of every range.
 template <class A, class B, class D>
-void checkDigest(Scaled<A, B, D> call, ElementRef<A, B, D> ref, std::uint64_t expected, VlqStatus status = vlqStsOk) {
+void checkDigest(Scaled<A, B, D> call, ElementRef<A, B, D> ref, std::uint64_t expected,
+                 VlqStatus status = vlqStsOk) {
     auto a = fixedVector<A>(2000, 1);
     const auto b = fixedVector<B>(2000, 2);
     if (status == vlqStsWarnDivByZero) a[0] = A{};
@@ -230,7 +249,8 @@ void checkDigest(Scaled<A, B, D> call, ElementRef<A, B, D> ref, std::uint64_t ex
     expectDigest(expected, got, want);
 }
 template <class T>
-void checkConstantDigest(ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> ref, std::uint64_t expected) {
+void checkConstantDigest(ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> ref,
+                         std::uint64_t expected) {
     const auto src = fixedVector<T>(2000, 3);
     auto constants = fixedVector<T>(141, 4);
     Digest got, want;
@@ -249,10 +269,11 @@ void checkConstantDigest(ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> r
     expectDigest(expected, got, want);
 }
 
-// Constants, and a few random ones, against all values of up to 16 bits or corners and random values of
-// wider types. The call out of place may be absent.
+// Constants, and a few random ones, against all values of up to 16 bits or corners and random
+// values of wider types. The call out of place may be absent.
 template <class T>
-void checkConstants(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace, ElementRef<T, T, T> ref, std::vector<T> constants, std::size_t randoms) {
+void checkConstants(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace,
+                    ElementRef<T, T, T> ref, std::vector<T> constants, std::size_t randoms) {
     Rng rng(seed());
     for (int i = 0; i < (sizeof(T) <= 2 ? 2 : 12); ++i) constants.push_back(extremeElement<T>(rng));
     std::vector<T> source;
@@ -265,16 +286,21 @@ void checkConstants(ScaledConstant<T> call, ScaledConstantInPlace<T> inPlace, El
     for (const T val : constants) {
         for (const int scaleFactor : scaleFactors()) {
             auto dst = source;
-            ASSERT_EQ(vlqStsOk, inPlace(val, dst.data(), static_cast<int>(dst.size()), scaleFactor));
+            ASSERT_EQ(vlqStsOk,
+                      inPlace(val, dst.data(), static_cast<int>(dst.size()), scaleFactor));
             if (call) {
                 std::vector<T> apart(source.size());
-                ASSERT_EQ(vlqStsOk, call(source.data(), val, apart.data(), static_cast<int>(dst.size()), scaleFactor));
-                ASSERT_EQ(0, std::memcmp(apart.data(), dst.data(), dst.size() * sizeof(T))) << "constant " << showInteger(val) << " at " << scaleFactor;
+                ASSERT_EQ(vlqStsOk, call(source.data(), val, apart.data(),
+                                         static_cast<int>(dst.size()), scaleFactor));
+                ASSERT_EQ(0, std::memcmp(apart.data(), dst.data(), dst.size() * sizeof(T)))
+                    << "constant " << showInteger(val) << " at " << scaleFactor;
             }
             for (std::size_t i = 0; i < source.size(); ++i) {
                 const T want = ref(source[i], val, scaleFactor);
-                ASSERT_TRUE(equalElements(want, dst[i])) << showInteger(source[i]) << " with constant " << showInteger(val) << " at scale factor "
-                                                         << scaleFactor << ": " << showInteger(dst[i]) << ", expected " << showInteger(want);
+                ASSERT_TRUE(equalElements(want, dst[i]))
+                    << showInteger(source[i]) << " with constant " << showInteger(val)
+                    << " at scale factor " << scaleFactor << ": " << showInteger(dst[i])
+                    << ", expected " << showInteger(want);
             }
         }
     }

@@ -1,4 +1,5 @@
-// Runs the examples that change the rate of a sound as a user does, on sounds made here and on a voice.
+// Runs the examples that change the rate of a sound as a user does, on sounds made here and on a
+// voice.
 #include "examples/example_test.h"
 
 namespace {
@@ -15,9 +16,12 @@ double rms(const Sound& sound) {
 
 class ChangeRate : public ExampleTest {
 protected:
-    ChangeRate(std::string path, int rateBefore, int rateAfter) : ExampleTest(std::move(path)), from(rateBefore), to(rateAfter) {}
+    ChangeRate(std::string path, int rateBefore, int rateAfter)
+        : ExampleTest(std::move(path)), from(rateBefore), to(rateAfter) {}
 
-    Outcome run(const fs::path& input) const { return wait(start({input.string(), sound().string()})); }
+    Outcome run(const fs::path& input) const {
+        return wait(start({input.string(), sound().string()}));
+    }
 
     Sound changed(const Sound& given) const {
         const Outcome outcome = run(write("given.wav", wav(given)));
@@ -35,7 +39,9 @@ protected:
                 EXPECT_EQ(channels, result.channels);
                 EXPECT_EQ(16, result.bits);
                 // What remains of a period is filled up.
-                EXPECT_EQ((frames * to + from - 1) / from * channels, static_cast<int>(result.samples.size())) << frames << " frames";
+                EXPECT_EQ((frames * to + from - 1) / from * channels,
+                          static_cast<int>(result.samples.size()))
+                    << frames << " frames";
                 fs::remove(sound());
             }
         }
@@ -49,24 +55,29 @@ protected:
         expectRefused(folder / "missing.wav", "does not exist");
         expectRefused(folder, "is not a file");
         expectRefused(write("empty.wav", ""), "is empty");
-        expectRefused(write("text.wav", "These are words, and nobody can hear them.\n"), "is not a WAV file");
+        expectRefused(write("text.wav", "These are words, and nobody can hear them.\n"),
+                      "is not a WAV file");
         expectRefused(write("truncated.wav", whole.substr(0, 5000)), "cut short");
         expectRefused(write("header.wav", whole.substr(0, 40)), "cut short");
         expectRefused(write("silent.wav", wav(noise(from, 0, 1))), "holds no samples");
         const Sound deep{from, 1, 24, {}};
         expectRefused(write("deep.wav", wavHeader(deep, 3000) + std::string(3000, 'x')), "24 bit");
         expectRefused(write("rate.wav", wav(noise(44100, 5000, 1))), "44100 samples a second");
-        const std::string input = write("given.wav", whole).string(), nowhere = (folder / "no folder" / "file").string();
+        const std::string input = write("given.wav", whole).string(),
+                          nowhere = (folder / "no folder" / "file").string();
         expectRefusal(wait(start({input, nowhere})), nowhere, "cannot be written");
         expectRefusal(wait(start({input, folder.string()})), folder.string(), "not a file");
         const Outcome usage = wait(start({input}));
         EXPECT_EQ(EXIT_FAILURE, usage.code);
-        EXPECT_EQ(0u, usage.err.find("Usage: " + fs::path(program).filename().string() + " INPUT.wav OUTPUT.wav\n")) << usage.err;
+        EXPECT_EQ(0u, usage.err.find("Usage: " + fs::path(program).filename().string() +
+                                     " INPUT.wav OUTPUT.wav\n"))
+            << usage.err;
     }
 
     void checkEarlierFileStays() const {
         write("out/sound.wav", "earlier sound");
-        EXPECT_EQ(EXIT_FAILURE, run(write("cut.wav", wav(noise(from, 5000, 1)).substr(0, 3000))).code);
+        EXPECT_EQ(EXIT_FAILURE,
+                  run(write("cut.wav", wav(noise(from, 5000, 1)).substr(0, 3000))).code);
         EXPECT_EQ("earlier sound", readFile(sound()));
     }
 
@@ -109,8 +120,10 @@ TEST_F(Interpolate, KeepsTheLevelAndStopsTheImages) {
         const double frequency = channel == 0 ? 1000 : 3000;
         EXPECT_NEAR(0, decibels(amplitude(result, channel, frequency) / 10000), 0.1);
         for (const double rate : {8000, 16000}) {
-            EXPECT_LT(decibels(amplitude(result, channel, rate - frequency) / 10000), -50) << rate << " - " << frequency;
-            EXPECT_LT(decibels(amplitude(result, channel, rate + frequency) / 10000), -50) << rate << " + " << frequency;
+            EXPECT_LT(decibels(amplitude(result, channel, rate - frequency) / 10000), -50)
+                << rate << " - " << frequency;
+            EXPECT_LT(decibels(amplitude(result, channel, rate + frequency) / 10000), -50)
+                << rate << " + " << frequency;
         }
     }
     EXPECT_LT(amplitude(result, 0, 3000), 1);
@@ -127,13 +140,16 @@ TEST_F(Interpolate, TakesFullScale) {
 TEST_F(Decimate, SaysWhatItMeasured) {
     const Outcome outcome = run(write("given.wav", wav(sines(48000, 480000, {1000}, 16384))));
     ASSERT_EQ(EXIT_SUCCESS, outcome.code) << outcome.err;
-    for (const std::string text : {"10.00 s, 48000 Hz, 1 channel\n", "Level before: RMS   -9.0 dBFS, peak   -6.0 dBFS", "Level after:  RMS   -9.0 dBFS",
-                                   "Low-pass of 192 taps at 48000 Hz, cut-off 3600 Hz\n", "Sound of 8000 Hz, 80000 samples: ", "100 % filtered\n"}) {
+    for (const std::string text :
+         {"10.00 s, 48000 Hz, 1 channel\n", "Level before: RMS   -9.0 dBFS, peak   -6.0 dBFS",
+          "Level after:  RMS   -9.0 dBFS", "Low-pass of 192 taps at 48000 Hz, cut-off 3600 Hz\n",
+          "Sound of 8000 Hz, 80000 samples: ", "100 % filtered\n"}) {
         EXPECT_NE(std::string::npos, outcome.out.find(text)) << text << "\n" << outcome.out;
     }
 }
 
-// Down and up again: a voice lies below 4 kHz for the most part, and is then the same but for a delay.
+// Down and up again: a voice lies below 4 kHz for the most part, and is then the same but for a
+// delay.
 TEST_F(Decimate, BringsAVoiceThere) {
     const fs::path voice = "/usr/share/sounds/alsa/Front_Center.wav";
     if (!fs::exists(voice)) GTEST_SKIP() << voice << " comes with Debian's alsa-utils";

@@ -55,7 +55,8 @@ inline std::string wavHeader(const Sound& sound, std::size_t bytes) {
 
 inline std::string wav(const Sound& sound) {
     std::string bytes = wavHeader(sound, sound.samples.size() * 2);
-    for (const std::int16_t sample : sound.samples) append(bytes, static_cast<std::uint16_t>(sample), 2);
+    for (const std::int16_t sample : sound.samples)
+        append(bytes, static_cast<std::uint16_t>(sample), 2);
     return bytes;
 }
 
@@ -66,7 +67,9 @@ inline std::string readFile(const fs::path& path) {
 
 inline std::uint32_t number(const std::string& bytes, std::size_t at, int count) {
     std::uint32_t value = 0;
-    while (count-- > 0) value = value << 8 | static_cast<unsigned char>(bytes.at(at + static_cast<std::size_t>(count)));
+    while (count-- > 0)
+        value =
+            value << 8 | static_cast<unsigned char>(bytes.at(at + static_cast<std::size_t>(count)));
     return value;
 }
 
@@ -107,10 +110,12 @@ inline Sound noise(int rate, int frames, int channels) {
     return sound;
 }
 
-// Amplitude of a frequency in one channel, past the first tenth of a second, where the filter fills.
+// Amplitude of a frequency in one channel, past the first tenth of a second, where the filter
+// fills.
 inline double amplitude(const Sound& sound, int channel, double frequency) {
     double re = 0, im = 0;
-    const int frames = static_cast<int>(sound.samples.size()) / sound.channels, skipped = sound.rate / 10;
+    const int frames = static_cast<int>(sound.samples.size()) / sound.channels,
+              skipped = sound.rate / 10;
     for (int n = skipped; n < frames; ++n) {
         const double turn = 2 * std::numbers::pi * frequency * n / sound.rate;
         const double sample = sound.samples[static_cast<std::size_t>(n * sound.channels + channel)];
@@ -126,7 +131,8 @@ struct Outcome {
     long peakBytes = 0;  // resident memory; not below this program's own at the time of the start
 };
 
-// The tests of one program. Its files lie in a folder of their own for each test, its results in "out".
+// The tests of one program. Its files lie in a folder of their own for each test, its results in
+// "out".
 class ExampleTest : public testing::Test {
 protected:
     explicit ExampleTest(std::string path) : program(std::move(path)) {}
@@ -167,25 +173,28 @@ protected:
         int status = 0;
         rusage usage{};
         EXPECT_EQ(child, wait4(child, &status, 0, &usage));
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), readFile(folder / "stdout"),
-                readFile(folder / "stderr"), usage.ru_maxrss * 1024};
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status),
+                readFile(folder / "stdout"), readFile(folder / "stderr"), usage.ru_maxrss * 1024};
     }
 
     fs::path sound() const { return folder / "out" / "sound.wav"; }
 
     std::vector<std::string> left() const {
         std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder / "out")) names.push_back(entry.path().filename());
+        for (const auto& entry : fs::directory_iterator(folder / "out"))
+            names.push_back(entry.path().filename());
         return names;
     }
 
     // A refusal: a failing exit code, one sentence that names `named`, and no files.
-    void expectRefusal(const Outcome& outcome, const std::string& named, const std::string& reason) const {
+    void expectRefusal(const Outcome& outcome, const std::string& named,
+                       const std::string& reason) const {
         EXPECT_EQ(EXIT_FAILURE, outcome.code);
         EXPECT_NE(std::string::npos, outcome.err.find(named)) << outcome.err;
         EXPECT_NE(std::string::npos, outcome.err.find(reason)) << outcome.err;
         ASSERT_GE(outcome.err.size(), 2u);
-        EXPECT_EQ(outcome.err.size() - 1, outcome.err.find('\n')) << "not one line: " << outcome.err;
+        EXPECT_EQ(outcome.err.size() - 1, outcome.err.find('\n'))
+            << "not one line: " << outcome.err;
         EXPECT_EQ(".\n", outcome.err.substr(outcome.err.size() - 2));
         EXPECT_EQ(std::vector<std::string>{}, left());
     }

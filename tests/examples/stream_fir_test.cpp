@@ -47,15 +47,14 @@ protected:
         EXPECT_EQ(0, pipe2(ends, O_CLOEXEC));
         fcntl(ends[1], F_SETFL, O_NONBLOCK);
         const std::array<char, 512> filling{};
-        while (::write(ends[1], filling.data(), filling.size()) > 0) {
-        }
-        while (::write(ends[1], filling.data(), 1) > 0) {
-        }
+        while (::write(ends[1], filling.data(), filling.size()) > 0) {}
+        while (::write(ends[1], filling.data(), 1) > 0) {}
         fcntl(ends[1], F_SETFL, 0);
 
         const pid_t child = start({input.string(), sound().string(), picture().string()}, ends[1]);
         close(ends[1]);
-        for (int i = 0; i < 2000 && left().size() < 2; ++i) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        for (int i = 0; i < 2000 && left().size() < 2; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
         EXPECT_EQ(2u, left().size());
         EXPECT_FALSE(fs::exists(sound()));
         EXPECT_FALSE(fs::exists(picture()));
@@ -90,11 +89,14 @@ TEST_F(StreamFir, PassesVoiceAndStopsWhatLiesAbove) {
 TEST_F(StreamFir, SaysWhatItMeasured) {
     const Outcome outcome = run(write("given.wav", wav(sines(8000, 80000, {1000}, 16384))));
     ASSERT_EQ(EXIT_SUCCESS, outcome.code) << outcome.err;
-    const auto says = [&](const std::string& text) { return outcome.out.find(text) != std::string::npos; };
+    const auto says = [&](const std::string& text) {
+        return outcome.out.find(text) != std::string::npos;
+    };
     EXPECT_TRUE(says("10.00 s, 8000 Hz, 1 channel\n")) << outcome.out;
     EXPECT_TRUE(says("Level before: RMS   -9.0 dBFS, peak   -6.0 dBFS")) << outcome.out;
     EXPECT_TRUE(says("Level after:  RMS   -9.0 dBFS")) << outcome.out;
-    EXPECT_TRUE(says("between the two results: 0 of") || says("between the two results: 1 of")) << outcome.out;
+    EXPECT_TRUE(says("between the two results: 0 of") || says("between the two results: 1 of"))
+        << outcome.out;
     EXPECT_TRUE(says("Blocks of  160 samples: 10.00 s")) << outcome.out;
     EXPECT_TRUE(says("Blocks of 4096 samples: 10.00 s")) << outcome.out;
     EXPECT_TRUE(says(picture().string())) << outcome.out;
@@ -136,7 +138,8 @@ TEST_F(StreamFir, RefusesWhatItCannotRead) {
     expectRefused(folder / "missing.wav", "does not exist");
     expectRefused(folder, "is not a file");
     expectRefused(write("empty.wav", ""), "is empty");
-    expectRefused(write("text.wav", "These are words, and nobody can hear them.\n"), "is not a WAV file");
+    expectRefused(write("text.wav", "These are words, and nobody can hear them.\n"),
+                  "is not a WAV file");
     expectRefused(write("short.wav", "RIFF"), "is not a WAV file");
     expectRefused(write("truncated.wav", whole.substr(0, 5000)), "cut short");
     expectRefused(write("one_byte_missing.wav", whole.substr(0, whole.size() - 1)), "cut short");
@@ -153,8 +156,10 @@ TEST_F(StreamFir, RefusesWhatItCannotWrite) {
     const std::string nowhere = (folder / "no folder" / "file").string();
     expectRefusal(wait(start({input, nowhere, picture().string()})), nowhere, "cannot be written");
     expectRefusal(wait(start({input, sound().string(), nowhere})), nowhere, "cannot be written");
-    expectRefusal(wait(start({input, folder.string(), picture().string()})), folder.string(), "not a file");
-    expectRefusal(wait(start({input, sound().string(), sound().string()})), "", "names of their own");
+    expectRefusal(wait(start({input, folder.string(), picture().string()})), folder.string(),
+                  "not a file");
+    expectRefusal(wait(start({input, sound().string(), sound().string()})), "",
+                  "names of their own");
 }
 
 TEST_F(StreamFir, LeavesEarlierFilesAloneOnFailure) {

@@ -35,7 +35,8 @@ inline void joinHalves(Extended* result, std::size_t n, const std::vector<Extend
     const std::size_t half = n / 2;
     for (std::size_t k = 0; k < half; ++k) {
         const Extended w = roots[k * (roots.size() / n)], a = result[k], b = result[k + half];
-        const Extended t(w.real() * b.real() - w.imag() * b.imag(), w.real() * b.imag() + w.imag() * b.real());
+        const Extended t(w.real() * b.real() - w.imag() * b.imag(),
+                         w.real() * b.imag() + w.imag() * b.real());
         result[k] = a + t;
         result[k + half] = a - t;
     }
@@ -71,8 +72,16 @@ struct Cut {
     int outer, columns;
 };
 inline Cut cutOf(bool single, int order) {
-    if (single) return order == 16 ? Cut{4, 5} : order <= 18 ? Cut{4, 6} : order <= 21 ? Cut{6, 7} : Cut{8, 6};
-    return order <= 15 ? Cut{4, 4} : order <= 17 ? Cut{4, 6} : order == 18 ? Cut{6, 6} : order == 19 ? Cut{6, 7} : Cut{8, 5};
+    if (single)
+        return order == 16   ? Cut{4, 5}
+               : order <= 18 ? Cut{4, 6}
+               : order <= 21 ? Cut{6, 7}
+                             : Cut{8, 6};
+    return order <= 15   ? Cut{4, 4}
+           : order <= 17 ? Cut{4, 6}
+           : order == 18 ? Cut{6, 6}
+           : order == 19 ? Cut{6, 7}
+                         : Cut{8, 5};
 }
 
 // Sizes of a record with its tables, scratch and work buffer, for elements of `element` bytes.
@@ -80,9 +89,12 @@ inline Sizes complexSizes(std::size_t element, int order) {
     const bool single = element == 4;
     auto down64 = [](std::int64_t x) { return x / 64 * 64; };
     if (order <= 5) return {single ? 148 : 152, 0, 0};
-    const std::int64_t n = std::int64_t{1} << order, value = single ? 8 : 16, slack = single ? 71 : 79;
+    const std::int64_t n = std::int64_t{1} << order, value = single ? 8 : 16,
+                       slack = single ? 71 : 79;
     const int inCache = single ? 15 : 13, plain = single ? 16 : 15, tile = single ? 6 : 5;
-    std::int64_t spec = order <= plain ? down64(n + 67) : (std::int64_t{4} << (order - 2 * tile)) + (single ? 4160 : 1088);
+    std::int64_t spec = order <= plain
+                            ? down64(n + 67)
+                            : (std::int64_t{4} << (order - 2 * tile)) + (single ? 4160 : 1088);
     std::int64_t work = order <= plain ? 0 : single ? 0x10000 : 0x8000;
     int row = order;
     while (row > inCache) {
@@ -93,7 +105,9 @@ inline Sizes complexSizes(std::size_t element, int order) {
     }
     spec += down64((value << row) + slack);
     work = std::max(work, down64((value << row) + 63));
-    const std::int64_t init = order <= 10 ? 0 : single ? down64(n + 67) + 64 : down64(8 * (n / 4) + 71) + 64;
+    const std::int64_t init = order <= 10 ? 0
+                              : single    ? down64(n + 67) + 64
+                                          : down64(8 * (n / 4) + 71) + 64;
     return {spec + 192, init, work + 64};
 }
 

@@ -8,7 +8,7 @@
 #include "harness/buffer.h"
 #include "harness/core_double.h"
 #include "harness/random.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 
 namespace {
 
@@ -30,8 +30,8 @@ Head<typename Kind::Element> headOf(const void* spec) {
     return head;
 }
 
-// What differs between the precisions: unit is half a unit in the last place of 1, rootError how far
-// a reciprocal root may be off.
+// What differs between the precisions: unit is half a unit in the last place of 1, rootError how
+// far a reciprocal root may be off.
 struct Single {
     using Element = Vlq32f;
     static constexpr int largest = 28;
@@ -68,7 +68,9 @@ struct InterleavedData {
 template <class T>
 struct SplitData {
     static std::vector<T> fromParts(const std::vector<T>& parts) { return parts; }
-    static Extended at(const std::vector<T>& v, std::size_t i) { return {v[i], v[v.size() / 2 + i]}; }
+    static Extended at(const std::vector<T>& v, std::size_t i) {
+        return {v[i], v[v.size() / 2 + i]};
+    }
 };
 
 // The kinds under one set of names.
@@ -80,11 +82,15 @@ struct Interleaved32 : Single, InterleavedData<Vlq32f> {
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32fc;
     static constexpr auto getBufSize = vlqsFFTGetBufSize_C_32fc;
     static constexpr auto free = vlqsFFTFree_C_32fc;
-    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec, Vlq8u* buf, int) {
+    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec,
+                               Vlq8u* buf, int) {
         const auto* src = reinterpret_cast<const Vlq32fc*>(x);
         auto* dst = reinterpret_cast<Vlq32fc*>(y);
-        if (x == y) return forward ? vlqsFFTFwd_CToC_32fc_I(dst, spec, buf) : vlqsFFTInv_CToC_32fc_I(dst, spec, buf);
-        return forward ? vlqsFFTFwd_CToC_32fc(src, dst, spec, buf) : vlqsFFTInv_CToC_32fc(src, dst, spec, buf);
+        if (x == y)
+            return forward ? vlqsFFTFwd_CToC_32fc_I(dst, spec, buf)
+                           : vlqsFFTInv_CToC_32fc_I(dst, spec, buf);
+        return forward ? vlqsFFTFwd_CToC_32fc(src, dst, spec, buf)
+                       : vlqsFFTInv_CToC_32fc(src, dst, spec, buf);
     }
 };
 struct Split32 : Single, SplitData<Vlq32f> {
@@ -95,9 +101,12 @@ struct Split32 : Single, SplitData<Vlq32f> {
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32f;
     static constexpr auto getBufSize = vlqsFFTGetBufSize_C_32f;
     static constexpr auto free = vlqsFFTFree_C_32f;
-    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec, Vlq8u* buf, int order) {
+    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec,
+                               Vlq8u* buf, int order) {
         const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
-        if (x == y) return forward ? vlqsFFTFwd_CToC_32f_I(y, y + n, spec, buf) : vlqsFFTInv_CToC_32f_I(y, y + n, spec, buf);
+        if (x == y)
+            return forward ? vlqsFFTFwd_CToC_32f_I(y, y + n, spec, buf)
+                           : vlqsFFTInv_CToC_32f_I(y, y + n, spec, buf);
         return forward ? vlqsFFTFwd_CToC_32f(x, x + n, y, y + n, spec, buf)
                        : vlqsFFTInv_CToC_32f(x, x + n, y, y + n, spec, buf);
     }
@@ -110,11 +119,15 @@ struct Interleaved64 : Double, InterleavedData<Vlq64f> {
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64fc;
     static constexpr auto getBufSize = vlqsFFTGetBufSize_C_64fc;
     static constexpr auto free = vlqsFFTFree_C_64fc;
-    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec, Vlq8u* buf, int) {
+    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec,
+                               Vlq8u* buf, int) {
         const auto* src = reinterpret_cast<const Vlq64fc*>(x);
         auto* dst = reinterpret_cast<Vlq64fc*>(y);
-        if (x == y) return forward ? vlqsFFTFwd_CToC_64fc_I(dst, spec, buf) : vlqsFFTInv_CToC_64fc_I(dst, spec, buf);
-        return forward ? vlqsFFTFwd_CToC_64fc(src, dst, spec, buf) : vlqsFFTInv_CToC_64fc(src, dst, spec, buf);
+        if (x == y)
+            return forward ? vlqsFFTFwd_CToC_64fc_I(dst, spec, buf)
+                           : vlqsFFTInv_CToC_64fc_I(dst, spec, buf);
+        return forward ? vlqsFFTFwd_CToC_64fc(src, dst, spec, buf)
+                       : vlqsFFTInv_CToC_64fc(src, dst, spec, buf);
     }
 };
 struct Split64 : Double, SplitData<Vlq64f> {
@@ -125,9 +138,12 @@ struct Split64 : Double, SplitData<Vlq64f> {
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64f;
     static constexpr auto getBufSize = vlqsFFTGetBufSize_C_64f;
     static constexpr auto free = vlqsFFTFree_C_64f;
-    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec, Vlq8u* buf, int order) {
+    static VlqStatus transform(bool forward, const Element* x, Element* y, const Spec* spec,
+                               Vlq8u* buf, int order) {
         const std::ptrdiff_t n = std::ptrdiff_t{1} << order;
-        if (x == y) return forward ? vlqsFFTFwd_CToC_64f_I(y, y + n, spec, buf) : vlqsFFTInv_CToC_64f_I(y, y + n, spec, buf);
+        if (x == y)
+            return forward ? vlqsFFTFwd_CToC_64f_I(y, y + n, spec, buf)
+                           : vlqsFFTInv_CToC_64f_I(y, y + n, spec, buf);
         return forward ? vlqsFFTFwd_CToC_64f(x, x + n, y, y + n, spec, buf)
                        : vlqsFFTInv_CToC_64f(x, x + n, y, y + n, spec, buf);
     }
@@ -145,7 +161,9 @@ TYPED_TEST_SUITE(FftComplex, Kinds);
 template <class Kind>
 class Record {
 public:
-    Record(int order, Vlq32s flag) { EXPECT_EQ(vlqStsOk, Kind::initAlloc(&spec, order, flag, vlqHintNone)); }
+    Record(int order, Vlq32s flag) {
+        EXPECT_EQ(vlqStsOk, Kind::initAlloc(&spec, order, flag, vlqHintNone));
+    }
     ~Record() { EXPECT_EQ(vlqStsOk, Kind::free(spec)); }
     typename Kind::Spec* spec = nullptr;
 };
@@ -175,8 +193,10 @@ TYPED_TEST(FftComplex, AgreesWithTheDefinition) {
         for (const bool forward : {true, false}) {
             const auto want = dft(exact, forward ? -1 : 1);
             std::vector<T> y(2 * n);
-            ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
-            EXPECT_LE(errorOf<Kind>(y, want), bound) << "order " << order << (forward ? " forward" : " inverse");
+            ASSERT_EQ(vlqStsOk,
+                      Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
+            EXPECT_LE(errorOf<Kind>(y, want), bound)
+                << "order " << order << (forward ? " forward" : " inverse");
         }
     }
 }
@@ -196,7 +216,8 @@ TYPED_TEST(FftComplex, ImpulsesAtLargeOrders) {
         for (std::size_t k = 0; k < n; k += k % 1024 == 1023 ? n / 64 + 1 : 1) {
             Extended want;
             for (const std::size_t i : at) want += unitRoot(i * k % n, n, -1);
-            ASSERT_LE(static_cast<double>(std::abs(Kind::at(y, k) - want)), 32 * Kind::unit) << "order " << order << " value " << k;
+            ASSERT_LE(static_cast<double>(std::abs(Kind::at(y, k) - want)), 32 * Kind::unit)
+                << "order " << order << " value " << k;
         }
     }
 }
@@ -214,25 +235,33 @@ TYPED_TEST(FftComplex, NormalisesAndReturns) {
             const auto head = headOf<Kind>(record.spec);
             std::vector<T> unscaled(2 * n), y(2 * n), z(2 * n);
             for (const bool forward : {true, false}) {
-                ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), unscaled.data(), plain.spec, nullptr, order));
-                ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
+                ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), unscaled.data(), plain.spec,
+                                                    nullptr, order));
+                ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), y.data(), record.spec,
+                                                    nullptr, order));
                 const bool scaled = forward ? head.doFwdScale : head.doInvScale;
                 long double worst = 0;
                 for (std::size_t i = 0; i < 2 * n; ++i) {
                     const long double factor = scaled ? head.normFactor : 1;
                     worst = std::max(worst, std::abs(y[i] - unscaled[i] * factor));
                 }
-                const double level = std::sqrt(static_cast<double>(n)) * (scaled ? double{head.normFactor} : 1);
-                EXPECT_LE(worst, scaled ? 64 * Kind::unit * level : 0) << "order " << order << " flag " << flag;
+                const double level =
+                    std::sqrt(static_cast<double>(n)) * (scaled ? double{head.normFactor} : 1);
+                EXPECT_LE(worst, scaled ? 64 * Kind::unit * level : 0)
+                    << "order " << order << " flag " << flag;
             }
             // Forward and back: the input again, or N times it without normalisation.
-            ASSERT_EQ(vlqStsOk, Kind::transform(true, x.data(), y.data(), record.spec, nullptr, order));
-            ASSERT_EQ(vlqStsOk, Kind::transform(false, y.data(), z.data(), record.spec, nullptr, order));
+            ASSERT_EQ(vlqStsOk,
+                      Kind::transform(true, x.data(), y.data(), record.spec, nullptr, order));
+            ASSERT_EQ(vlqStsOk,
+                      Kind::transform(false, y.data(), z.data(), record.spec, nullptr, order));
             std::vector<Extended> want(n);
             const long double factor = flag == vlqNormNone ? static_cast<long double>(n) : 1;
             for (std::size_t i = 0; i < n; ++i) want[i] = factor * Kind::at(x, i);
-            const double estimate = flag == vlqNormBySqrtN ? 2 * Kind::rootError : 0;  // of the reciprocal root, twice
-            EXPECT_LE(errorOf<Kind>(z, want), 2 * 0.75 * std::sqrt(std::max(order, 1)) * Kind::unit + estimate)
+            const double estimate =
+                flag == vlqNormBySqrtN ? 2 * Kind::rootError : 0;  // of the reciprocal root, twice
+            EXPECT_LE(errorOf<Kind>(z, want),
+                      2 * 0.75 * std::sqrt(std::max(order, 1)) * Kind::unit + estimate)
                 << "order " << order << " flag " << flag;
         }
     }
@@ -250,8 +279,8 @@ TYPED_TEST(FftComplex, OrderZeroCopiesExactly) {
     }
 }
 
-// An odd order begins with transforms of eight points: an impulse at n / 8 meets no other factor than
-// theirs on its way to value 1. (The straight-line kernel of order 5 ends with them.)
+// An odd order begins with transforms of eight points: an impulse at n / 8 meets no other factor
+// than theirs on its way to value 1. (The straight-line kernel of order 5 ends with them.)
 TYPED_TEST(FftComplex, EightPointFactor) {
     using Kind = TypeParam;
     using T = typename Kind::Element;
@@ -262,10 +291,13 @@ TYPED_TEST(FftComplex, EightPointFactor) {
         parts[n / 8] = 1;
         const auto x = Kind::fromParts(parts);
         for (const bool forward : {true, false}) {
-            ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
+            ASSERT_EQ(vlqStsOk,
+                      Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
             const Extended value = Kind::at(y, 1);
             EXPECT_EQ(Kind::eightPoint, static_cast<double>(value.real())) << "order " << order;
-            EXPECT_EQ(forward ? -Kind::eightPoint : Kind::eightPoint, static_cast<double>(value.imag())) << "order " << order;
+            EXPECT_EQ(forward ? -Kind::eightPoint : Kind::eightPoint,
+                      static_cast<double>(value.imag()))
+                << "order " << order;
         }
     }
 }
@@ -283,9 +315,14 @@ TYPED_TEST(FftComplex, PlacementDoesNotMatter) {
         ASSERT_EQ(vlqStsOk, Kind::getBufSize(record.spec, &workBytes));
         for (const bool forward : {true, false}) {
             std::vector<T> want(2 * n);
-            ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), want.data(), record.spec, nullptr, order));
-            const Placement places[][3] = {{{0}, {0}, {0}},        {{4}, {0}, {1}},  {{0}, {4}, {8}}, {{8}, {16}, {63}},
-                                           {{1}, {3}, {5}},        {{63}, {33}, {7}},
+            ASSERT_EQ(vlqStsOk,
+                      Kind::transform(forward, x.data(), want.data(), record.spec, nullptr, order));
+            const Placement places[][3] = {{{0}, {0}, {0}},
+                                           {{4}, {0}, {1}},
+                                           {{0}, {4}, {8}},
+                                           {{8}, {16}, {63}},
+                                           {{1}, {3}, {5}},
+                                           {{63}, {33}, {7}},
                                            {{0, true}, {0, true}, {0, true}}};
             for (const auto& place : places) {
                 if (order > 17 && place[0].offset == 63) continue;
@@ -293,12 +330,14 @@ TYPED_TEST(FftComplex, PlacementDoesNotMatter) {
                 Buffer<T> dst(2 * n, place[1]);
                 Buffer<Vlq8u> work(static_cast<std::size_t>(workBytes), place[2]);
                 Vlq8u* buf = workBytes ? work.data() : nullptr;
-                ASSERT_EQ(vlqStsOk, Kind::transform(forward, src.data(), dst.data(), record.spec, buf, order));
+                ASSERT_EQ(vlqStsOk, Kind::transform(forward, src.data(), dst.data(), record.spec,
+                                                    buf, order));
                 ASSERT_TRUE(same(dst, want)) << "order " << order;
                 ASSERT_TRUE(same(src, x)) << "order " << order;
                 ASSERT_TRUE(work.marginsIntact()) << "order " << order;
                 dst.assign(x);
-                ASSERT_EQ(vlqStsOk, Kind::transform(forward, dst.data(), dst.data(), record.spec, buf, order));
+                ASSERT_EQ(vlqStsOk, Kind::transform(forward, dst.data(), dst.data(), record.spec,
+                                                    buf, order));
                 ASSERT_TRUE(same(dst, want)) << "in place, order " << order;
                 ASSERT_TRUE(work.marginsIntact()) << "order " << order;
             }
@@ -314,7 +353,8 @@ TYPED_TEST(FftComplex, Sizes) {
             for (const VlqHint hint : {0, 1, 2}) {
                 Vlq32s spec = -1, init = -1, work = -1;
                 ASSERT_EQ(vlqStsOk, Kind::getSize(order, flag, hint, &spec, &init, &work));
-                EXPECT_TRUE((Sizes{spec, init, work} == complexSizes(sizeof(T), order))) << "order " << order;
+                EXPECT_TRUE((Sizes{spec, init, work} == complexSizes(sizeof(T), order)))
+                    << "order " << order;
             }
         }
     }
@@ -332,11 +372,12 @@ TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
             Buffer<Vlq8u> memory(static_cast<std::size_t>(sizes.spec), place);
             Buffer<Vlq8u> scratch(static_cast<std::size_t>(sizes.init), place);
             typename Kind::Spec* spec = nullptr;
-            ASSERT_EQ(vlqStsOk, Kind::init(&spec, order, vlqNormBySqrtN, vlqHintAccurate, memory.data(),
-                                           sizes.init ? scratch.data() : nullptr));
+            ASSERT_EQ(vlqStsOk, Kind::init(&spec, order, vlqNormBySqrtN, vlqHintAccurate,
+                                           memory.data(), sizes.init ? scratch.data() : nullptr));
             ASSERT_TRUE(memory.marginsIntact()) << "order " << order;
             ASSERT_TRUE(scratch.marginsIntact()) << "order " << order;
-            const auto address = reinterpret_cast<std::uintptr_t>(spec), given = reinterpret_cast<std::uintptr_t>(memory.data());
+            const auto address = reinterpret_cast<std::uintptr_t>(spec),
+                       given = reinterpret_cast<std::uintptr_t>(memory.data());
             EXPECT_EQ(0u, address % 64);
             EXPECT_LT(address - given, 64u);
             const auto head = headOf<Kind>(spec);
@@ -366,9 +407,12 @@ TYPED_TEST(FftComplex, Flags) {
             EXPECT_EQ(flag == vlqNormFwdByN || flag == vlqNormBySqrtN, head.doFwdScale);
             EXPECT_EQ(flag == vlqNormInvByN || flag == vlqNormBySqrtN, head.doInvScale);
             EXPECT_EQ(1, head.owned);
-            if (flag == vlqNormNone) EXPECT_EQ(T(0), head.normFactor);
-            else if (flag == vlqNormBySqrtN) EXPECT_EQ(Kind::inverseRoot(n), head.normFactor);
-            else EXPECT_EQ(1 / n, head.normFactor);
+            if (flag == vlqNormNone)
+                EXPECT_EQ(T(0), head.normFactor);
+            else if (flag == vlqNormBySqrtN)
+                EXPECT_EQ(Kind::inverseRoot(n), head.normFactor);
+            else
+                EXPECT_EQ(1 / n, head.normFactor);
         }
     }
 }
@@ -376,12 +420,14 @@ TYPED_TEST(FftComplex, Flags) {
 TYPED_TEST(FftComplex, PlanningChecks) {
     using Kind = TypeParam;
     Vlq32s a = 7, b = 7, c = 7;
-    for (const Vlq32s order : {-1, 31, 1000}) EXPECT_EQ(vlqStsBadOrder, Kind::getSize(order, 3, 0, nullptr, nullptr, nullptr));
+    for (const Vlq32s order : {-1, 31, 1000})
+        EXPECT_EQ(vlqStsBadOrder, Kind::getSize(order, 3, 0, nullptr, nullptr, nullptr));
     for (const Vlq32s order : {0, Kind::largest, Kind::largest + 1, 30}) {
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, nullptr, &b, &c));
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, &a, nullptr, &c));
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, &a, &b, nullptr));
-        for (const Vlq32s flag : {0, 3, 5, 6, 7, 9, -1, 16}) EXPECT_EQ(vlqStsBadFlag, Kind::getSize(order, flag, 0, &a, &b, &c));
+        for (const Vlq32s flag : {0, 3, 5, 6, 7, 9, -1, 16})
+            EXPECT_EQ(vlqStsBadFlag, Kind::getSize(order, flag, 0, &a, &b, &c));
     }
     EXPECT_EQ(vlqStsBadOrder, Kind::getSize(Kind::largest + 1, 1, 0, &a, &b, &c));
     EXPECT_EQ(vlqStsBadOrder, Kind::getSize(30, 8, 0, &a, &b, &c));
@@ -444,7 +490,8 @@ TYPED_TEST(FftComplex, AllocationFailures) {
         Core::reset();
         if (order > 5) {
             Core::refuseAllocation(1);
-            EXPECT_EQ(vlqStsNoMemory, Kind::transform(true, x.data(), y.data(), spec, nullptr, order));
+            EXPECT_EQ(vlqStsNoMemory,
+                      Kind::transform(true, x.data(), y.data(), spec, nullptr, order));
             EXPECT_TRUE(y.untouched());
         }
         Core::reset();
@@ -459,7 +506,8 @@ TYPED_TEST(FftComplex, AllocationFailures) {
 // The checks of a call: a foreign record is one of the other form.
 template <class Value, class Spec, class Other>
 void checkInterleaved(VlqStatus (*call)(const Value*, Value*, const Spec*, Vlq8u*),
-                      VlqStatus (*callInPlace)(Value*, const Spec*, Vlq8u*), const Spec* spec, const Other* other) {
+                      VlqStatus (*callInPlace)(Value*, const Spec*, Vlq8u*), const Spec* spec,
+                      const Other* other) {
     Value v[64] = {};
     const auto* foreign = reinterpret_cast<const Spec*>(other);
     EXPECT_EQ(vlqStsNullPtr, call(nullptr, nullptr, nullptr, nullptr));
@@ -473,7 +521,8 @@ void checkInterleaved(VlqStatus (*call)(const Value*, Value*, const Spec*, Vlq8u
 }
 template <class T, class Spec, class Other>
 void checkSplit(VlqStatus (*call)(const T*, const T*, T*, T*, const Spec*, Vlq8u*),
-                VlqStatus (*callInPlace)(T*, T*, const Spec*, Vlq8u*), const Spec* spec, const Other* other) {
+                VlqStatus (*callInPlace)(T*, T*, const Spec*, Vlq8u*), const Spec* spec,
+                const Other* other) {
     T v[128] = {};
     const auto* foreign = reinterpret_cast<const Spec*>(other);
     EXPECT_EQ(vlqStsNullPtr, call(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr));

@@ -8,7 +8,9 @@ namespace vlqtest {
 
 enum class Layout { ccs, pack, perm };
 
-inline std::size_t elementsOf(Layout layout, std::size_t n) { return layout != Layout::ccs ? n : n > 1 ? n + 2 : 2; }
+inline std::size_t elementsOf(Layout layout, std::size_t n) {
+    return layout != Layout::ccs ? n : n > 1 ? n + 2 : 2;
+}
 
 // Where the real part of spectrum value k stands in a layout of n points, for k up to n / 2; the
 // imaginary part follows.
@@ -31,7 +33,8 @@ inline std::vector<long double> realSpectrum(const std::vector<long double>& x, 
 }
 
 // Imaginary parts of the two real terms are not looked at.
-inline std::vector<long double> realSignal(const std::vector<long double>& y, Layout layout, std::size_t n) {
+inline std::vector<long double> realSignal(const std::vector<long double>& y, Layout layout,
+                                           std::size_t n) {
     std::vector<Extended> spectrum(n);
     for (std::size_t k = 0; k <= n / 2; ++k) {
         const std::size_t at = placeOf(layout, k, n);

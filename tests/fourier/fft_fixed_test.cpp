@@ -13,7 +13,8 @@ namespace {
 using namespace vlqtest;
 
 constexpr Vlq32s kFlags[] = {vlqNormFwdByN, vlqNormInvByN, vlqNormBySqrtN, vlqNormNone};
-constexpr VlqHint kHints[] = {vlqHintNone, vlqHintFast, vlqHintAccurate, 3, -1};  // others count as accurate
+constexpr VlqHint kHints[] = {vlqHintNone, vlqHintFast, vlqHintAccurate, 3,
+                              -1};  // others count as accurate
 
 template <class Kind>
 class FftFixed : public ::testing::Test {
@@ -44,7 +45,9 @@ long double normalisation(bool forward, Vlq32s flag, int order) {
     if (flag == vlqNormBySqrtN) return std::sqrt(std::ldexp(1.0L, -order));
     return flag == (forward ? vlqNormFwdByN : vlqNormInvByN) ? std::ldexp(1.0L, -order) : 1;
 }
-bool inIntegers(bool is16, int order, VlqHint hint) { return is16 && order <= 3 && (order == 0 || hint == vlqHintNone || hint == vlqHintFast); }
+bool inIntegers(bool is16, int order, VlqHint hint) {
+    return is16 && order <= 3 && (order == 0 || hint == vlqHintNone || hint == vlqHintFast);
+}
 
 // One transform against its definition, both within the range of the element.
 template <class Kind, bool forward>
@@ -55,13 +58,16 @@ void checkAgainstDefinition(int order, Vlq32s flag, VlqHint hint, Layout layout,
     const std::size_t signal = Kind::signalLength(n), spectrum = Kind::spectrumLength(n, layout);
     const std::size_t from = forward ? signal : spectrum, to = forward ? spectrum : signal;
     const std::vector<From> x = extremeVector<From>(from, rng);
-    const auto exact = Kind::exact(forward, std::vector<long double>(x.begin(), x.end()), n, layout);
+    const auto exact =
+        Kind::exact(forward, std::vector<long double>(x.begin(), x.end()), n, layout);
     const Record<Kind> record(order, flag, hint);
     for (const Vlq32s scale : {0, order / 2, order + 1, order + 7, -3}) {
         std::vector<To> y(to);
         VlqStatus status;
-        if constexpr (forward) status = Kind::forward(x.data(), y.data(), record.spec, scale, nullptr, order, layout);
-        else status = Kind::inverse(x.data(), y.data(), record.spec, scale, nullptr, order, layout);
+        if constexpr (forward)
+            status = Kind::forward(x.data(), y.data(), record.spec, scale, nullptr, order, layout);
+        else
+            status = Kind::inverse(x.data(), y.data(), record.spec, scale, nullptr, order, layout);
         ASSERT_EQ(vlqStsOk, status);
         const long double factor = normalisation(forward, flag, order) * std::ldexp(1.0L, -scale);
         long double peak = 0;
@@ -69,17 +75,20 @@ void checkAgainstDefinition(int order, Vlq32s flag, VlqHint hint, Layout layout,
         // A half, and what the arithmetic adds: factors of 14 bits in integers, else the precision
         // and the estimate of a reciprocal root.
         const bool single = !Kind::inDouble;
-        const long double relative = inIntegers(Kind::is16, order, hint) ? 0x1p-13L
-                                     : single ? 0x1p-24L * (8 + 4 * std::sqrt(static_cast<long double>(order)))
-                                              : 0x1p-53L * (8 + 4 * std::sqrt(static_cast<long double>(order)));
+        const long double relative =
+            inIntegers(Kind::is16, order, hint) ? 0x1p-13L
+            : single ? 0x1p-24L * (8 + 4 * std::sqrt(static_cast<long double>(order)))
+                     : 0x1p-53L * (8 + 4 * std::sqrt(static_cast<long double>(order)));
         const long double bound = 0.5L + peak * relative;
-        const long double low = std::numeric_limits<To>::min(), high = std::numeric_limits<To>::max();
+        const long double low = std::numeric_limits<To>::min(),
+                          high = std::numeric_limits<To>::max();
         // In integers a shift to the left may drop bits: only where it does not.
         if (inIntegers(Kind::is16, order, hint) && peak > 0x1p30L) continue;
         for (std::size_t i = 0; i < to; ++i) {
             const long double want = std::clamp(exact[i] * factor, low, high);
-            ASSERT_LE(std::abs(y[i] - want), bound) << "order " << order << " flag " << flag << " hint " << hint << " scale "
-                                                    << scale << " element " << i << (forward ? " forward" : " inverse");
+            ASSERT_LE(std::abs(y[i] - want), bound)
+                << "order " << order << " flag " << flag << " hint " << hint << " scale " << scale
+                << " element " << i << (forward ? " forward" : " inverse");
         }
     }
 }
@@ -114,12 +123,15 @@ void checkPlacement(int order, VlqHint hint, Layout layout, Rng& rng) {
     Vlq32s bytes = -1;
     ASSERT_EQ(vlqStsOk, Kind::getBufSize(record.spec, &bytes));
     auto call = [&](const From* src, To* dst, Vlq8u* buf) {
-        if constexpr (forward) return Kind::forward(src, dst, record.spec, order / 2, buf, order, layout);
-        else return Kind::inverse(src, dst, record.spec, order / 2, buf, order, layout);
+        if constexpr (forward)
+            return Kind::forward(src, dst, record.spec, order / 2, buf, order, layout);
+        else
+            return Kind::inverse(src, dst, record.spec, order / 2, buf, order, layout);
     };
     std::vector<To> want(to);
     ASSERT_EQ(vlqStsOk, call(x.data(), want.data(), nullptr));
-    const Placement places[][3] = {{{0}, {0}, {0}}, {{2}, {1}, {1}}, {{63}, {33}, {63}}, {{0, true}, {0, true}, {0, true}}};
+    const Placement places[][3] = {
+        {{0}, {0}, {0}}, {{2}, {1}, {1}}, {{63}, {33}, {63}}, {{0, true}, {0, true}, {0, true}}};
     for (const auto& place : places) {
         const Buffer<From> src(x, place[0]);
         Buffer<To> dst(to, place[1]);
@@ -165,7 +177,11 @@ Sizes sizesOf(int order, VlqHint hint) {
     if (Kind::is16 && order == 0) return {116, 0, 0};
     if (inIntegers(Kind::is16, order, hint)) {
         const bool split = std::is_same_v<Kind, C_16s>;
-        return {Kind::isReal ? 320 : 256, 128, (Kind::isReal ? 4 * n + 8 : split ? 12 * n : 8 * n) + 64};
+        return {Kind::isReal ? 320 : 256, 128,
+                (Kind::isReal ? 4 * n + 8
+                 : split      ? 12 * n
+                              : 8 * n) +
+                    64};
     }
     Sizes sizes = Kind::isReal ? realSizes(element, order) : complexSizes(element, order);
     sizes.spec += 128;
@@ -202,7 +218,8 @@ TYPED_TEST(FftFixed, RecordStaysInItsMemory) {
     for (int order = 0; order <= 18; ++order) {
         for (const VlqHint hint : kHints) {
             const Sizes sizes = sizesOf<Kind>(order, hint);
-            for (const Placement place : {Placement{0}, Placement{1}, Placement{63}, Placement{0, true}}) {
+            for (const Placement place :
+                 {Placement{0}, Placement{1}, Placement{63}, Placement{0, true}}) {
                 Buffer<Vlq8u> memory(static_cast<std::size_t>(sizes.spec), place);
                 Buffer<Vlq8u> scratch(static_cast<std::size_t>(sizes.init), place);
                 typename Kind::Spec* spec = nullptr;
@@ -217,8 +234,10 @@ TYPED_TEST(FftFixed, RecordStaysInItsMemory) {
                 // The size query counts the slack of the inner work area once more.
                 const bool inner = !inIntegers(Kind::is16, order, hint) &&
                                    (Kind::isReal ? realSizes(Kind::inDouble ? 8 : 4, order)
-                                                 : complexSizes(Kind::inDouble ? 8 : 4, order)).work > 0;
-                EXPECT_EQ(sizes.work - (inner && !(Kind::is16 && order == 0) ? 64 : 0), bytes) << "order " << order;
+                                                 : complexSizes(Kind::inDouble ? 8 : 4, order))
+                                           .work > 0;
+                EXPECT_EQ(sizes.work - (inner && !(Kind::is16 && order == 0) ? 64 : 0), bytes)
+                    << "order " << order;
                 EXPECT_EQ(vlqStsOk, Kind::free(spec));
                 EXPECT_EQ(0, wordOf<Kind>(spec));
                 EXPECT_EQ(vlqStsBadSpec, Kind::free(spec));
@@ -231,12 +250,14 @@ TYPED_TEST(FftFixed, RecordStaysInItsMemory) {
 TYPED_TEST(FftFixed, PlanningChecks) {
     using Kind = TypeParam;
     Vlq32s a = 7, b = 7, c = 7;
-    for (const Vlq32s order : {-1, 31, 1000}) EXPECT_EQ(vlqStsBadOrder, Kind::getSize(order, 3, 0, nullptr, nullptr, nullptr));
+    for (const Vlq32s order : {-1, 31, 1000})
+        EXPECT_EQ(vlqStsBadOrder, Kind::getSize(order, 3, 0, nullptr, nullptr, nullptr));
     for (const Vlq32s order : {0, 1, Kind::largest, 30}) {
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, nullptr, &b, &c));
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, &a, nullptr, &c));
         EXPECT_EQ(vlqStsNullPtr, Kind::getSize(order, 3, 0, &a, &b, nullptr));
-        for (const Vlq32s flag : {0, 3, 5, 9, -1}) EXPECT_EQ(vlqStsBadFlag, Kind::getSize(order, flag, 0, &a, &b, &c));
+        for (const Vlq32s flag : {0, 3, 5, 9, -1})
+            EXPECT_EQ(vlqStsBadFlag, Kind::getSize(order, flag, 0, &a, &b, &c));
     }
     EXPECT_EQ(vlqStsBadOrder, Kind::getSize(Kind::largest + 1, 1, 0, &a, &b, &c));
     EXPECT_TRUE(a == 7 && b == 7 && c == 7);
@@ -293,7 +314,8 @@ TYPED_TEST(FftFixed, AllocationFailures) {
         const bool needsWork = !(Kind::is16 && order == 0);
         if (needsWork) {
             Core::refuseAllocation(1);
-            EXPECT_EQ(vlqStsNoMemory, Kind::forward(x.data(), y.data(), spec, 0, nullptr, order, layout));
+            EXPECT_EQ(vlqStsNoMemory,
+                      Kind::forward(x.data(), y.data(), spec, 0, nullptr, order, layout));
             EXPECT_TRUE(y.untouched());
         }
         Core::reset();
@@ -317,17 +339,22 @@ TYPED_TEST(FftFixed, TransformChecks) {
         EXPECT_EQ(vlqStsBadSpec, Kind::forward(nullptr, y.data(), foreign, 0, nullptr, 3, layout));
         EXPECT_EQ(vlqStsBadSpec, Kind::inverse(nullptr, x.data(), foreign, 0, nullptr, 3, layout));
         if constexpr (!std::is_same_v<Kind, C_16s> && !std::is_same_v<Kind, C_32s>) {
-            EXPECT_EQ(vlqStsNullPtr, Kind::forward(nullptr, y.data(), record.spec, 0, nullptr, 3, layout));
-            EXPECT_EQ(vlqStsNullPtr, Kind::forward(x.data(), nullptr, record.spec, 0, nullptr, 3, layout));
-            EXPECT_EQ(vlqStsNullPtr, Kind::inverse(nullptr, x.data(), record.spec, 0, nullptr, 3, layout));
-            EXPECT_EQ(vlqStsNullPtr, Kind::inverse(y.data(), nullptr, record.spec, 0, nullptr, 3, layout));
+            EXPECT_EQ(vlqStsNullPtr,
+                      Kind::forward(nullptr, y.data(), record.spec, 0, nullptr, 3, layout));
+            EXPECT_EQ(vlqStsNullPtr,
+                      Kind::forward(x.data(), nullptr, record.spec, 0, nullptr, 3, layout));
+            EXPECT_EQ(vlqStsNullPtr,
+                      Kind::inverse(nullptr, x.data(), record.spec, 0, nullptr, 3, layout));
+            EXPECT_EQ(vlqStsNullPtr,
+                      Kind::inverse(y.data(), nullptr, record.spec, 0, nullptr, 3, layout));
         }
     }
 }
 
 template <class T, class Spec>
 void checkSplitPointers(VlqStatus (*call)(const T*, const T*, T*, T*, const Spec*, Vlq32s, Vlq8u*),
-                        VlqStatus (*inPlace)(T*, T*, const Spec*, Vlq32s, Vlq8u*), const Spec* spec) {
+                        VlqStatus (*inPlace)(T*, T*, const Spec*, Vlq32s, Vlq8u*),
+                        const Spec* spec) {
     T v[32] = {};
     EXPECT_EQ(vlqStsNullPtr, call(nullptr, v, v, v + 8, spec, 0, nullptr));
     EXPECT_EQ(vlqStsNullPtr, call(v, nullptr, v, v + 8, spec, 0, nullptr));
@@ -352,10 +379,16 @@ TYPED_TEST(FftFixed16, OnePoint) {
     for (const VlqHint hint : kHints) {
         const Record<Kind> record(0, vlqNormBySqrtN, hint);
         for (const int sample : {-32768, -32767, -3, -2, -1, 0, 1, 2, 3, 5, 7, 32767}) {
-            for (const Vlq32s scale : {-40, -32, -31, -20, -15, -1, 0, 1, 2, 15, 16, 17, 31, 32, 100}) {
+            for (const Vlq32s scale :
+                 {-40, -32, -31, -20, -15, -1, 0, 1, 2, 15, 16, 17, 31, 32, 100}) {
                 std::int64_t want = sample;
-                if (scale > 0) want = (want + (std::int64_t{1} << (std::min(scale, 31) - 1))) >> std::min(scale, 31);
-                if (scale < 0) want = scale <= -32 ? 0 : static_cast<std::int32_t>(static_cast<std::uint32_t>(sample) << -scale);
+                if (scale > 0)
+                    want = (want + (std::int64_t{1} << (std::min(scale, 31) - 1))) >>
+                           std::min(scale, 31);
+                if (scale < 0)
+                    want = scale <= -32 ? 0
+                                        : static_cast<std::int32_t>(
+                                              static_cast<std::uint32_t>(sample) << -scale);
                 want = std::clamp<std::int64_t>(want, -32768, 32767);
                 const Vlq16s x[2] = {static_cast<Vlq16s>(sample), static_cast<Vlq16s>(sample)};
                 Vlq16s y[2] = {9, 9};
@@ -386,13 +419,19 @@ TYPED_TEST(FftFixed16, Halves) {
                     const auto exact = Kind::exact(forward, exactInput, n, layout);
                     for (const Vlq32s scale : {0, 1, 2, 3, 5}) {
                         std::vector<Vlq16s> y(len);
-                        const VlqStatus status = forward ? Kind::forward(x.data(), y.data(), record.spec, scale, nullptr, order, layout)
-                                                         : Kind::inverse(x.data(), y.data(), record.spec, scale, nullptr, order, layout);
+                        const VlqStatus status =
+                            forward ? Kind::forward(x.data(), y.data(), record.spec, scale, nullptr,
+                                                    order, layout)
+                                    : Kind::inverse(x.data(), y.data(), record.spec, scale, nullptr,
+                                                    order, layout);
                         ASSERT_EQ(vlqStsOk, status);
                         for (std::size_t i = 0; i < len; ++i) {
                             const long double v = std::ldexp(std::nearbyint(exact[i]), -scale);
-                            const long double rounded = inIntegers(true, order, hint) ? std::floor(v + 0.5L) : std::nearbyint(v);
-                            ASSERT_EQ(std::clamp(rounded, -32768.0L, 32767.0L), y[i]) << v << " hint " << hint << " scale " << scale;
+                            const long double rounded = inIntegers(true, order, hint)
+                                                            ? std::floor(v + 0.5L)
+                                                            : std::nearbyint(v);
+                            ASSERT_EQ(std::clamp(rounded, -32768.0L, 32767.0L), y[i])
+                                << v << " hint " << hint << " scale " << scale;
                         }
                     }
                 }
@@ -419,8 +458,14 @@ TYPED_TEST(FftFixed16, Fields) {
                 EXPECT_EQ(order, head.order);
                 EXPECT_EQ(hint, head.hint);
                 EXPECT_EQ(1, head.owned);
-                EXPECT_EQ(flag == vlqNormFwdByN ? order : flag == vlqNormBySqrtN ? order / 2 : 0, head.fwdShift);
-                EXPECT_EQ(flag == vlqNormInvByN ? order : flag == vlqNormBySqrtN ? order / 2 : 0, head.invShift);
+                EXPECT_EQ(flag == vlqNormFwdByN    ? order
+                          : flag == vlqNormBySqrtN ? order / 2
+                                                   : 0,
+                          head.fwdShift);
+                EXPECT_EQ(flag == vlqNormInvByN    ? order
+                          : flag == vlqNormBySqrtN ? order / 2
+                                                   : 0,
+                          head.invShift);
                 EXPECT_EQ(flag == vlqNormBySqrtN ? order % 2 : 0, head.halfStep);
                 EXPECT_EQ(!inIntegers(true, order, hint), head.useFloat != 0);
             }
@@ -437,12 +482,15 @@ TYPED_TEST(FftFixed16, ExtremeScales) {
         std::vector<Vlq16s> x(Kind::signalLength(n)), y(Kind::spectrumLength(n, layout));
         x[0] = 100;
         for (const Vlq32s scale : {20, 31, 1000, 2147483647}) {
-            ASSERT_EQ(vlqStsOk, Kind::forward(x.data(), y.data(), record.spec, scale, nullptr, order, layout));
+            ASSERT_EQ(vlqStsOk, Kind::forward(x.data(), y.data(), record.spec, scale, nullptr,
+                                              order, layout));
             for (const Vlq16s v : y) EXPECT_EQ(0, v);
         }
-        ASSERT_EQ(vlqStsOk, Kind::forward(x.data(), y.data(), record.spec, -12, nullptr, order, layout));
+        ASSERT_EQ(vlqStsOk,
+                  Kind::forward(x.data(), y.data(), record.spec, -12, nullptr, order, layout));
         EXPECT_EQ(32767, y[0]);
-        ASSERT_EQ(vlqStsOk, Kind::forward(x.data(), y.data(), record.spec, -2147483647 - 1, nullptr, order, layout));
+        ASSERT_EQ(vlqStsOk, Kind::forward(x.data(), y.data(), record.spec, -2147483647 - 1, nullptr,
+                                          order, layout));
         EXPECT_EQ(order > 3 ? 32767 : 0, y[0]);
     }
 }
@@ -450,7 +498,7 @@ TYPED_TEST(FftFixed16, ExtremeScales) {
 // The shift to the right stops at 31, which is not enough for sums beyond 2^30.
 TEST(FftFixedScale, ShiftsOfMoreThan31Are31) {
     const Record<C_16sc> record(3, vlqNormNone);
-    const Vlq16sc x[8] = {{32767, 0}, {32767, 32767}, {0, 32767}, {-32768, 32767},
+    const Vlq16sc x[8] = {{32767, 0},  {32767, 32767},   {0, 32767},  {-32768, 32767},
                           {-32768, 0}, {-32768, -32768}, {0, -32768}, {32767, -32768}};
     for (const Vlq32s scale : {18, 19, 1000, 2147483647}) {
         Vlq16sc y[8];

@@ -1,5 +1,6 @@
-// The longest transforms that the memory of a small machine has room for: their columns are combined in
-// more steps than those of the orders that fft_complex_test and fft_real_test go through.
+// The longest transforms that the memory of a small machine has room for: their columns are
+// combined in more steps than those of the orders that fft_complex_test and fft_real_test go
+// through.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,7 +8,7 @@
 
 #include "fourier/fft_complex_ref.h"
 #include "harness/random.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 
 namespace {
 
@@ -39,7 +40,8 @@ void forSomeValues(std::size_t n, Check check) {
 }
 
 template <class T, class Value, class Spec>
-void checkComplex(int order, VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqHint), VlqStatus (*free)(Spec*),
+void checkComplex(int order, VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqHint),
+                  VlqStatus (*free)(Spec*),
                   VlqStatus (*forward)(const Value*, Value*, const Spec*, Vlq8u*),
                   VlqStatus (*inverseInPlace)(Value*, const Spec*, Vlq8u*)) {
     const Impulses<T> impulses(std::size_t{1} << order);
@@ -53,7 +55,8 @@ void checkComplex(int order, VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqH
     ASSERT_EQ(vlqStsOk, inverseInPlace(values, spec, nullptr));
     forSomeValues(n, [&](std::size_t k) {
         const auto error = [&](const std::vector<T>& got, int sign) {
-            return static_cast<double>(std::abs(Extended(got[2 * k], got[2 * k + 1]) - impulses.spectrum(k, sign)));
+            return static_cast<double>(
+                std::abs(Extended(got[2 * k], got[2 * k + 1]) - impulses.spectrum(k, sign)));
         };
         ASSERT_LE(error(y, -1), impulses.bound) << "order " << order << " value " << k;
         ASSERT_LE(error(x, 1), impulses.bound) << "order " << order << " value " << k << " inverse";
@@ -62,8 +65,9 @@ void checkComplex(int order, VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqH
 }
 
 template <class T, class Spec>
-void checkReal(int order, VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqHint), VlqStatus (*free)(Spec*),
-               VlqStatus (*forward)(const T*, T*, const Spec*, Vlq8u*), VlqStatus (*inverseInPlace)(T*, const Spec*, Vlq8u*)) {
+void checkReal(int order, VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqHint),
+               VlqStatus (*free)(Spec*), VlqStatus (*forward)(const T*, T*, const Spec*, Vlq8u*),
+               VlqStatus (*inverseInPlace)(T*, const Spec*, Vlq8u*)) {
     const Impulses<T> impulses(std::size_t{1} << order);
     const std::size_t n = impulses.n;
     Spec* spec = nullptr;
@@ -77,23 +81,28 @@ void checkReal(int order, VlqStatus (*initAlloc)(Spec**, Vlq32s, Vlq32s, VlqHint
             << "order " << order << " value " << k;
     });
     ASSERT_EQ(vlqStsOk, inverseInPlace(y.data(), spec, nullptr));
-    for (std::size_t i = 0; i < n; ++i) ASSERT_NEAR(x[i], y[i], impulses.bound) << "order " << order << " sample " << i;
+    for (std::size_t i = 0; i < n; ++i)
+        ASSERT_NEAR(x[i], y[i], impulses.bound) << "order " << order << " sample " << i;
     EXPECT_EQ(vlqStsOk, free(spec));
 }
 
 TEST(FftLarge, ComplexSingle) {
     for (const int order : {25, 26}) {
-        checkComplex<Vlq32f>(order, vlqsFFTInitAlloc_C_32fc, vlqsFFTFree_C_32fc, vlqsFFTFwd_CToC_32fc, vlqsFFTInv_CToC_32fc_I);
+        checkComplex<Vlq32f>(order, vlqsFFTInitAlloc_C_32fc, vlqsFFTFree_C_32fc,
+                             vlqsFFTFwd_CToC_32fc, vlqsFFTInv_CToC_32fc_I);
     }
 }
 TEST(FftLarge, ComplexDouble) {
-    checkComplex<Vlq64f>(25, vlqsFFTInitAlloc_C_64fc, vlqsFFTFree_C_64fc, vlqsFFTFwd_CToC_64fc, vlqsFFTInv_CToC_64fc_I);
+    checkComplex<Vlq64f>(25, vlqsFFTInitAlloc_C_64fc, vlqsFFTFree_C_64fc, vlqsFFTFwd_CToC_64fc,
+                         vlqsFFTInv_CToC_64fc_I);
 }
 TEST(FftLarge, RealSingle) {
-    checkReal<Vlq32f>(26, vlqsFFTInitAlloc_R_32f, vlqsFFTFree_R_32f, vlqsFFTFwd_RToCCS_32f, vlqsFFTInv_CCSToR_32f_I);
+    checkReal<Vlq32f>(26, vlqsFFTInitAlloc_R_32f, vlqsFFTFree_R_32f, vlqsFFTFwd_RToCCS_32f,
+                      vlqsFFTInv_CCSToR_32f_I);
 }
 TEST(FftLarge, RealDouble) {
-    checkReal<Vlq64f>(26, vlqsFFTInitAlloc_R_64f, vlqsFFTFree_R_64f, vlqsFFTFwd_RToCCS_64f, vlqsFFTInv_CCSToR_64f_I);
+    checkReal<Vlq64f>(26, vlqsFFTInitAlloc_R_64f, vlqsFFTFree_R_64f, vlqsFFTFwd_RToCCS_64f,
+                      vlqsFFTInv_CCSToR_64f_I);
 }
 
 }  // namespace

@@ -16,7 +16,8 @@ inline constexpr long double kTwoPi = 6.283185307179586476925286766559L;
 
 // exp(-2 pi i k / n)
 inline Complex unitRoot(std::size_t k, std::size_t n) {
-    const long double angle = kTwoPi * static_cast<long double>(k % n) / static_cast<long double>(n);
+    const long double angle =
+        kTwoPi * static_cast<long double>(k % n) / static_cast<long double>(n);
     return {std::cos(angle), -std::sin(angle)};
 }
 
@@ -63,7 +64,8 @@ inline std::size_t layoutSize(Layout layout, std::size_t n) {
 }
 
 // The first half of a spectrum in its layout, multiplied by `factor`.
-inline std::vector<long double> layOut(Layout layout, const std::vector<Complex>& spectrum, long double factor) {
+inline std::vector<long double> layOut(Layout layout, const std::vector<Complex>& spectrum,
+                                       long double factor) {
     const std::size_t n = spectrum.size();
     std::vector<long double> values{spectrum[0].real()};
     if (layout == Layout::ccs) values.push_back(0);
@@ -81,15 +83,25 @@ inline std::vector<long double> layOut(Layout layout, const std::vector<Complex>
 struct Sizes {
     std::int64_t spec, init, work;
 };
-inline std::int64_t floorTo(std::int64_t bytes, std::int64_t multiple) { return bytes / multiple * multiple; }
+inline std::int64_t floorTo(std::int64_t bytes, std::int64_t multiple) {
+    return bytes / multiple * multiple;
+}
 
 // The large orders: outer bits and columns of a tile, as powers of two, that cut one level.
 struct Cut {
     int outer, columns;
 };
 inline Cut cutRef(int element, int order) {
-    if (element == 4) return order == 16 ? Cut{4, 5} : order <= 18 ? Cut{4, 6} : order <= 21 ? Cut{6, 7} : Cut{8, 6};
-    return order <= 15 ? Cut{4, 4} : order <= 17 ? Cut{4, 6} : order == 18 ? Cut{6, 6} : order == 19 ? Cut{6, 7} : Cut{8, 5};
+    if (element == 4)
+        return order == 16   ? Cut{4, 5}
+               : order <= 18 ? Cut{4, 6}
+               : order <= 21 ? Cut{6, 7}
+                             : Cut{8, 6};
+    return order <= 15   ? Cut{4, 4}
+           : order <= 17 ? Cut{4, 6}
+           : order == 18 ? Cut{6, 6}
+           : order == 19 ? Cut{6, 7}
+                         : Cut{8, 5};
 }
 
 // Sizes of a complex record with elements of `element` bytes.
@@ -110,7 +122,8 @@ inline Sizes complexSizesRef(int element, int order) {
     }
     sizes.spec += floorTo((value << row) + slack, 64);
     sizes.spec += order <= plain ? bitReversal
-                                 : (std::int64_t{4} << (order - 2 * tile)) + (std::int64_t{4} << (2 * tile - 2)) + 64;
+                                 : (std::int64_t{4} << (order - 2 * tile)) +
+                                       (std::int64_t{4} << (2 * tile - 2)) + 64;
     sizes.work = std::max(sizes.work, floorTo((value << row) + 63, 64));
     if (order >= 17) sizes.work = std::max<std::int64_t>(sizes.work, single ? 0x10000 : 0);
     if (!single && order >= 16) sizes.work = std::max<std::int64_t>(sizes.work, 2 * 16384);

@@ -6,7 +6,7 @@
 #include "harness/buffer.h"
 #include "harness/core_double.h"
 #include "harness/random.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 
 namespace {
 
@@ -49,9 +49,12 @@ struct Api<Vlq32f> {
     static constexpr auto getBufSize = vlqsFFTGetBufSize_R_32f;
     static constexpr auto release = vlqsFFTFree_R_32f;
     static constexpr Form<Vlq32f> forms[] = {
-        {"CCS", Layout::ccs, vlqsFFTFwd_RToCCS_32f, vlqsFFTInv_CCSToR_32f, vlqsFFTFwd_RToCCS_32f_I, vlqsFFTInv_CCSToR_32f_I},
-        {"Pack", Layout::pack, vlqsFFTFwd_RToPack_32f, vlqsFFTInv_PackToR_32f, vlqsFFTFwd_RToPack_32f_I, vlqsFFTInv_PackToR_32f_I},
-        {"Perm", Layout::perm, vlqsFFTFwd_RToPerm_32f, vlqsFFTInv_PermToR_32f, vlqsFFTFwd_RToPerm_32f_I, vlqsFFTInv_PermToR_32f_I},
+        {"CCS", Layout::ccs, vlqsFFTFwd_RToCCS_32f, vlqsFFTInv_CCSToR_32f, vlqsFFTFwd_RToCCS_32f_I,
+         vlqsFFTInv_CCSToR_32f_I},
+        {"Pack", Layout::pack, vlqsFFTFwd_RToPack_32f, vlqsFFTInv_PackToR_32f,
+         vlqsFFTFwd_RToPack_32f_I, vlqsFFTInv_PackToR_32f_I},
+        {"Perm", Layout::perm, vlqsFFTFwd_RToPerm_32f, vlqsFFTInv_PermToR_32f,
+         vlqsFFTFwd_RToPerm_32f_I, vlqsFFTInv_PermToR_32f_I},
     };
 };
 template <>
@@ -65,9 +68,12 @@ struct Api<Vlq64f> {
     static constexpr auto getBufSize = vlqsFFTGetBufSize_R_64f;
     static constexpr auto release = vlqsFFTFree_R_64f;
     static constexpr Form<Vlq64f> forms[] = {
-        {"CCS", Layout::ccs, vlqsFFTFwd_RToCCS_64f, vlqsFFTInv_CCSToR_64f, vlqsFFTFwd_RToCCS_64f_I, vlqsFFTInv_CCSToR_64f_I},
-        {"Pack", Layout::pack, vlqsFFTFwd_RToPack_64f, vlqsFFTInv_PackToR_64f, vlqsFFTFwd_RToPack_64f_I, vlqsFFTInv_PackToR_64f_I},
-        {"Perm", Layout::perm, vlqsFFTFwd_RToPerm_64f, vlqsFFTInv_PermToR_64f, vlqsFFTFwd_RToPerm_64f_I, vlqsFFTInv_PermToR_64f_I},
+        {"CCS", Layout::ccs, vlqsFFTFwd_RToCCS_64f, vlqsFFTInv_CCSToR_64f, vlqsFFTFwd_RToCCS_64f_I,
+         vlqsFFTInv_CCSToR_64f_I},
+        {"Pack", Layout::pack, vlqsFFTFwd_RToPack_64f, vlqsFFTInv_PackToR_64f,
+         vlqsFFTFwd_RToPack_64f_I, vlqsFFTInv_PackToR_64f_I},
+        {"Perm", Layout::perm, vlqsFFTFwd_RToPerm_64f, vlqsFFTInv_PermToR_64f,
+         vlqsFFTFwd_RToPerm_64f_I, vlqsFFTInv_PermToR_64f_I},
     };
 };
 
@@ -115,7 +121,9 @@ TYPED_TEST_SUITE(FftReal, Precisions);
 
 // The rounding errors of the levels add up like noise.
 template <class T>
-long double bound(int order) { return Api<T>::unit * (1.5L + 0.25L * order); }
+long double bound(int order) {
+    return Api<T>::unit * (1.5L + 0.25L * order);
+}
 
 TEST(FftRealReference, IsTheSum) {
     using T = Vlq32f;
@@ -137,14 +145,20 @@ TYPED_TEST(FftReal, Values) {
         for (const Vlq32s flag : kFlags) {
             const Record<T> record(order, flag);
             for (const Form<T>& form : Api<T>::forms) {
-                // Of the long ones one flag with each layout: the layouts differ in the last step alone.
-                if (order > 11 && flag != (form.layout == Layout::pack ? vlqNormBySqrtN : form.layout == Layout::ccs ? vlqNormInvByN : vlqNormFwdByN)) continue;
+                // Of the long ones one flag with each layout: the layouts differ in the last step
+                // alone.
+                if (order > 11 && flag != (form.layout == Layout::pack  ? vlqNormBySqrtN
+                                           : form.layout == Layout::ccs ? vlqNormInvByN
+                                                                        : vlqNormFwdByN))
+                    continue;
                 const auto packed = layOut(form.layout, spectrum, 1);
                 const Buffer<T> signal(x);
                 Buffer<T> dst(packed.size());
                 ASSERT_EQ(vlqStsOk, form.forward(signal.data(), dst.data(), record, nullptr));
                 ASSERT_TRUE(dst.marginsIntact());
-                EXPECT_LT(relativeError(dst.values(), layOut(form.layout, spectrum, factorOf(flag, vlqNormFwdByN, order))), bound<T>(order))
+                EXPECT_LT(relativeError(dst.values(), layOut(form.layout, spectrum,
+                                                             factorOf(flag, vlqNormFwdByN, order))),
+                          bound<T>(order))
                     << form.name << ", order " << order << ", flag " << flag;
 
                 const Buffer<T> source(std::vector<T>(packed.begin(), packed.end()));
@@ -152,7 +166,8 @@ TYPED_TEST(FftReal, Values) {
                 ASSERT_EQ(vlqStsOk, form.inverse(source.data(), back.data(), record, nullptr));
                 ASSERT_TRUE(back.marginsIntact());
                 std::vector<long double> want(x.begin(), x.end());
-                for (long double& v : want) v *= std::ldexp(factorOf(flag, vlqNormInvByN, order), order);
+                for (long double& v : want)
+                    v *= std::ldexp(factorOf(flag, vlqNormInvByN, order), order);
                 EXPECT_LT(relativeError(back.values(), want), bound<T>(order))
                     << form.name << " inverse, order " << order << ", flag " << flag;
             }
@@ -171,15 +186,20 @@ TYPED_TEST(FftReal, EveryValueAlone) {
         for (std::size_t at = 0; at < n; ++at) {
             std::vector<T> x(n), spectrum(n), back(n);
             x[at] = 1;
-            ASSERT_EQ(vlqStsOk, Api<T>::forms[2].forward(x.data(), spectrum.data(), record, nullptr));
+            ASSERT_EQ(vlqStsOk,
+                      Api<T>::forms[2].forward(x.data(), spectrum.data(), record, nullptr));
             const auto want = layOut(Layout::perm, realDftRef(x), 1);
             ASSERT_EQ(vlqStsOk, Api<T>::forms[2].inverse(x.data(), back.data(), record, nullptr));
             const std::size_t k = at == 0 ? 0 : at == 1 ? n / 2 : at / 2;
             for (std::size_t i = 0; i < n; ++i) {
-                EXPECT_NEAR(static_cast<double>(want[i]), static_cast<double>(spectrum[i]), unit) << "order " << order << ", sample " << at << ", value " << i;
+                EXPECT_NEAR(static_cast<double>(want[i]), static_cast<double>(spectrum[i]), unit)
+                    << "order " << order << ", sample " << at << ", value " << i;
                 const Complex root = std::conj(unitRoot(i * k, n));
-                const long double value = at < 2 ? root.real() : at % 2 == 0 ? 2 * root.real() : -2 * root.imag();
-                EXPECT_NEAR(static_cast<double>(value), static_cast<double>(back[i]), 2 * unit) << "order " << order << ", value " << at << ", sample " << i;
+                const long double value = at < 2        ? root.real()
+                                          : at % 2 == 0 ? 2 * root.real()
+                                                        : -2 * root.imag();
+                EXPECT_NEAR(static_cast<double>(value), static_cast<double>(back[i]), 2 * unit)
+                    << "order " << order << ", value " << at << ", sample " << i;
             }
         }
     }
@@ -190,7 +210,9 @@ TYPED_TEST(FftReal, RoundTrips) {
     Rng rng(seed());
     for (int order = 0; order <= 18; ++order) {
         const auto x = uniformVector<T>(pointsOf(order), -1, 1, rng);
-        const Vlq32s flag = order % 3 == 0 ? vlqNormBySqrtN : order % 3 == 1 ? vlqNormInvByN : vlqNormFwdByN;
+        const Vlq32s flag = order % 3 == 0   ? vlqNormBySqrtN
+                            : order % 3 == 1 ? vlqNormInvByN
+                                             : vlqNormFwdByN;
         const Record<T> record(order, flag);
         for (const Form<T>& form : Api<T>::forms) {
             Buffer<T> data(layoutSize(form.layout, x.size()));
@@ -200,7 +222,8 @@ TYPED_TEST(FftReal, RoundTrips) {
             ASSERT_TRUE(data.marginsIntact());
             auto values = data.values();
             values.resize(x.size());
-            EXPECT_LT(relativeError(values, x), 2 * bound<T>(order)) << form.name << ", order " << order;
+            EXPECT_LT(relativeError(values, x), 2 * bound<T>(order))
+                << form.name << ", order " << order;
         }
     }
 }
@@ -243,9 +266,11 @@ TYPED_TEST(FftReal, ZerosOfCcsAreIgnored) {
         auto spectrum = uniformVector<T>(n + 2, -1, 1, rng);
         std::vector<T> first(n), second(n);
         spectrum[1] = spectrum[n + 1] = 0;
-        ASSERT_EQ(vlqStsOk, Api<T>::forms[0].inverse(spectrum.data(), first.data(), record, nullptr));
+        ASSERT_EQ(vlqStsOk,
+                  Api<T>::forms[0].inverse(spectrum.data(), first.data(), record, nullptr));
         spectrum[1] = spectrum[n + 1] = NAN;
-        ASSERT_EQ(vlqStsOk, Api<T>::forms[0].inverse(spectrum.data(), second.data(), record, nullptr));
+        ASSERT_EQ(vlqStsOk,
+                  Api<T>::forms[0].inverse(spectrum.data(), second.data(), record, nullptr));
         EXPECT_EQ(first, second);
     }
 }
@@ -254,7 +279,8 @@ TYPED_TEST(FftReal, ZerosOfCcsAreIgnored) {
 TYPED_TEST(FftReal, PlacementDoesNotMatter) {
     using T = TypeParam;
     Rng rng(seed());
-    const std::array<Placement, 5> places{{{0, false}, {4, false}, {16, false}, {37, false}, {0, true}}};
+    const std::array<Placement, 5> places{
+        {{0, false}, {4, false}, {16, false}, {37, false}, {0, true}}};
     for (int order = 0; order <= 19; ++order) {
         const std::size_t n = pointsOf(order);
         const auto x = uniformVector<T>(n, -1, 1, rng);
@@ -284,7 +310,8 @@ TYPED_TEST(FftReal, PlacementDoesNotMatter) {
                 ASSERT_TRUE(same(back, inverse)) << form.name << " inverse, order " << order;
                 ASSERT_TRUE(same(spectrum, forward));
                 ASSERT_EQ(vlqStsOk, form.inverseInPlace(data.data(), record, buf));
-                ASSERT_EQ(0, std::memcmp(data.data(), inverse.data(), n * sizeof(T))) << form.name << " inverse in place, order " << order;
+                ASSERT_EQ(0, std::memcmp(data.data(), inverse.data(), n * sizeof(T)))
+                    << form.name << " inverse in place, order " << order;
                 ASSERT_TRUE(data.marginsIntact() && work.marginsIntact());
                 EXPECT_EQ(0, Core::allocations());
             }
@@ -308,11 +335,13 @@ TYPED_TEST(FftReal, BothFormsOfFactorsAgree) {
     const std::size_t n = pointsOf(Api<T>::twoLevel - 1);
     auto x = uniformVector<T>(n, -1, 1, rng);
     std::vector<T> half(n + 2), whole(2 * n + 2), even, back(2 * n);
-    const Record<T> shorter(Api<T>::twoLevel - 1, vlqNormNone), longer(Api<T>::twoLevel, vlqNormInvByN);
+    const Record<T> shorter(Api<T>::twoLevel - 1, vlqNormNone),
+        longer(Api<T>::twoLevel, vlqNormInvByN);
     ASSERT_EQ(vlqStsOk, Api<T>::forms[0].forward(x.data(), half.data(), shorter, nullptr));
     x.resize(2 * n);
     ASSERT_EQ(vlqStsOk, Api<T>::forms[0].forward(x.data(), whole.data(), longer, nullptr));
-    for (std::size_t k = 0; k <= n / 2; ++k) even.insert(even.end(), {whole[4 * k], whole[4 * k + 1]});
+    for (std::size_t k = 0; k <= n / 2; ++k)
+        even.insert(even.end(), {whole[4 * k], whole[4 * k + 1]});
     EXPECT_LT(relativeError(even, half), 2 * bound<T>(19));
     ASSERT_EQ(vlqStsOk, Api<T>::forms[0].inverse(whole.data(), back.data(), longer, nullptr));
     EXPECT_LT(relativeError(back, x), 2 * bound<T>(19));
@@ -369,16 +398,19 @@ TYPED_TEST(FftReal, RecordInCallersMemory) {
             ASSERT_EQ(vlqStsOk, Api<T>::forms[2].forward(x.data(), want.data(), record, nullptr));
         }
         Vlq32s specBytes, initBytes, workBytes;
-        ASSERT_EQ(vlqStsOk, Api<T>::getSize(order, vlqNormBySqrtN, vlqHintNone, &specBytes, &initBytes, &workBytes));
-        for (const Placement place : {Placement{0, false}, {1, false}, {63, false}, {36, false}, {0, true}}) {
+        ASSERT_EQ(vlqStsOk, Api<T>::getSize(order, vlqNormBySqrtN, vlqHintNone, &specBytes,
+                                            &initBytes, &workBytes));
+        for (const Placement place :
+             {Placement{0, false}, {1, false}, {63, false}, {36, false}, {0, true}}) {
             Buffer<Vlq8u> memory(static_cast<std::size_t>(specBytes), place);
             Buffer<Vlq8u> scratch(static_cast<std::size_t>(initBytes), place);
             Spec<T>* spec = nullptr;
             Core::reset();
-            ASSERT_EQ(vlqStsOk, Api<T>::init(&spec, order, vlqNormBySqrtN, vlqHintAccurate, memory.data(),
-                                                  order > 10 ? scratch.data() : nullptr));
+            ASSERT_EQ(vlqStsOk, Api<T>::init(&spec, order, vlqNormBySqrtN, vlqHintAccurate,
+                                             memory.data(), order > 10 ? scratch.data() : nullptr));
             EXPECT_EQ(0, Core::allocations());
-            const auto address = reinterpret_cast<std::uintptr_t>(spec), start = reinterpret_cast<std::uintptr_t>(memory.data());
+            const auto address = reinterpret_cast<std::uintptr_t>(spec),
+                       start = reinterpret_cast<std::uintptr_t>(memory.data());
             EXPECT_EQ((start + 63) / 64 * 64, address);
             EXPECT_TRUE(memory.marginsIntact() && scratch.marginsIntact());
             if (initBytes > 0) scratch.assign(std::vector<Vlq8u>(scratch.size(), 0xEE));
@@ -417,7 +449,8 @@ TYPED_TEST(FftReal, ChecksOfInit) {
     Buffer<Vlq8u> memory(1 << 17), scratch(1 << 17);
     EXPECT_EQ(vlqStsNullPtr, Api<T>::init(nullptr, -1, 3, 0, nullptr, nullptr));
     EXPECT_EQ(vlqStsBadOrder, Api<T>::init(&spec, -1, 3, 0, nullptr, nullptr));
-    EXPECT_EQ(vlqStsBadOrder, Api<T>::init(&spec, Api<T>::largest + 1, 3, 0, memory.data(), nullptr));
+    EXPECT_EQ(vlqStsBadOrder,
+              Api<T>::init(&spec, Api<T>::largest + 1, 3, 0, memory.data(), nullptr));
     EXPECT_EQ(vlqStsNullPtr, Api<T>::init(&spec, 11, 3, 0, nullptr, nullptr));
     EXPECT_TRUE(memory.untouched());
     EXPECT_EQ(vlqStsBadFlag, Api<T>::init(&spec, 11, 3, 0, memory.data(), nullptr));
@@ -469,7 +502,8 @@ TYPED_TEST(FftReal, RefusedMemory) {
                 Buffer<T> dst(pointsOf(order) + 2);
                 Core::reset();
                 Core::refuseAllocation(1);
-                EXPECT_EQ(order > 6 ? vlqStsNoMemory : vlqStsOk, call(src.data(), dst.data(), record, nullptr));
+                EXPECT_EQ(order > 6 ? vlqStsNoMemory : vlqStsOk,
+                          call(src.data(), dst.data(), record, nullptr));
                 EXPECT_EQ(order > 6, dst.untouched());
                 Core::reset();
             }
@@ -484,7 +518,8 @@ TYPED_TEST(FftReal, ChecksOfTransforms) {
     dead.assign(std::vector<Vlq8u>(1024));
     auto* foreign = reinterpret_cast<Spec<T>*>(dead.data());
     const Record<T> record(6, vlqNormNone);
-    for (const Vlq32s word : {0, 1, 3, 4, 5, 6, 7, 9, 15, 0x434D414F}) {  // dead, and of the other kinds
+    for (const Vlq32s word :
+         {0, 1, 3, 4, 5, 6, 7, 9, 15, 0x434D414F}) {  // dead, and of the other kinds
         if (word == Api<T>::word) continue;
         std::memcpy(dead.data(), &word, sizeof word);
         for (const Form<T>& form : Api<T>::forms) {

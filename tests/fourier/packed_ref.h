@@ -11,13 +11,15 @@ namespace vlqtest {
 
 // `front` real terms at the front (1 in Pack, 1 or 2 in Perm), `back` at the end, pairs between.
 template <class T>
-std::vector<T> packedProductRef(const std::vector<T>& a, const std::vector<T>& b, std::size_t front, std::size_t back) {
+std::vector<T> packedProductRef(const std::vector<T>& a, const std::vector<T>& b, std::size_t front,
+                                std::size_t back) {
     std::vector<T> product(a.size());
     for (std::size_t i = 0; i < front; ++i) product[i] = a[i] * b[i];
     for (std::size_t i = a.size() - back; i < a.size(); ++i) product[i] = a[i] * b[i];
     for (std::size_t i = front; i + 1 < a.size() - back; i += 2) {
         // Each product is rounded before the sum.
-        const volatile T rr = a[i] * b[i], ii = a[i + 1] * b[i + 1], ri = a[i] * b[i + 1], ir = a[i + 1] * b[i];
+        const volatile T rr = a[i] * b[i], ii = a[i + 1] * b[i + 1], ri = a[i] * b[i + 1],
+                         ir = a[i + 1] * b[i];
         product[i] = rr - ii;
         product[i + 1] = ri + ir;
     }
@@ -39,7 +41,8 @@ std::vector<T> mulPackConjRef(const std::vector<T>& a, const std::vector<T>& b) 
     product[0] = a[0] * b[0];
     if (a.size() % 2 == 0) product.back() = a.back() * b.back();
     for (std::size_t i = 1; i + 1 < a.size(); i += 2) {
-        const volatile T rr = a[i] * b[i], ii = a[i + 1] * b[i + 1], ri = a[i] * b[i + 1], ir = a[i + 1] * b[i];
+        const volatile T rr = a[i] * b[i], ii = a[i + 1] * b[i + 1], ri = a[i] * b[i + 1],
+                         ir = a[i + 1] * b[i];
         product[i] = rr + ii;
         product[i + 1] = ir - ri;
     }
@@ -50,11 +53,14 @@ std::vector<T> mulPackConjRef(const std::vector<T>& a, const std::vector<T>& b) 
 inline Vlq16s scaledProductRef(std::int64_t sum, Vlq32s scaleFactor) {
     auto to16 = [](std::int64_t v) { return std::clamp<std::int64_t>(v, -32768, 32767); };
     if (sum == 0x80000000) sum = 0x7FFFFFFF;
-    if (scaleFactor >= 0) sum >>= std::min(scaleFactor, 62);
-    else sum = to16(sum) * (std::int64_t{1} << std::min(-std::max(scaleFactor, -40), 40));
+    if (scaleFactor >= 0)
+        sum >>= std::min(scaleFactor, 62);
+    else
+        sum = to16(sum) * (std::int64_t{1} << std::min(-std::max(scaleFactor, -40), 40));
     return static_cast<Vlq16s>(to16(sum));
 }
-inline std::vector<Vlq16s> scaledPackedRef(const std::vector<Vlq16s>& a, const std::vector<Vlq16s>& b, bool perm,
+inline std::vector<Vlq16s> scaledPackedRef(const std::vector<Vlq16s>& a,
+                                           const std::vector<Vlq16s>& b, bool perm,
                                            Vlq32s scaleFactor) {
     const std::size_t len = a.size();
     std::vector<Vlq16s> product(len);
@@ -70,7 +76,9 @@ inline std::vector<Vlq16s> scaledPackedRef(const std::vector<Vlq16s>& a, const s
 }
 
 template <class T>
-T conjugatedRef(T imaginary) { return -imaginary; }
+T conjugatedRef(T imaginary) {
+    return -imaginary;
+}
 inline Vlq16s conjugatedRef(Vlq16s imaginary) {
     return static_cast<Vlq16s>(std::min(-static_cast<int>(imaginary), 32767));
 }

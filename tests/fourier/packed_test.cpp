@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "harness/sweep.h"
-#include "vlqs/fourier.h"
+#include "vlqs/fft.h"
 
 namespace {
 
@@ -82,13 +82,16 @@ TEST(MulPackConj, Values) {
 }
 
 template <class T, class Complex, class Ref>
-void checkExpansion(VlqStatus (*call)(const T*, Complex*, Vlq32s), VlqStatus (*inPlace)(Complex*, Vlq32s), Ref ref, bool ccs) {
+void checkExpansion(VlqStatus (*call)(const T*, Complex*, Vlq32s),
+                    VlqStatus (*inPlace)(Complex*, Vlq32s), Ref ref, bool ccs) {
     sweep(sizeof(Complex), {1021, 5004}, [&](Case& c) {
         const auto len = static_cast<std::size_t>(c.len);
         const std::size_t count = ccs ? 2 * (len / 2 + 1) : len;
         std::vector<T> half;
-        if constexpr (std::is_integral_v<T>) half = extremeVector<T>(count, c.rng);
-        else half = uniformVector<T>(count, -9, 9, c.rng);
+        if constexpr (std::is_integral_v<T>)
+            half = extremeVector<T>(count, c.rng);
+        else
+            half = uniformVector<T>(count, -9, 9, c.rng);
         const std::vector<T> want = ref(half, len);
         const Buffer<T> src(half, c.place[1]);
         Buffer<T> dst(2 * len, c.place[0]);

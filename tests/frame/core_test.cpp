@@ -33,7 +33,8 @@ TEST(Core, MallocAlignsTo64Bytes) {
 
 TEST(Core, MallocRefusesWhatItCannotHold) {
     auto* allocate = CORE(vlqMalloc);
-    for (const Vlq64s bytes : {Vlq64s{0}, Vlq64s{-1}, INT64_MIN, INT64_MAX, INT64_MAX - 62, INT64_C(1) << 62}) {
+    for (const Vlq64s bytes :
+         {Vlq64s{0}, Vlq64s{-1}, INT64_MIN, INT64_MAX, INT64_MAX - 62, INT64_C(1) << 62}) {
         EXPECT_EQ(nullptr, allocate(bytes)) << bytes;
     }
 }
@@ -70,17 +71,56 @@ TEST(Core, FeaturesIncludeTheBaseline) {
 
 TEST(Core, OneSentenceForEachStatus) {
     auto* text = CORE(vlqGetStatusString);
-    const VlqStatus all[] = {
-        vlqStsWarnBitWidth, vlqStsWarnNaN, vlqStsWarnLnNegative, vlqStsWarnLnZero, vlqStsWarnDivByZero,
-        vlqStsWarnEvenMask, vlqStsWarnInvZero, vlqStsWarnSqrtNegArg, vlqStsOk, vlqStsBadArg, vlqStsBadSize,
-        vlqStsBadSelector, vlqStsNullPtr, vlqStsNoMemory, vlqStsZeroDivisor, vlqStsBadCauchyParam, vlqStsBadScale,
-        vlqStsBadOrder, vlqStsBadFlag, vlqStsBadSpec, vlqStsThresholdRange, vlqStsThresholdNegative,
-        vlqStsBadDlyIndex, vlqStsBadFilterOrder, vlqStsBadTapCount, vlqStsBadRelFreq, vlqStsBadRatePhase,
-        vlqStsBadRateFactor, vlqStsBadSamplePhase, vlqStsBadSampleFactor, vlqStsBadShift, vlqStsBadMask,
-        vlqStsBadWaveletOffset, vlqStsBadJaehneMagn, vlqStsBadAlpha, vlqStsBadTriangleAsym, vlqStsBadTrianglePhase,
-        vlqStsBadTriangleFreq, vlqStsBadTriangleMagn, vlqStsBadTonePhase, vlqStsBadToneFreq, vlqStsBadToneMagn,
-        vlqStsBadChannelCount, vlqStsBadMatrixStride, vlqStsBadSparsePos, vlqStsSingularMatrix, vlqStsBadIIRGenOrder,
-        vlqStsBadIIRGenFreq, vlqStsBadIIRGenRipple, vlqStsBadRoundMode};
+    const VlqStatus all[] = {vlqStsWarnBitWidth,
+                             vlqStsWarnNaN,
+                             vlqStsWarnLnNegative,
+                             vlqStsWarnLnZero,
+                             vlqStsWarnDivByZero,
+                             vlqStsWarnEvenMask,
+                             vlqStsWarnInvZero,
+                             vlqStsWarnSqrtNegArg,
+                             vlqStsOk,
+                             vlqStsBadArg,
+                             vlqStsBadSize,
+                             vlqStsBadSelector,
+                             vlqStsNullPtr,
+                             vlqStsNoMemory,
+                             vlqStsZeroDivisor,
+                             vlqStsBadCauchyParam,
+                             vlqStsBadScale,
+                             vlqStsBadOrder,
+                             vlqStsBadFlag,
+                             vlqStsBadSpec,
+                             vlqStsThresholdRange,
+                             vlqStsThresholdNegative,
+                             vlqStsBadDlyIndex,
+                             vlqStsBadFilterOrder,
+                             vlqStsBadTapCount,
+                             vlqStsBadRelFreq,
+                             vlqStsBadRatePhase,
+                             vlqStsBadRateFactor,
+                             vlqStsBadSamplePhase,
+                             vlqStsBadSampleFactor,
+                             vlqStsBadShift,
+                             vlqStsBadMask,
+                             vlqStsBadWaveletOffset,
+                             vlqStsBadJaehneMagn,
+                             vlqStsBadAlpha,
+                             vlqStsBadTriangleAsym,
+                             vlqStsBadTrianglePhase,
+                             vlqStsBadTriangleFreq,
+                             vlqStsBadTriangleMagn,
+                             vlqStsBadTonePhase,
+                             vlqStsBadToneFreq,
+                             vlqStsBadToneMagn,
+                             vlqStsBadChannelCount,
+                             vlqStsBadMatrixStride,
+                             vlqStsBadSparsePos,
+                             vlqStsSingularMatrix,
+                             vlqStsBadIIRGenOrder,
+                             vlqStsBadIIRGenFreq,
+                             vlqStsBadIIRGenRipple,
+                             vlqStsBadRoundMode};
     EXPECT_EQ(50u, std::size(all));
     std::set<std::string> sentences;
     for (const VlqStatus status : all) {

@@ -26,8 +26,10 @@ std::vector<Export> nameList() {
     std::vector<Export> exports;
     for (std::string line; std::getline(file, line);) {
         const auto equals = line.find(" = ");
-        if (equals == std::string::npos) exports.push_back({line, line});
-        else exports.push_back({line.substr(0, equals), line.substr(equals + 3)});
+        if (equals == std::string::npos)
+            exports.push_back({line, line});
+        else
+            exports.push_back({line.substr(0, equals), line.substr(equals + 3)});
     }
     return exports;
 }
@@ -62,7 +64,8 @@ struct Stub {
 
 Stub stubOf(const std::string& name) {
     void* handle = dlopen("libvlqs.so.7", RTLD_NOW | RTLD_NOLOAD);
-    const auto* code = static_cast<const unsigned char*>(handle ? dlsym(handle, name.c_str()) : nullptr);
+    const auto* code =
+        static_cast<const unsigned char*>(handle ? dlsym(handle, name.c_str()) : nullptr);
     if (!code || code[0] != 0xFF || code[1] != 0x25) return {code, nullptr};
     std::int32_t displacement;
     std::memcpy(&displacement, code + 2, 4);
@@ -72,14 +75,16 @@ Stub stubOf(const std::string& name) {
 TEST(EntryTable, NamesStandInOrdinalOrder) {
     const auto exports = nameList();
     ASSERT_FALSE(exports.empty());
-    for (std::size_t i = 1; i < exports.size(); ++i) EXPECT_LT(exports[i - 1].name, exports[i].name);
+    for (std::size_t i = 1; i < exports.size(); ++i)
+        EXPECT_LT(exports[i - 1].name, exports[i].name);
 }
 
 TEST(EntryTable, NothingElseIsExported) {
     std::set<std::string> want;
     for (const Export& e : nameList()) want.insert(e.name);
     std::set<std::string> got;
-    for (const std::string& line : linesOf("nm -D --defined-only")) got.insert(line.substr(line.rfind(' ') + 1));
+    for (const std::string& line : linesOf("nm -D --defined-only"))
+        got.insert(line.substr(line.rfind(' ') + 1));
     EXPECT_EQ(want, got);
 }
 
@@ -133,8 +138,10 @@ TEST(EntryTable, AliasRows) {
         {"FFTGetSize_C_32s", "FFTGetSize_C_32sc"},
         {"FIRGetStateSize32f_16s", "FIRGetStateSize_32f", "FIRStreamGetStateSize_32f"},
         {"FIRGetStateSize32fc_16sc", "FIRGetStateSize_32fc"},
-        {"FIRGetStateSize64f_16s", "FIRGetStateSize64f_32f", "FIRGetStateSize64f_32s", "FIRGetStateSize_64f"},
-        {"FIRGetStateSize64fc_16sc", "FIRGetStateSize64fc_32fc", "FIRGetStateSize64fc_32sc", "FIRGetStateSize_64fc"},
+        {"FIRGetStateSize64f_16s", "FIRGetStateSize64f_32f", "FIRGetStateSize64f_32s",
+         "FIRGetStateSize_64f"},
+        {"FIRGetStateSize64fc_16sc", "FIRGetStateSize64fc_32fc", "FIRGetStateSize64fc_32sc",
+         "FIRGetStateSize_64fc"},
         {"FIRMRGetStateSize32fc_16sc", "FIRMRGetStateSize_32fc"},
         {"FIRMRGetStateSize64fc_16sc", "FIRMRGetStateSize64fc_32fc", "FIRMRGetStateSize64fc_32sc",
          "FIRMRGetStateSize_64fc"},
@@ -184,12 +191,13 @@ TEST(EntryTable, NothingIsWritableButTheSlotsAndTheLoadFlag) {
         writable.insert(name);
     }
     // What compiler and linker put into every module.
-    for (const char* runtime : {"__dso_handle", "__TMC_END__", "completed.0", "completed.1", "_edata", "__bss_start",
-                                "_end", ".data", ".bss"}) {
+    for (const char* runtime : {"__dso_handle", "__TMC_END__", "completed.0", "completed.1",
+                                "_edata", "__bss_start", "_end", ".data", ".bss"}) {
         writable.erase(runtime);
     }
     ASSERT_EQ(1u, writable.erase("vlqSlots")) << "the slot table must be writable data";
-    for (const std::string& name : writable) EXPECT_NE(std::string::npos, name.find("fastMachine")) << name;
+    for (const std::string& name : writable)
+        EXPECT_NE(std::string::npos, name.find("fastMachine")) << name;
 }
 
 }  // namespace

@@ -15,22 +15,32 @@ namespace {
 
 using namespace vlqtest;
 
-bool startsWith(std::string_view text, std::string_view prefix) { return text.substr(0, prefix.size()) == prefix; }
+bool startsWith(std::string_view text, std::string_view prefix) {
+    return text.substr(0, prefix.size()) == prefix;
+}
 bool endsWith(std::string_view text, std::string_view suffix) {
     return text.size() >= suffix.size() && text.substr(text.size() - suffix.size()) == suffix;
 }
-bool contains(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
+bool contains(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
 
-bool isRecord(const Parameter& p) { return p.isPointer() && startsWith(p.type, "Vlqs") && p.type.find("**") == std::string_view::npos; }
+bool isRecord(const Parameter& p) {
+    return p.isPointer() && startsWith(p.type, "Vlqs") &&
+           p.type.find("**") == std::string_view::npos;
+}
 bool isConstRecord(const Parameter& p) { return startsWith(p.type, "const Vlqs"); }
 
-bool isTransform(const Signature& s) { return startsWith(s.name, "vlqsFFTFwd") || startsWith(s.name, "vlqsFFTInv"); }
+bool isTransform(const Signature& s) {
+    return startsWith(s.name, "vlqsFFTFwd") || startsWith(s.name, "vlqsFFTInv");
+}
 
 // Pointers that may be null.
 bool isOptional(const Signature& s, const Parameter& p) {
     if (startsWith(s.name, "vlqsFFT")) return p.name == "buf" || p.name == "initBuf";
     if (startsWith(s.name, "vlqsFIR")) {
-        return p.name == "dlyLine" && !contains(s.name, "GetDlyLine") && !contains(s.name, "_Direct");
+        return p.name == "dlyLine" && !contains(s.name, "GetDlyLine") &&
+               !contains(s.name, "_Direct");
     }
     return false;
 }
@@ -63,7 +73,8 @@ public:
         for (const auto& buffer : buffers_) before.push_back(buffer->values());
         EXPECT_EQ(status, signature_.call(arguments_)) << signature_.name << ", " << situation;
         for (std::size_t i = 0; i < buffers_.size(); ++i) {
-            EXPECT_TRUE(same(*buffers_[i], before[i])) << signature_.name << " wrote to " << signature_.parameters[i].name;
+            EXPECT_TRUE(same(*buffers_[i], before[i]))
+                << signature_.name << " wrote to " << signature_.parameters[i].name;
         }
     }
 
@@ -73,7 +84,8 @@ private:
         rows_.emplace_back(std::make_unique<Buffer<std::uint8_t>>(4096));
         std::vector<std::uint8_t> bytes(table.size());
         void* row = rows_.back()->data();
-        for (std::size_t i = 0; i + sizeof row <= bytes.size(); i += sizeof row) std::memcpy(&bytes[i], &row, sizeof row);
+        for (std::size_t i = 0; i + sizeof row <= bytes.size(); i += sizeof row)
+            std::memcpy(&bytes[i], &row, sizeof row);
         table.assign(bytes);
     }
 
@@ -90,7 +102,8 @@ bool isLookedAtAfterLength(const Signature& s, const Parameter& p) {
 
 int lengthIndex(const Signature& s) {
     for (std::size_t i = 0; i < s.parameters.size(); ++i) {
-        if (s.parameters[i].name == "len" || s.parameters[i].name == "numIters") return static_cast<int>(i);
+        if (s.parameters[i].name == "len" || s.parameters[i].name == "numIters")
+            return static_cast<int>(i);
     }
     return -1;
 }
@@ -101,7 +114,8 @@ TEST(EveryFunction, StandsInTheTable) {
     std::ifstream file(VLQS_NAMES_FILE);
     for (std::string line; std::getline(file, line);) {
         const std::string name = line.substr(0, line.find(' '));
-        if (startsWith(name, "vlqsMalloc") || name == "vlqsFree" || name == "vlqsGetLibVersion") continue;
+        if (startsWith(name, "vlqsMalloc") || name == "vlqsFree" || name == "vlqsGetLibVersion")
+            continue;
         EXPECT_EQ(1u, known.count(name)) << name;
     }
 }
@@ -115,11 +129,14 @@ TEST(EveryFunction, NullPointers) {
             const bool dataOfTransform = isTransform(s) && !isRecord(p) && !isConstRecord(p);
             Call call(s);
             call.setPointer(i, nullptr);
-            call.expect(dataOfTransform ? vlqStsBadSpec : vlqStsNullPtr, std::string(p.name) + " null");
+            call.expect(dataOfTransform ? vlqStsBadSpec : vlqStsNullPtr,
+                        std::string(p.name) + " null");
             const int len = lengthIndex(s);
             if (len < 0) continue;
             call.setValue(static_cast<std::size_t>(len), 0);
-            call.expect(testsLengthFirst(s) || isLookedAtAfterLength(s, p) ? vlqStsBadSize : vlqStsNullPtr, std::string(p.name) + " null, len 0");
+            call.expect(
+                testsLengthFirst(s) || isLookedAtAfterLength(s, p) ? vlqStsBadSize : vlqStsNullPtr,
+                std::string(p.name) + " null, len 0");
         }
     }
 }
@@ -143,7 +160,8 @@ TEST(EveryFunction, Lengths) {
 TEST(EveryFunction, RecordsOfNoKind) {
     for (const Signature& s : signatures()) {
         bool takesRecord = false;
-        for (const Parameter& p : s.parameters) takesRecord = takesRecord || isRecord(p) || isConstRecord(p);
+        for (const Parameter& p : s.parameters)
+            takesRecord = takesRecord || isRecord(p) || isConstRecord(p);
         if (!takesRecord) continue;
         Call call(s);
         call.expect(vlqStsBadSpec, "memory that holds no record");

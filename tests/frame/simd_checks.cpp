@@ -24,17 +24,20 @@ template <class T>
 void checkPartials(vlqtest::Rng& rng) {
     constexpr int lanes = Vec<T>::lanes;
     for (int count = 0; count <= lanes; ++count) {
-        for (const Placement place : {Placement{0, false}, Placement{3, false}, Placement{0, true}}) {
+        for (const Placement place :
+             {Placement{0, false}, Placement{3, false}, Placement{0, true}}) {
             const auto values = vlqtest::extremeVector<T>(static_cast<std::size_t>(count), rng);
             const Buffer<T> src(values, place);
             Buffer<T> dst(values.size(), place);
             const Vec<T> v = loadPartial<T>(src.data(), count);
             T all[lanes];
             std::memcpy(all, &v, sizeof all);
-            EXPECT_EQ(0, count == 0 ? 0 : std::memcmp(all, values.data(), values.size() * sizeof(T)));
+            EXPECT_EQ(0,
+                      count == 0 ? 0 : std::memcmp(all, values.data(), values.size() * sizeof(T)));
             for (int i = count; i < lanes; ++i) {
                 const T zero{};
-                EXPECT_EQ(0, std::memcmp(&all[i], &zero, sizeof zero)) << "lane " << i << " of count " << count;
+                EXPECT_EQ(0, std::memcmp(&all[i], &zero, sizeof zero))
+                    << "lane " << i << " of count " << count;
             }
             storePartial(dst.data(), v, count);
             EXPECT_TRUE(vlqtest::same(dst, values)) << count;
@@ -64,7 +67,8 @@ template <class T, class VecOp, class ScalarOp>
 void checkBinary(vlqtest::Rng& rng, VecOp vecOp, ScalarOp scalarOp) {
     constexpr int lanes = Vec<T>::lanes;
     for (int round = 0; round < 2000; ++round) {
-        const auto a = vlqtest::extremeVector<T>(lanes, rng), b = vlqtest::extremeVector<T>(lanes, rng);
+        const auto a = vlqtest::extremeVector<T>(lanes, rng),
+                   b = vlqtest::extremeVector<T>(lanes, rng);
         const auto got = vecOp(load<T>(a.data()), load<T>(b.data()));
         for (int i = 0; i < lanes; ++i) {
             const auto index = static_cast<std::size_t>(i);
@@ -80,20 +84,42 @@ void checkInteger(vlqtest::Rng& rng) {
     using U = std::make_unsigned_t<T>;
     using Wide = long long;
     auto saturate = [](Wide x) {
-        return static_cast<T>(std::clamp<Wide>(x, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+        return static_cast<T>(
+            std::clamp<Wide>(x, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
     };
-    checkBinary<T>(rng, [](auto a, auto b) { return a + b; }, [](T a, T b) { return static_cast<T>(static_cast<U>(static_cast<U>(a) + static_cast<U>(b))); });
-    checkBinary<T>(rng, [](auto a, auto b) { return a - b; }, [](T a, T b) { return static_cast<T>(static_cast<U>(static_cast<U>(a) - static_cast<U>(b))); });
-    checkBinary<T>(rng, [](auto a, auto b) { return minimum(a, b); }, [](T a, T b) { return std::min(a, b); });
-    checkBinary<T>(rng, [](auto a, auto b) { return maximum(a, b); }, [](T a, T b) { return std::max(a, b); });
+    checkBinary<T>(
+        rng, [](auto a, auto b) { return a + b; },
+        [](T a, T b) {
+            return static_cast<T>(static_cast<U>(static_cast<U>(a) + static_cast<U>(b)));
+        });
+    checkBinary<T>(
+        rng, [](auto a, auto b) { return a - b; },
+        [](T a, T b) {
+            return static_cast<T>(static_cast<U>(static_cast<U>(a) - static_cast<U>(b)));
+        });
+    checkBinary<T>(
+        rng, [](auto a, auto b) { return minimum(a, b); }, [](T a, T b) { return std::min(a, b); });
+    checkBinary<T>(
+        rng, [](auto a, auto b) { return maximum(a, b); }, [](T a, T b) { return std::max(a, b); });
     if constexpr (sizeof(T) <= 2) {
-        checkBinary<T>(rng, [](auto a, auto b) { return addSat(a, b); }, [&](T a, T b) { return saturate(Wide{a} + b); });
-        checkBinary<T>(rng, [](auto a, auto b) { return subSat(a, b); }, [&](T a, T b) { return saturate(Wide{a} - b); });
+        checkBinary<T>(
+            rng, [](auto a, auto b) { return addSat(a, b); },
+            [&](T a, T b) { return saturate(Wide{a} + b); });
+        checkBinary<T>(
+            rng, [](auto a, auto b) { return subSat(a, b); },
+            [&](T a, T b) { return saturate(Wide{a} - b); });
     }
     for (int count = 0; count < static_cast<int>(sizeof(T)) * 8; ++count) {
-        checkBinary<T>(rng, [&](auto a, auto) { return shiftLeft(a, count); }, [&](T a, T) { return static_cast<T>(static_cast<U>(static_cast<unsigned long long>(static_cast<U>(a)) << count)); });
+        checkBinary<T>(
+            rng, [&](auto a, auto) { return shiftLeft(a, count); },
+            [&](T a, T) {
+                return static_cast<T>(
+                    static_cast<U>(static_cast<unsigned long long>(static_cast<U>(a)) << count));
+            });
         if constexpr (sizeof(T) > 1 || std::is_unsigned_v<T>) {
-            checkBinary<T>(rng, [&](auto a, auto) { return shiftRight(a, count); }, [&](T a, T) { return static_cast<T>(a >> count); });
+            checkBinary<T>(
+                rng, [&](auto a, auto) { return shiftRight(a, count); },
+                [&](T a, T) { return static_cast<T>(a >> count); });
         }
     }
 }
@@ -109,16 +135,23 @@ TEST_F(Simd, Integers) {
 
 template <class T>
 void checkFloat(vlqtest::Rng& rng) {
-    checkBinary<T>(rng, [](auto a, auto b) { return minimum(a, b); }, [](T a, T b) { return a < b ? a : b; });
-    checkBinary<T>(rng, [](auto a, auto b) { return maximum(a, b); }, [](T a, T b) { return a > b ? a : b; });
-    checkBinary<T>(rng, [](auto a, auto) { return absolute(a); }, [](T a, T) { return std::fabs(a); });
-    checkBinary<T>(rng, [](auto a, auto b) { return select(a < b, b, a); }, [](T a, T b) { return a < b ? b : a; });
+    checkBinary<T>(
+        rng, [](auto a, auto b) { return minimum(a, b); }, [](T a, T b) { return a < b ? a : b; });
+    checkBinary<T>(
+        rng, [](auto a, auto b) { return maximum(a, b); }, [](T a, T b) { return a > b ? a : b; });
+    checkBinary<T>(
+        rng, [](auto a, auto) { return absolute(a); }, [](T a, T) { return std::fabs(a); });
+    checkBinary<T>(
+        rng, [](auto a, auto b) { return select(a < b, b, a); },
+        [](T a, T b) { return a < b ? b : a; });
     constexpr int lanes = Vec<T>::lanes;
     for (int round = 0; round < 2000; ++round) {
-        const auto a = vlqtest::uniformVector<T>(lanes, -2, 2, rng), b = vlqtest::uniformVector<T>(lanes, -2, 2, rng),
+        const auto a = vlqtest::uniformVector<T>(lanes, -2, 2, rng),
+                   b = vlqtest::uniformVector<T>(lanes, -2, 2, rng),
                    c = vlqtest::uniformVector<T>(lanes, -2, 2, rng);
         const auto va = load<T>(a.data()), vb = load<T>(b.data()), vc = load<T>(c.data());
-        const auto sum = mulAdd(va, vb, vc), difference = mulSub(va, vb, vc), rest = mulSubFrom(va, vb, vc);
+        const auto sum = mulAdd(va, vb, vc), difference = mulSub(va, vb, vc),
+                   rest = mulSubFrom(va, vb, vc);
         for (int i = 0; i < lanes; ++i) {
             const auto k = static_cast<std::size_t>(i);
 #if VLQ_SIMD_BYTES > 16
@@ -152,14 +185,17 @@ TEST_F(Simd, AnySeesEachLane) {
 // A map of several element sizes: widths differ between source and destination.
 TEST_F(Simd, MapBlocksOverSizes) {
     for (int len = 1; len < 600; len += 7) {
-        for (const Placement place : {Placement{0, false}, Placement{1, false}, Placement{0, true}}) {
+        for (const Placement place :
+             {Placement{0, false}, Placement{1, false}, Placement{0, true}}) {
             const auto n = static_cast<std::size_t>(len);
-            const auto a = vlqtest::extremeVector<std::int16_t>(n, rng), b = vlqtest::extremeVector<std::int16_t>(n, rng);
+            const auto a = vlqtest::extremeVector<std::int16_t>(n, rng),
+                       b = vlqtest::extremeVector<std::int16_t>(n, rng);
             std::vector<std::int16_t> want(n);
             for (std::size_t i = 0; i < n; ++i) want[i] = static_cast<std::int16_t>(a[i] ^ b[i]);
             const Buffer<std::int16_t> x(a, place), y(b, place);
             Buffer<std::int16_t> z(n, place);
-            map(z.data(), len, [](auto p, auto q) { return p ^ q; }, x.data(), y.data());
+            map(
+                z.data(), len, [](auto p, auto q) { return p ^ q; }, x.data(), y.data());
             ASSERT_TRUE(vlqtest::same(z, want));
         }
     }

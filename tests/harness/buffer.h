@@ -44,13 +44,16 @@ public:
             start_ = pages_.end() - bytes_;
         } else {
             start_ = pages_.begin() + kMargin;
-            start_ += (64 - reinterpret_cast<std::uintptr_t>(start_) % 64) % 64 + static_cast<std::size_t>(place.offset);
+            start_ += (64 - reinterpret_cast<std::uintptr_t>(start_) % 64) % 64 +
+                      static_cast<std::size_t>(place.offset);
         }
         low_ = std::max(pages_.begin(), start_ - kMargin);
         high_ = std::min(pages_.end(), start_ + bytes_ + kMargin);
         std::fill(low_, high_, kMark);
     }
-    Buffer(const std::vector<T>& values, Placement place = {}) : Buffer(values.size(), place) { assign(values); }
+    Buffer(const std::vector<T>& values, Placement place = {}) : Buffer(values.size(), place) {
+        assign(values);
+    }
 
     // May be misaligned for T: only the library under test looks through it.
     T* data() { return reinterpret_cast<T*>(start_); }
@@ -58,7 +61,8 @@ public:
     std::size_t size() const { return bytes_ / sizeof(T); }
 
     void assign(const std::vector<T>& values) {
-        if (!values.empty()) std::memcpy(start_, values.data(), std::min(bytes_, values.size() * sizeof(T)));
+        if (!values.empty())
+            std::memcpy(start_, values.data(), std::min(bytes_, values.size() * sizeof(T)));
     }
     std::vector<T> values() const {
         std::vector<T> copy(size());
@@ -86,13 +90,15 @@ private:
 template <class T>
 ::testing::AssertionResult same(const Buffer<T>& got, const std::vector<T>& want) {
     const std::vector<T> values = got.values();
-    if (!got.marginsIntact()) return ::testing::AssertionFailure() << "a byte outside the vector was written";
+    if (!got.marginsIntact())
+        return ::testing::AssertionFailure() << "a byte outside the vector was written";
     if (values.size() != want.size()) return ::testing::AssertionFailure() << "sizes differ";
     for (std::size_t i = 0; i < want.size(); ++i) {
         if (std::memcmp(&values[i], &want[i], sizeof(T)) != 0) {
             return ::testing::AssertionFailure()
-                   << "element " << i << " of " << want.size() << ": " << ::testing::PrintToString(values[i])
-                   << ", expected " << ::testing::PrintToString(want[i]);
+                   << "element " << i << " of " << want.size() << ": "
+                   << ::testing::PrintToString(values[i]) << ", expected "
+                   << ::testing::PrintToString(want[i]);
         }
     }
     return ::testing::AssertionSuccess();

@@ -49,7 +49,8 @@ void vlqFree(void* block) {
 
 void* vlqAlignPtr(void* ptr, Vlq32s alignBytes) {
     const auto address = reinterpret_cast<std::uintptr_t>(ptr);
-    return static_cast<char*>(ptr) + ((0 - address) & (static_cast<std::uintptr_t>(alignBytes) - 1));
+    return static_cast<char*>(ptr) +
+           ((0 - address) & (static_cast<std::uintptr_t>(alignBytes) - 1));
 }
 
 Vlq64u vlqGetEnabledCpuFeatures() { return 0; }

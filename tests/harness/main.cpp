@@ -18,9 +18,11 @@ std::uint64_t vlqtest::seed() { return runSeed; }
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     for (int i = 1; i + 1 < argc; ++i) {
-        if (std::string_view(argv[i]) == "--seed") runSeed = std::strtoull(argv[i + 1], nullptr, 10);
+        if (std::string_view(argv[i]) == "--seed")
+            runSeed = std::strtoull(argv[i + 1], nullptr, 10);
     }
-    std::printf("%s, seed %llu\n", vlqsGetLibVersion()->libraryName, static_cast<unsigned long long>(runSeed));
+    std::printf("%s, seed %llu\n", vlqsGetLibVersion()->libraryName,
+                static_cast<unsigned long long>(runSeed));
     vlqtest::Core::reset();
     return RUN_ALL_TESTS();
 }

@@ -25,8 +25,15 @@ T extremeValue(Rng& rng) {
     if constexpr (std::is_integral_v<T>) {
         if (rng() % 4 != 0) return static_cast<T>(rng());
         constexpr T low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
-        const T edges[] = {low, high, static_cast<T>(low + 1), static_cast<T>(high - 1), T{0}, T{1},
-                           static_cast<T>(-1), static_cast<T>(high / 2), static_cast<T>(high / 2 + 1)};
+        const T edges[] = {low,
+                           high,
+                           static_cast<T>(low + 1),
+                           static_cast<T>(high - 1),
+                           T{0},
+                           T{1},
+                           static_cast<T>(-1),
+                           static_cast<T>(high / 2),
+                           static_cast<T>(high / 2 + 1)};
         return edges[rng() % std::size(edges)];
     } else {
         using Limits = std::numeric_limits<T>;
@@ -35,10 +42,32 @@ T extremeValue(Rng& rng) {
             const T mantissa = static_cast<T>(static_cast<double>(rng() >> 11) * 0x1p-53 * 2 - 1);
             return std::ldexp(mantissa, static_cast<int>(rng() % 80) - 20);
         }
-        const T edges[] = {T(0), -T(0), T(0.5), T(-0.5), T(1.5), T(-1.5), T(2.5), T(-2.5), T(32767), T(-32768),
-                           T(32767.5), T(-32768.5), T(2147483648.0), T(-2147483648.0), Limits::infinity(),
-                           -Limits::infinity(), Limits::quiet_NaN(), Limits::denorm_min(), -Limits::denorm_min(),
-                           Limits::min(), Limits::max(), Limits::lowest(), T(127), T(-128), T(255), T(65535)};
+        const T edges[] = {T(0),
+                           -T(0),
+                           T(0.5),
+                           T(-0.5),
+                           T(1.5),
+                           T(-1.5),
+                           T(2.5),
+                           T(-2.5),
+                           T(32767),
+                           T(-32768),
+                           T(32767.5),
+                           T(-32768.5),
+                           T(2147483648.0),
+                           T(-2147483648.0),
+                           Limits::infinity(),
+                           -Limits::infinity(),
+                           Limits::quiet_NaN(),
+                           Limits::denorm_min(),
+                           -Limits::denorm_min(),
+                           Limits::min(),
+                           Limits::max(),
+                           Limits::lowest(),
+                           T(127),
+                           T(-128),
+                           T(255),
+                           T(65535)};
         return edges[rng() % std::size(edges)];
     }
 }

@@ -23,12 +23,15 @@ bool run(int len, int index, const int (&offset)[4], const std::function<void(Ca
 std::string Case::describe() const {
     std::ostringstream text;
     text << "len " << len << ", seed " << seed();
-    if (place[0].atGuardPage) text << ", at guard pages";
-    else for (const Placement& p : place) text << ", offset " << p.offset;
+    if (place[0].atGuardPage)
+        text << ", at guard pages";
+    else
+        for (const Placement& p : place) text << ", offset " << p.offset;
     return text.str();
 }
 
-void sweep(int elementBytes, const std::vector<int>& extraLengths, const std::function<void(Case&)>& check) {
+void sweep(int elementBytes, const std::vector<int>& extraLengths,
+           const std::function<void(Case&)>& check) {
     int index = 0;
     Rng rng(seed());
     auto anyOffset = [&] { return static_cast<int>(rng() % 64); };

@@ -19,6 +19,7 @@ struct Case {
 
 // Runs `check` over all cases for elements of `elementBytes` bytes; `extraLengths` are the
 // family's thresholds and one long vector. Stops at the first case that fails.
-void sweep(int elementBytes, const std::vector<int>& extraLengths, const std::function<void(Case&)>& check);
+void sweep(int elementBytes, const std::vector<int>& extraLengths,
+           const std::function<void(Case&)>& check);
 
 }  // namespace vlqtest

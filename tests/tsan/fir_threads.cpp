@@ -1,6 +1,6 @@
-// The threaded paths of FIR filters under the thread sanitizer: every arithmetic and type of samples,
-// with a record and without, direct and transformed, teams of several sizes, two callers at once.
-// Results are those of one thread.
+// The threaded paths of FIR filters under the thread sanitizer: every arithmetic and type of
+// samples, with a record and without, direct and transformed, teams of several sizes, two callers
+// at once. Results are those of one thread.
 #include <cstdio>
 #include <cstring>
 #include <thread>
@@ -23,8 +23,10 @@ void fill(T* values, std::size_t count, float scale) {
 template <class Value>
 std::vector<Value> noise(int count, float scale) {
     std::vector<Value> values(static_cast<std::size_t>(count));
-    if constexpr (requires(Value v) { v.re; }) fill(&values.data()->re, 2 * values.size(), scale);
-    else fill(values.data(), values.size(), scale);
+    if constexpr (requires(Value v) { v.re; })
+        fill(&values.data()->re, 2 * values.size(), scale);
+    else
+        fill(values.data(), values.size(), scale);
     return values;
 }
 template <class Sample>
@@ -40,9 +42,11 @@ void append(Bytes& all, const std::vector<Sample>& y) {
 // All outputs of a few calls, out of place and in place; nothing if one fails. scale stands for the
 // scale factor of the forms that have one.
 template <class State, class Tap, class Sample, class... Scale>
-Bytes record(VlqStatus (*init)(State**, const Tap*, Vlq32s, const Sample*), VlqStatus (*release)(State*),
-             VlqStatus (*block)(const Sample*, Sample*, Vlq32s, State*, Scale...), VlqStatus (*inPlace)(Sample*, Vlq32s, State*, Scale...),
-             int taps, int len, Scale... scale) {
+Bytes record(VlqStatus (*init)(State**, const Tap*, Vlq32s, const Sample*),
+             VlqStatus (*release)(State*),
+             VlqStatus (*block)(const Sample*, Sample*, Vlq32s, State*, Scale...),
+             VlqStatus (*inPlace)(Sample*, Vlq32s, State*, Scale...), int taps, int len,
+             Scale... scale) {
     const auto h = noise<Tap>(taps, 1);
     const auto x = noise<Sample>(len, kScale<Sample>);
     auto y = x;
@@ -61,8 +65,10 @@ Bytes record(VlqStatus (*init)(State**, const Tap*, Vlq32s, const Sample*), VlqS
 }
 // The same without a record.
 template <class Tap, class Sample>
-Bytes external(VlqStatus (*block)(const Sample*, Sample*, Vlq32s, const Tap*, Vlq32s, Sample*, Vlq32s*),
-               VlqStatus (*inPlace)(Sample*, Vlq32s, const Tap*, Vlq32s, Sample*, Vlq32s*), int taps, int len) {
+Bytes external(VlqStatus (*block)(const Sample*, Sample*, Vlq32s, const Tap*, Vlq32s, Sample*,
+                                  Vlq32s*),
+               VlqStatus (*inPlace)(Sample*, Vlq32s, const Tap*, Vlq32s, Sample*, Vlq32s*),
+               int taps, int len) {
     const auto h = noise<Tap>(taps, 1);
     const auto x = noise<Sample>(len, 1);
     auto y = x;
@@ -83,24 +89,80 @@ struct Form {
 };
 constexpr Vlq32s kShift = 3;
 const Form kForms[] = {
-    {"32f", [](int n, int len) { return record(vlqsFIRInitAlloc_32f, vlqsFIRFree_32f, vlqsFIR_32f, vlqsFIR_32f_I, n, len); }},
-    {"32fc", [](int n, int len) { return record(vlqsFIRInitAlloc_32fc, vlqsFIRFree_32fc, vlqsFIR_32fc, vlqsFIR_32fc_I, n, len); }},
-    {"64f", [](int n, int len) { return record(vlqsFIRInitAlloc_64f, vlqsFIRFree_64f, vlqsFIR_64f, vlqsFIR_64f_I, n, len); }},
-    {"64fc", [](int n, int len) { return record(vlqsFIRInitAlloc_64fc, vlqsFIRFree_64fc, vlqsFIR_64fc, vlqsFIR_64fc_I, n, len); }},
-    {"32f_16s", [](int n, int len) { return record(vlqsFIRInitAlloc32f_16s, vlqsFIRFree32f_16s, vlqsFIR32f_16s_Sfs, vlqsFIR32f_16s_ISfs, n, len, kShift); }},
-    {"32fc_16sc", [](int n, int len) { return record(vlqsFIRInitAlloc32fc_16sc, vlqsFIRFree32fc_16sc, vlqsFIR32fc_16sc_Sfs, vlqsFIR32fc_16sc_ISfs, n, len, kShift); }},
-    {"64f_32f", [](int n, int len) { return record(vlqsFIRInitAlloc64f_32f, vlqsFIRFree64f_32f, vlqsFIR64f_32f, vlqsFIR64f_32f_I, n, len); }},
-    {"64f_32s", [](int n, int len) { return record(vlqsFIRInitAlloc64f_32s, vlqsFIRFree64f_32s, vlqsFIR64f_32s_Sfs, vlqsFIR64f_32s_ISfs, n, len, -kShift); }},
-    {"64f_16s", [](int n, int len) { return record(vlqsFIRInitAlloc64f_16s, vlqsFIRFree64f_16s, vlqsFIR64f_16s_Sfs, vlqsFIR64f_16s_ISfs, n, len, kShift); }},
-    {"64fc_32fc", [](int n, int len) { return record(vlqsFIRInitAlloc64fc_32fc, vlqsFIRFree64fc_32fc, vlqsFIR64fc_32fc, vlqsFIR64fc_32fc_I, n, len); }},
-    {"64fc_32sc", [](int n, int len) { return record(vlqsFIRInitAlloc64fc_32sc, vlqsFIRFree64fc_32sc, vlqsFIR64fc_32sc_Sfs, vlqsFIR64fc_32sc_ISfs, n, len, -kShift); }},
-    {"64fc_16sc", [](int n, int len) { return record(vlqsFIRInitAlloc64fc_16sc, vlqsFIRFree64fc_16sc, vlqsFIR64fc_16sc_Sfs, vlqsFIR64fc_16sc_ISfs, n, len, kShift); }},
-    {"32f, no record", [](int n, int len) { return external(vlqsFIR_Direct_32f, vlqsFIR_Direct_32f_I, n, len); }},
-    {"32fc, no record", [](int n, int len) { return external(vlqsFIR_Direct_32fc, vlqsFIR_Direct_32fc_I, n, len); }},
-    {"64f, no record", [](int n, int len) { return external(vlqsFIR_Direct_64f, vlqsFIR_Direct_64f_I, n, len); }},
-    {"64fc, no record", [](int n, int len) { return external(vlqsFIR_Direct_64fc, vlqsFIR_Direct_64fc_I, n, len); }},
-    {"64f_32f, no record", [](int n, int len) { return external(vlqsFIR64f_Direct_32f, vlqsFIR64f_Direct_32f_I, n, len); }},
-    {"64fc_32fc, no record", [](int n, int len) { return external(vlqsFIR64fc_Direct_32fc, vlqsFIR64fc_Direct_32fc_I, n, len); }},
+    {"32f",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc_32f, vlqsFIRFree_32f, vlqsFIR_32f, vlqsFIR_32f_I, n, len);
+     }},
+    {"32fc",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc_32fc, vlqsFIRFree_32fc, vlqsFIR_32fc, vlqsFIR_32fc_I, n,
+                       len);
+     }},
+    {"64f",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc_64f, vlqsFIRFree_64f, vlqsFIR_64f, vlqsFIR_64f_I, n, len);
+     }},
+    {"64fc",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc_64fc, vlqsFIRFree_64fc, vlqsFIR_64fc, vlqsFIR_64fc_I, n,
+                       len);
+     }},
+    {"32f_16s",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc32f_16s, vlqsFIRFree32f_16s, vlqsFIR32f_16s_Sfs,
+                       vlqsFIR32f_16s_ISfs, n, len, kShift);
+     }},
+    {"32fc_16sc",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc32fc_16sc, vlqsFIRFree32fc_16sc, vlqsFIR32fc_16sc_Sfs,
+                       vlqsFIR32fc_16sc_ISfs, n, len, kShift);
+     }},
+    {"64f_32f",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc64f_32f, vlqsFIRFree64f_32f, vlqsFIR64f_32f,
+                       vlqsFIR64f_32f_I, n, len);
+     }},
+    {"64f_32s",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc64f_32s, vlqsFIRFree64f_32s, vlqsFIR64f_32s_Sfs,
+                       vlqsFIR64f_32s_ISfs, n, len, -kShift);
+     }},
+    {"64f_16s",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc64f_16s, vlqsFIRFree64f_16s, vlqsFIR64f_16s_Sfs,
+                       vlqsFIR64f_16s_ISfs, n, len, kShift);
+     }},
+    {"64fc_32fc",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc64fc_32fc, vlqsFIRFree64fc_32fc, vlqsFIR64fc_32fc,
+                       vlqsFIR64fc_32fc_I, n, len);
+     }},
+    {"64fc_32sc",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc64fc_32sc, vlqsFIRFree64fc_32sc, vlqsFIR64fc_32sc_Sfs,
+                       vlqsFIR64fc_32sc_ISfs, n, len, -kShift);
+     }},
+    {"64fc_16sc",
+     [](int n, int len) {
+         return record(vlqsFIRInitAlloc64fc_16sc, vlqsFIRFree64fc_16sc, vlqsFIR64fc_16sc_Sfs,
+                       vlqsFIR64fc_16sc_ISfs, n, len, kShift);
+     }},
+    {"32f, no record",
+     [](int n, int len) { return external(vlqsFIR_Direct_32f, vlqsFIR_Direct_32f_I, n, len); }},
+    {"32fc, no record",
+     [](int n, int len) { return external(vlqsFIR_Direct_32fc, vlqsFIR_Direct_32fc_I, n, len); }},
+    {"64f, no record",
+     [](int n, int len) { return external(vlqsFIR_Direct_64f, vlqsFIR_Direct_64f_I, n, len); }},
+    {"64fc, no record",
+     [](int n, int len) { return external(vlqsFIR_Direct_64fc, vlqsFIR_Direct_64fc_I, n, len); }},
+    {"64f_32f, no record",
+     [](int n, int len) {
+         return external(vlqsFIR64f_Direct_32f, vlqsFIR64f_Direct_32f_I, n, len);
+     }},
+    {"64fc_32fc, no record",
+     [](int n, int len) {
+         return external(vlqsFIR64fc_Direct_32fc, vlqsFIR64fc_Direct_32fc_I, n, len);
+     }},
 };
 
 // Direct and transformed; the shortest length that is shared out, one more, a few blocks.
@@ -138,7 +200,8 @@ int main() {
             for (const int len : kLengths) {
                 const bool alone = sameAsAlone(form, taps, len);
                 if (!alone || !sameBeside(*before, form, taps, len)) {
-                    std::printf("%s, %d taps, %d samples: results differ%s\n", form.name, taps, len, alone ? " beside another caller" : "");
+                    std::printf("%s, %d taps, %d samples: results differ%s\n", form.name, taps, len,
+                                alone ? " beside another caller" : "");
                     return 1;
                 }
             }

@@ -13,10 +13,12 @@ int main() {
         vlq::shareEvenly(threads, 1000, [&](Vlq32s first, Vlq32s count) {
             for (Vlq32s i = first; i < first + count; ++i) ++written[static_cast<std::size_t>(i)];
         });
-        const VlqStatus lowest = vlq::shareBlocks(threads, 999, 10, status.data(), [&](Vlq64s index, Vlq32s) -> VlqStatus {
-            for (Vlq64s i = index * 10; i < 1000 && i < index * 10 + 10; ++i) ++written[static_cast<std::size_t>(i)];
-            return index == 7 ? vlqStsBadSpec : vlqStsOk;
-        });
+        const VlqStatus lowest = vlq::shareBlocks(
+            threads, 999, 10, status.data(), [&](Vlq64s index, Vlq32s) -> VlqStatus {
+                for (Vlq64s i = index * 10; i < 1000 && i < index * 10 + 10; ++i)
+                    ++written[static_cast<std::size_t>(i)];
+                return index == 7 ? vlqStsBadSpec : vlqStsOk;
+            });
         bool right = lowest == vlqStsBadSpec;
         for (const int times : written) right = right && times == 2;
         if (!right) {

@@ -14,28 +14,42 @@ template <int count, class Body>
 [[gnu::always_inline]] inline void unroll(Body&& body) {
     [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) {
         (body(std::integral_constant<int, i>{}), ...);
-    }(std::make_integer_sequence<int, count>{});
+    }
+    (std::make_integer_sequence<int, count>{});
 }
 
 // Complex vectors, and complex scalars in straight-line code.
 template <class S>
-concept ComplexLike = requires(S s) { s.re; s.im; };
+concept ComplexLike = requires(S s) {
+    s.re;
+    s.im;
+};
 
 template <ComplexLike S>
-[[gnu::always_inline]] inline S operator+(S a, S b) { return {a.re + b.re, a.im + b.im}; }
+[[gnu::always_inline]] inline S operator+(S a, S b) {
+    return {a.re + b.re, a.im + b.im};
+}
 template <ComplexLike S>
-[[gnu::always_inline]] inline S operator-(S a, S b) { return {a.re - b.re, a.im - b.im}; }
+[[gnu::always_inline]] inline S operator-(S a, S b) {
+    return {a.re - b.re, a.im - b.im};
+}
 template <ComplexLike S>
 [[gnu::always_inline]] inline S operator*(S a, S w) {
     return {mulSubFrom(a.im, w.im, a.re * w.re), mulAdd(a.im, w.re, a.re * w.im)};
 }
 // a - i b, a + i b
 template <ComplexLike S>
-[[gnu::always_inline]] inline S minusI(S a, S b) { return {a.re + b.im, a.im - b.re}; }
+[[gnu::always_inline]] inline S minusI(S a, S b) {
+    return {a.re + b.im, a.im - b.re};
+}
 template <ComplexLike S>
-[[gnu::always_inline]] inline S plusI(S a, S b) { return {a.re - b.im, a.im + b.re}; }
+[[gnu::always_inline]] inline S plusI(S a, S b) {
+    return {a.re - b.im, a.im + b.re};
+}
 template <ComplexLike S, class R>
-[[gnu::always_inline]] inline S times(S a, R s) { return {a.re * s, a.im * s}; }
+[[gnu::always_inline]] inline S times(S a, R s) {
+    return {a.re * s, a.im * s};
+}
 
 // 1/sqrt(2). The eight-point factor that begins an odd order is one unit above the rounded value
 // in single precision, in every build.
@@ -59,7 +73,8 @@ template <class S, class R>
     const S a = x[1] + x[5], b = x[1] - x[5], c = x[3] + x[7], d = x[3] - x[7];
     const S o0 = a + c, o2 = a - c;
     const S e = minusI(b, d), f = plusI(b, d);
-    // The odd half's values 1 and 3 with their eighth turns; of the latter minus the imaginary part.
+    // The odd half's values 1 and 3 with their eighth turns; of the latter minus the imaginary
+    // part.
     const S o1{(e.re + e.im) * half, (e.im - e.re) * half};
     const S o3{(f.im - f.re) * half, (f.re + f.im) * half};
     const S y0 = x[0], y1 = x[2], y2 = x[4], y3 = x[6];

@@ -70,15 +70,20 @@ inline void fixedTransform(int order, Value<Fixed>* x) {
 template <bool forward, int order>
 inline void fixedReal(Fixed* x) {
     Fixed y[1 << order];
-    if constexpr (forward) realForward<order, 1>(x, y);
-    else realInverse<order, 1>(x, y);
+    if constexpr (forward)
+        realForward<order, 1>(x, y);
+    else
+        realInverse<order, 1>(x, y);
     std::copy(y, y + (1 << order), x);
 }
 template <bool forward>
 inline void fixedRealTransform(int order, Fixed* x) {
-    if (order == 1) fixedReal<forward, 1>(x);
-    else if (order == 2) fixedReal<forward, 2>(x);
-    else fixedReal<forward, 3>(x);
+    if (order == 1)
+        fixedReal<forward, 1>(x);
+    else if (order == 2)
+        fixedReal<forward, 2>(x);
+    else
+        fixedReal<forward, 3>(x);
 }
 
 }  // namespace vlq::fft

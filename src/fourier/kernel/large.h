@@ -6,8 +6,8 @@
 #include <bit>
 
 #include "fourier/kernel/passes.h"
-#include "fourier/plan/large.h"
-#include "fourier/plan/record.h"
+#include "fourier/plan/fft_plan.h"
+#include "fourier/plan/row_plan.h"
 
 namespace vlq::fft {
 
@@ -25,10 +25,11 @@ struct Tile {
 };
 
 // One radix-R step over `rows` rows: row j + p * rows / R meets its kind, output q is multiplied by
-// factor [j][q], but not in the last step (without factors), and goes to row q * rows / R + j. eighth
-// is the factor of the eight-point transform in it.
+// factor [j][q], but not in the last step (without factors), and goes to row q * rows / R + j.
+// eighth is the factor of the eight-point transform in it.
 template <class T, int B, int R>
-[[gnu::noinline]] void columnStep(std::ptrdiff_t rows, const T* factors, T eighth, Tile<T, B> tile) {
+[[gnu::noinline]] void columnStep(std::ptrdiff_t rows, const T* factors, T eighth,
+                                  Tile<T, B> tile) {
     using V = Vec<T, B>;
     using S = Split<T, B>;
     constexpr int vectors = kTileColumns<T> / V::lanes;
@@ -37,15 +38,21 @@ template <class T, int B, int R>
         const T* const factor = factors ? factors + 2 * R * j : nullptr;
         for (int c = 0; c < vectors; ++c) {
             auto finish = [&](auto q, S v) __attribute__((always_inline)) {
-                if (q != 0 && factor) v = v * S{V::broadcast(factor[2 * q]), V::broadcast(factor[2 * q + 1])};
+                if (q != 0 && factor)
+                    v = v * S{V::broadcast(factor[2 * q]), V::broadcast(factor[2 * q + 1])};
                 tile.put(q * stride + j, c, v);
             };
             if constexpr (R == 16) {
                 dft16<T, B>(
-                    eighth, [&](auto p) __attribute__((always_inline)) { return tile.get(j + p * stride, c); }, finish);
+                    eighth,
+                    [&](auto p)
+                        __attribute__((always_inline)) { return tile.get(j + p * stride, c); },
+                    finish);
             } else {
                 S x[8];
-                unroll<8>([&](auto p) __attribute__((always_inline)) { x[p] = tile.get(j + p * stride, c); });
+                unroll<8>([&](auto p) __attribute__((always_inline)) {
+                    x[p] = tile.get(j + p * stride, c);
+                });
                 dft8(x, V::broadcast(eighth));
                 unroll<8>([&](auto q) __attribute__((always_inline)) { finish(q, x[q]); });
             }
@@ -78,7 +85,8 @@ struct ColumnTransform {
         for (int i = 0; i < plan.count; ++i) {
             const auto step = plan.radix[i] == 16 ? columnStep<T, B, 16> : columnStep<T, B, 8>;
             for (std::ptrdiff_t row = 0; row < rows(); row += inner) {
-                step(inner, i + 1 < plan.count ? next : nullptr, i == 0 ? eighth : kRootHalf<T>, tile.from(row));
+                step(inner, i + 1 < plan.count ? next : nullptr, i == 0 ? eighth : kRootHalf<T>,
+                     tile.from(row));
             }
             next += 2 * inner;
             inner /= plan.radix[i];
@@ -92,11 +100,13 @@ template <class T, int B>
 struct PhaseTwiddles {
     const T* within;  // [row][column]
     const T* tiles;   // [tile][row]
-    PhaseTwiddles(const T* table, int rowBits) : within(table), tiles(table + ((2 * kTileColumns<T>) << rowBits)) {}
+    PhaseTwiddles(const T* table, int rowBits)
+        : within(table), tiles(table + ((2 * kTileColumns<T>) << rowBits)) {}
     [[gnu::always_inline]] Split<T, B> of(std::ptrdiff_t row, int c, const T* tile) const {
         using V = Vec<T, B>;
         const T* w = within + 2 * (row * kTileColumns<T> + c * V::lanes);
-        return Split<T, B>{loadAligned<T, B>(w), loadAligned<T, B>(w + V::lanes)} * Split<T, B>{V::broadcast(tile[2 * row]), V::broadcast(tile[2 * row + 1])};
+        return Split<T, B>{loadAligned<T, B>(w), loadAligned<T, B>(w + V::lanes)} *
+               Split<T, B>{V::broadcast(tile[2 * row]), V::broadcast(tile[2 * row + 1])};
     }
 };
 
@@ -108,7 +118,7 @@ void transposeInPlace(Middle data, std::ptrdiff_t base, std::ptrdiff_t size, std
     struct Square {
         V re[lanes], im[lanes];
     };
-    auto take = [&](Square& s, std::ptrdiff_t at) __attribute__((always_inline)) {
+    auto take = [&](Square & s, std::ptrdiff_t at) __attribute__((always_inline)) {
         unroll<lanes>([&](auto i) __attribute__((always_inline)) {
             const Split<T, B> v = data.template get<B>(at + splitLane<T, B>(i) * pitch);
             s.re[i] = v.re;
@@ -138,26 +148,31 @@ void transposeInPlace(Middle data, std::ptrdiff_t base, std::ptrdiff_t size, std
 // src to middle, over H, multiplied by scale; middle is the memory of dst in the form that phases
 // use among themselves.
 template <class T, int B, class In, class Middle>
-void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Middle middle, T* work, bool inPlace,
-                T scale) {
+void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Middle middle, T* work,
+                bool inPlace, T scale) {
     using V = Vec<T, B>;
     using S = Split<T, B>;
     constexpr int lanes = V::lanes, columns = kTileColumns<T>;
-    const std::ptrdiff_t size = std::ptrdiff_t{1} << plan.outer, pitch = std::ptrdiff_t{1} << (order - plan.outer);
-    const ColumnTransform<T, B> transform{plan.outer, factors, {work}, order % 2 ? kEightPoint<T> : kRootHalf<T>};
+    const std::ptrdiff_t size = std::ptrdiff_t{1} << plan.outer,
+                         pitch = std::ptrdiff_t{1} << (order - plan.outer);
+    const ColumnTransform<T, B> transform{
+        plan.outer, factors, {work}, order % 2 ? kEightPoint<T> : kRootHalf<T>};
     const V factor = V::broadcast(scale);
     for (std::ptrdiff_t m = 0; m < pitch; m += size) {
         for (std::ptrdiff_t r = 0; r < size; r += columns) {
             for (std::ptrdiff_t row = 0; row < size; ++row) {
                 for (int c = 0; c < columns / lanes; ++c) {
-                    transform.tile.put(row, c, times(src.template get<B>(row * pitch + m + r + c * lanes), factor));
+                    transform.tile.put(
+                        row, c,
+                        times(src.template get<B>(row * pitch + m + r + c * lanes), factor));
                 }
             }
             transform.run();
             if (inPlace) {
                 for (std::ptrdiff_t q = 0; q < size; ++q) {
                     for (int c = 0; c < columns / lanes; ++c) {
-                        middle.template put<B>(q * pitch + m + r + c * lanes, transform.tile.get(transform.place(q), c));
+                        middle.template put<B>(q * pitch + m + r + c * lanes,
+                                               transform.tile.get(transform.place(q), c));
                     }
                 }
                 continue;
@@ -173,7 +188,8 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
                     transpose(re);
                     transpose(im);
                     unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                        middle.template put<B>((r + c * lanes + splitLane<T, B>(i)) * pitch + m + q, S{re[i], im[i]});
+                        middle.template put<B>((r + c * lanes + splitLane<T, B>(i)) * pitch + m + q,
+                                               S{re[i], im[i]});
                     });
                 }
             }
@@ -184,22 +200,26 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
 
 // Combines 2^rowBits rows of 2^columnBits columns from `base` on.
 template <class T, int B, class In, class Out>
-void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, In in, Out out, std::ptrdiff_t base,
-                T* work) {
+void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, In in, Out out,
+                std::ptrdiff_t base, T* work) {
     constexpr int lanes = Vec<T, B>::lanes, columns = kTileColumns<T>;
     const PhaseTwiddles<T, B> twiddles(table, rowBits);
     const ColumnTransform<T, B> transform{rowBits, factors, {work}};
     const T* scalars = twiddles.tiles;
-    for (std::ptrdiff_t k = 0; k < std::ptrdiff_t{1} << columnBits; k += columns, scalars += 2 << rowBits) {
+    for (std::ptrdiff_t k = 0; k < std::ptrdiff_t{1} << columnBits;
+         k += columns, scalars += 2 << rowBits) {
         for (std::ptrdiff_t row = 0; row < transform.rows(); ++row) {
             for (int c = 0; c < columns / lanes; ++c) {
-                transform.tile.put(row, c, in.template get<B>(base + (row << columnBits) + k + c * lanes) * twiddles.of(row, c, scalars));
+                transform.tile.put(row, c,
+                                   in.template get<B>(base + (row << columnBits) + k + c * lanes) *
+                                       twiddles.of(row, c, scalars));
             }
         }
         transform.run();
         for (std::ptrdiff_t row = 0; row < transform.rows(); ++row) {
             for (int c = 0; c < columns / lanes; ++c) {
-                out.template put<B>(base + (row << columnBits) + k + c * lanes, transform.tile.get(transform.place(row), c));
+                out.template put<B>(base + (row << columnBits) + k + c * lanes,
+                                    transform.tile.get(transform.place(row), c));
             }
         }
     }
@@ -207,19 +227,22 @@ void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, I
 
 // inPlace: src is the memory of dst.
 template <class T, class In, class Middle, class Out>
-void runPhases(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work, bool inPlace,
-               bool scaled) {
+void runPhases(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work,
+               bool inPlace, bool scaled) {
     constexpr int B = kVecBytes;
     const LargePlan plan = largePlan(order);
     const int inner = order - plan.outer;
     const T* factors = record.twiddleTable;
     const T* middleFactors = factors + 2 * columnTwiddles(plan.outer);
-    firstPhase<T, B>(plan, order, factors, src, middle, work, inPlace, scaled ? record.normFactor : T(1));
+    firstPhase<T, B>(plan, order, factors, src, middle, work, inPlace,
+                     scaled ? record.normFactor : T(1));
     const T* middleTable = record.outerTwiddle[1];
     for (std::ptrdiff_t row = 0; row < std::ptrdiff_t{1} << plan.outer; ++row) {
-        laterPhase<T, B>(plan.middle, plan.outer, middleFactors, middleTable, middle, middle, row << inner, work);
+        laterPhase<T, B>(plan.middle, plan.outer, middleFactors, middleTable, middle, middle,
+                         row << inner, work);
     }
-    laterPhase<T, B>(plan.outer, inner, factors, record.outerTwiddle[0].get(), middle, dst, 0, work);
+    laterPhase<T, B>(plan.outer, inner, factors, record.outerTwiddle[0].get(), middle, dst, 0,
+                     work);
 }
 
 }  // namespace vlq::fft

@@ -14,7 +14,8 @@ namespace vlq::fft {
 inline constexpr double kCosine16 = 0.92387953251128675613, kSine16 = 0.38268343236508977173;
 
 template <class V>
-[[gnu::always_inline]] inline Split<typename V::Scalar, V::bytes> constantTwiddle(double re, double im) {
+[[gnu::always_inline]] inline Split<typename V::Scalar, V::bytes> constantTwiddle(double re,
+                                                                                  double im) {
     using T = typename V::Scalar;
     return {V::broadcast(static_cast<T>(re)), V::broadcast(static_cast<T>(im))};
 }
@@ -22,10 +23,13 @@ template <class V>
 // Between the two stages of a 16-point transform: values 1 to 3 of the q-th second butterfly times
 // exp(-2 pi i q m / 16), m their number. eighth is the factor of the eight-point transform in it.
 template <int q, class T, int B>
-[[gnu::always_inline]] inline void turnSixteenths(Split<T, B>& b, Split<T, B>& c, Split<T, B>& d, T eighth) {
+[[gnu::always_inline]] inline void turnSixteenths(Split<T, B>& b, Split<T, B>& c, Split<T, B>& d,
+                                                  T eighth) {
     using V = Vec<T, B>;
     using S = Split<T, B>;
-    auto turn1 = [](S v, V h) __attribute__((always_inline)) { return S{(v.re + v.im) * h, (v.im - v.re) * h}; };
+    auto turn1 = [](S v, V h) __attribute__((always_inline)) {
+        return S{(v.re + v.im) * h, (v.im - v.re) * h};
+    };
     auto turn3 = [](S v, V h) __attribute__((always_inline)) {
         return S{(v.im - v.re) * h, (v.re + v.im) * (V::zero() - h)};
     };
@@ -71,7 +75,8 @@ template <class T, int B, class Get, class Put>
 
 // Vectors of `lanes` outputs each become `lanes` contiguous runs of R outputs.
 template <int R, class T, int B, class Out>
-[[gnu::always_inline]] inline void putTransposed(Out out, std::ptrdiff_t j, const Split<T, B> (&y)[R]) {
+[[gnu::always_inline]] inline void putTransposed(Out out, std::ptrdiff_t j,
+                                                 const Split<T, B> (&y)[R]) {
     using V = Vec<T, B>;
     constexpr int lanes = V::lanes;
     unroll<R / lanes>([&](auto part) __attribute__((always_inline)) {
@@ -83,7 +88,8 @@ template <int R, class T, int B, class Out>
         transpose(re);
         transpose(im);
         unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-            out.template put<B>((j + splitLane<T, B>(i)) * R + part * lanes, Split<T, B>{re[i], im[i]});
+            out.template put<B>((j + splitLane<T, B>(i)) * R + part * lanes,
+                                Split<T, B>{re[i], im[i]});
         });
     });
 }
@@ -98,12 +104,18 @@ void firstPass(In in, Out out, std::ptrdiff_t n, T eighth) {
         S y[R];
         if constexpr (R == 16) {
             dft16<T, B>(
-                eighth, [&](auto p) __attribute__((always_inline)) { return in.template get<B>(j + p * stride); },
+                eighth,
+                [&](auto p)
+                    __attribute__((always_inline)) { return in.template get<B>(j + p * stride); },
                 [&](auto q, S v) __attribute__((always_inline)) { y[q] = v; });
         } else {
-            unroll<R>([&](auto p) __attribute__((always_inline)) { y[p] = in.template get<B>(j + p * stride); });
-            if constexpr (R == 8) dft8(y, V::broadcast(eighth));
-            else dft4(y[0], y[1], y[2], y[3]);
+            unroll<R>([&](auto p) __attribute__((always_inline)) {
+                y[p] = in.template get<B>(j + p * stride);
+            });
+            if constexpr (R == 8)
+                dft8(y, V::broadcast(eighth));
+            else
+                dft4(y[0], y[1], y[2], y[3]);
         }
         putTransposed<R>(out, j, y);
     }
@@ -114,8 +126,10 @@ template <class T, int B>
     const Split<T, B> w{loadAligned<T, B>(table + 2 * index * Vec<T, B>::lanes),
                         loadAligned<T, B>(table + (2 * index + 1) * Vec<T, B>::lanes)};
     // Instructions that overwrite an operand are better off with factors from memory.
-    if constexpr (B == 16) return w;
-    else return {opaque(w.re), opaque(w.im)};
+    if constexpr (B == 16)
+        return w;
+    else
+        return {opaque(w.re), opaque(w.im)};
 }
 
 // A later pass: R * lanes values from in(i + p * stride) to out(o + q * span), R - 1 twiddles.
@@ -124,7 +138,8 @@ template <class T, int B, int R, class Get, class Put>
     using V = Vec<T, B>;
     using S = Split<T, B>;
     if constexpr (R == 4) {
-        S a = get(std::integral_constant<int, 0>{}), b = get(std::integral_constant<int, 1>{}) * tableTwiddle<T, B>(table, 0),
+        S a = get(std::integral_constant<int, 0>{}),
+          b = get(std::integral_constant<int, 1>{}) * tableTwiddle<T, B>(table, 0),
           c = get(std::integral_constant<int, 2>{}) * tableTwiddle<T, B>(table, 1),
           d = get(std::integral_constant<int, 3>{}) * tableTwiddle<T, B>(table, 2);
         dft4(a, b, c, d);
@@ -177,7 +192,10 @@ void laterPass(In in, Out out, std::ptrdiff_t n, std::ptrdiff_t span, const T* t
         const T* w = table;
         for (std::ptrdiff_t k = 0; k < span; k += V::lanes, w += 2 * (R - 1) * V::lanes) {
             combine<T, B, R>(
-                w, [&](auto p) __attribute__((always_inline)) { return in.template get<B>(group + k + p * stride); },
+                w,
+                [&](auto p) __attribute__((always_inline)) {
+                    return in.template get<B>(group + k + p * stride);
+                },
                 [&](auto q, S v) __attribute__((always_inline)) {
                     out.template put<B>(group * R + k + q * span, scaled ? times(v, factor) : v);
                 });

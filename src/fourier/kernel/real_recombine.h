@@ -5,7 +5,7 @@
 // in place if wanted. The zeroth value (mean and Nyquist term) is not touched.
 #pragma once
 
-#include "fourier/kernel/complex.h"
+#include "fourier/kernel/complex_transform.h"
 #include "fourier/plan/real_plan.h"
 #include "frame/simd/ops.h"
 #include "frame/simd/split.h"
@@ -39,8 +39,10 @@ inline void recombineInverse(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T,
 
 template <Direction direction, class T, int B>
 inline void recombineStep(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T, B> s) {
-    if constexpr (direction == Direction::forward) recombineForward(a, b, c, s);
-    else recombineInverse(a, b, c, s);
+    if constexpr (direction == Direction::forward)
+        recombineForward(a, b, c, s);
+    else
+        recombineInverse(a, b, c, s);
 }
 
 // src1 and dst1 point at value 1; quarter = H/2 is a multiple of the lanes. The last block of both
@@ -93,13 +95,17 @@ inline void recombineTwoLevels(const T* src1, T* dst1, const T* factors, std::pt
     std::memcpy(dst1 + 2 * (quarter - 1), result, sizeof result);
 }
 
-// Values 1 to H-1 of a transform of 2^order points, order above inRegisters. src1 and dst1 point at value 1 and may be one.
+// Values 1 to H-1 of a transform of 2^order points, order above inRegisters. src1 and dst1 point at
+// value 1 and may be one.
 template <Direction direction, class T>
 inline void recombine(int order, const FloatingRecord<T>& record, const T* src1, T* dst1) {
-    const T* factors = direction == Direction::forward ? record.realTwiddleFwd : record.realTwiddleInv;
+    const T* factors =
+        direction == Direction::forward ? record.realTwiddleFwd : record.realTwiddleInv;
     const std::ptrdiff_t quarter = std::ptrdiff_t{1} << (order - 2);
-    if (order < RealLimits<T>::twoLevel) recombineBlocks<direction>(src1, dst1, factors, quarter);
-    else recombineTwoLevels<direction>(src1, dst1, factors, quarter);
+    if (order < RealLimits<T>::twoLevel)
+        recombineBlocks<direction>(src1, dst1, factors, quarter);
+    else
+        recombineTwoLevels<direction>(src1, dst1, factors, quarter);
 }
 
 }  // namespace vlq::fft

@@ -51,10 +51,13 @@ template <Direction direction, class T, int count>
     });
     if constexpr (forward) z[0].im = withFirst(z[0].im, back[0].re);
     // Value H/2 is its own mirror.
-    middle = forward ? S{middle.re, -middle.im} : S{middle.re + middle.re, -(middle.im + middle.im)};
+    middle =
+        forward ? S{middle.re, -middle.im} : S{middle.re + middle.re, -(middle.im + middle.im)};
     unroll<half>([&](auto j) __attribute__((always_inline)) {
-        if constexpr (j + 1 < half) z[count - 1 - j] = backwardAcross(back[j], back[(j + 1) % half]);
-        else z[count - 1 - j] = backwardAcross(back[j], middle);
+        if constexpr (j + 1 < half)
+            z[count - 1 - j] = backwardAcross(back[j], back[(j + 1) % half]);
+        else
+            z[count - 1 - j] = backwardAcross(back[j], middle);
     });
 }
 
@@ -63,8 +66,10 @@ template <class T, int order, bool scaled, class In, class Out>
 [[gnu::always_inline]] inline void twoPasses(In in, Out out, T scale) {
     constexpr int n = 1 << order, first = n / 4;
     Split<T, 16> w[n / Vec<T, 16>::lanes];
-    firstPass<T, 16, first>(in, Registers<T, false>{w}, n, first == 8 ? kEightPoint<T> : kRootHalf<T>);
-    laterPass<T, 16, 4, scaled>(Registers<T, false>{w}, out, n, first, kLastTwiddles<T, 16, first>.values, scale);
+    firstPass<T, 16, first>(in, Registers<T, false>{w}, n,
+                            first == 8 ? kEightPoint<T> : kRootHalf<T>);
+    laterPass<T, 16, 4, scaled>(Registers<T, false>{w}, out, n, first,
+                                kLastTwiddles<T, 16, first>.values, scale);
 }
 
 // Real transform of 2^order points to and from Perm form, order 5 or 6. src may be dst.
@@ -73,13 +78,19 @@ inline void realInRegisters(const FloatingRecord<T>& record, const T* src, T* ds
     constexpr int count = (1 << order) / 2 / Vec<T, 16>::lanes;
     Split<T, 16> z[count];
     if constexpr (direction == Direction::forward) {
-        twoPasses<T, order - 1, scaled>(Interleaved<const T, false>{src}, Registers<T, false>{z}, record.normFactor);
+        twoPasses<T, order - 1, scaled>(Interleaved<const T, false>{src}, Registers<T, false>{z},
+                                        record.normFactor);
         recombineRegisters<direction>(z, record.realTwiddleFwd.get());
-        unroll<count>([&](auto j) __attribute__((always_inline)) { storeSplit(dst + j * (32 / sizeof(T)), z[j]); });
+        unroll<count>([&](auto j) __attribute__((always_inline)) {
+            storeSplit(dst + j * (32 / sizeof(T)), z[j]);
+        });
     } else {
-        unroll<count>([&](auto j) __attribute__((always_inline)) { z[j] = loadSplit<T, 16>(src + j * (32 / sizeof(T))); });
+        unroll<count>([&](auto j) __attribute__((always_inline)) {
+            z[j] = loadSplit<T, 16>(src + j * (32 / sizeof(T)));
+        });
         recombineRegisters<direction>(z, record.realTwiddleInv.get());
-        twoPasses<T, order - 1, scaled>(Registers<T, true>{z}, Interleaved<T, true>{dst}, record.normFactor);
+        twoPasses<T, order - 1, scaled>(Registers<T, true>{z}, Interleaved<T, true>{dst},
+                                        record.normFactor);
     }
 }
 

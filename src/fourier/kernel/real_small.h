@@ -7,7 +7,8 @@
 
 namespace vlq::fft {
 
-// spectrum = DFT of x[0], x[stride], ... , decimated in time: X[k] = E[k] + w^k O[k] and its mirror.
+// spectrum = DFT of x[0], x[stride], ... , decimated in time: X[k] = E[k] + w^k O[k] and its
+// mirror.
 template <int order, int stride, class T>
 inline void realForward(const T* x, T* spectrum) {
     constexpr int n = 1 << order, half = n / 2;
@@ -25,7 +26,8 @@ inline void realForward(const T* x, T* spectrum) {
         }
 #pragma GCC unroll 8
         for (int k = 1; k < half / 2; ++k) {
-            const T c = static_cast<T>(kCosine128[k * (128 / n)]), s = static_cast<T>(kCosine128[32 - k * (128 / n)]);
+            const T c = static_cast<T>(kCosine128[k * (128 / n)]),
+                    s = static_cast<T>(kCosine128[32 - k * (128 / n)]);
             const T re = odd[2 * k] * c + odd[2 * k + 1] * s;
             const T im = odd[2 * k + 1] * c - odd[2 * k] * s;
             spectrum[2 * k] = even[2 * k] + re;
@@ -52,7 +54,8 @@ inline void realInverse(const T* spectrum, T* x) {
         }
 #pragma GCC unroll 8
         for (int k = 1; k < half / 2; ++k) {
-            const T c = static_cast<T>(kCosine128[k * (128 / n)]), s = static_cast<T>(kCosine128[32 - k * (128 / n)]);
+            const T c = static_cast<T>(kCosine128[k * (128 / n)]),
+                    s = static_cast<T>(kCosine128[32 - k * (128 / n)]);
             const T re = spectrum[2 * k] - spectrum[2 * (half - k)];
             const T im = spectrum[2 * k + 1] + spectrum[2 * (half - k) + 1];
             even[2 * k] = spectrum[2 * k] + spectrum[2 * (half - k)];

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "fourier/kernel/views.h"
-#include "fourier/plan/record.h"
+#include "fourier/plan/fft_plan.h"
 
 namespace vlq::fft {
 
@@ -19,18 +19,18 @@ void smallTransform(int order, const FloatingRecord<T>& record, In src, Out dst,
 
 // Self-sorting passes between `work` and `middle`.
 template <class T, class In, class Middle, class Out>
-void inCacheTransform(int order, const FloatingRecord<T>& record, In src, Middle work, Middle middle, Out dst,
-                      bool scaled);
+void inCacheTransform(int order, const FloatingRecord<T>& record, In src, Middle work,
+                      Middle middle, Out dst, bool scaled);
 
-// The rest of the passes of one row of 2^order values in groups of 2^spanBits, between row and work;
-// see plan/passes.h.
+// The rest of the passes of one row of 2^order values in groups of 2^spanBits, between row and
+// work; see plan/passes.h.
 template <class T, class Middle>
 void rowTransform(int order, int spanBits, const T* table, Middle row, Middle work);
 
 // Rows or phases of column transforms through `work`; inPlace says that src is the memory of dst.
 template <class T, class In, class Middle, class Out>
-void largeTransform(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work, bool inPlace,
-                    bool scaled);
+void largeTransform(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst,
+                    T* work, bool inPlace, bool scaled);
 
 // The views that transforms run on: forward and inverse interleaved, and split.
 template <class T>

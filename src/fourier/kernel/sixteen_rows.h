@@ -19,7 +19,8 @@ template <class T, int B, class Get>
     using S = Split<T, B>;
     for (int m = 0; m < 4; ++m) {
         for (int column = 0; column < columns; column += S::lanes) {
-            S a = get(m, column), b = get(m + 4, column), c = get(m + 8, column), d = get(m + 12, column);
+            S a = get(m, column), b = get(m + 4, column), c = get(m + 8, column),
+              d = get(m + 12, column);
             dft4(a, b, c, d);
             block.template put<B>(m * columns + column, a);
             block.template put<B>((m + 4) * columns + column, b);
@@ -32,12 +33,15 @@ template <class T, int B, class Get>
 // The second one; turn(column, b, c, d) may multiply values 1 to 3, put(q, column, value) takes
 // value q of the transform, eighth is the factor of the eight-point transform in it.
 template <class T, int B, class Turn, class Put>
-[[gnu::always_inline]] inline void secondStage(Blocks<T> block, int columns, T eighth, Turn&& turn, Put&& put) {
+[[gnu::always_inline]] inline void secondStage(Blocks<T> block, int columns, T eighth, Turn&& turn,
+                                               Put&& put) {
     using S = Split<T, B>;
     unroll<4>([&](auto q) __attribute__((always_inline)) {
         for (int column = 0; column < columns; column += S::lanes) {
-            S a = block.template get<B>(4 * q * columns + column), b = block.template get<B>((4 * q + 1) * columns + column),
-              c = block.template get<B>((4 * q + 2) * columns + column), d = block.template get<B>((4 * q + 3) * columns + column);
+            S a = block.template get<B>(4 * q * columns + column),
+              b = block.template get<B>((4 * q + 1) * columns + column),
+              c = block.template get<B>((4 * q + 2) * columns + column),
+              d = block.template get<B>((4 * q + 3) * columns + column);
             turnSixteenths<q, T, B>(b, c, d, eighth);
             turn(column, b, c, d);
             dft4(a, b, c, d);
@@ -61,24 +65,29 @@ void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T eighth, 
     const Blocks<T> block{work};
     const V factor = V::broadcast(scale);
     for (std::ptrdiff_t j = 0; j < length; j += 16) {
-        firstStage<T, B>(block, 16, [&](int row, int column) __attribute__((always_inline)) {
-            return times(src.template get<B>(row * length + j + column), factor);
-        });
+        firstStage<T, B>(
+            block, 16, [&](int row, int column) __attribute__((always_inline)) {
+                return times(src.template get<B>(row * length + j + column), factor);
+            });
         secondStage<T, B>(
             block, 16, eighth, [](int, S&, S&, S&) {},
-            [&](int q, int column, S v) __attribute__((always_inline)) { block.template put<B>(slotOf(q) * 16 + column, v); });
+            [&](int q, int column, S v) __attribute__((always_inline)) {
+                block.template put<B>(slotOf(q) * 16 + column, v);
+            });
         for (int column = 0; column < 16; column += lanes) {
             for (int first = 0; first < 16; first += lanes) {
                 V re[lanes], im[lanes];
                 unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                    const S v = block.template get<B>(slotOf(first + splitLane<T, B>(i)) * 16 + column);
+                    const S v =
+                        block.template get<B>(slotOf(first + splitLane<T, B>(i)) * 16 + column);
                     re[i] = v.re;
                     im[i] = v.im;
                 });
                 transpose(re);
                 transpose(im);
                 unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                    middle.template put<B>((column + splitLane<T, B>(i)) * length + j + first, S{re[i], im[i]});
+                    middle.template put<B>((column + splitLane<T, B>(i)) * length + j + first,
+                                           S{re[i], im[i]});
                 });
             }
         }
@@ -92,7 +101,8 @@ struct SixteenthPowers {
     [[gnu::always_inline]] Split<T, B> times(Split<T, B> v, int row, std::ptrdiff_t k) const {
         return row < 4 ? v : v * tableTwiddle<T, B>(table + 12 * k, row / 4 - 1);
     }
-    [[gnu::always_inline]] void turn(std::ptrdiff_t k, Split<T, B>& b, Split<T, B>& c, Split<T, B>& d) const {
+    [[gnu::always_inline]] void turn(std::ptrdiff_t k, Split<T, B>& b, Split<T, B>& c,
+                                     Split<T, B>& d) const {
         b = b * tableTwiddle<T, B>(table + 12 * k, 3);
         c = c * tableTwiddle<T, B>(table + 12 * k, 4);
         d = d * tableTwiddle<T, B>(table + 12 * k, 5);
@@ -109,19 +119,25 @@ void splitGroups(Middle row, std::ptrdiff_t length, std::ptrdiff_t span, const T
     for (std::ptrdiff_t j = 0; j < length; j += 16 * span) {
         for (std::ptrdiff_t k = 0; k < span; k += chunk) {
             const SixteenthPowers<T, B> powers{table + 12 * k};
-            firstStage<T, B>(block, columns, [&](int part, int column) __attribute__((always_inline)) {
-                const std::ptrdiff_t at = part * length + j + column / chunk * span + k + column % chunk;
-                return powers.times(row.template get<B>(at), part, column % chunk);
-            });
+            firstStage<T, B>(
+                block, columns, [&](int part, int column) __attribute__((always_inline)) {
+                    const std::ptrdiff_t at =
+                        part * length + j + column / chunk * span + k + column % chunk;
+                    return powers.times(row.template get<B>(at), part, column % chunk);
+                });
             secondStage<T, B>(
                 block, columns, kRootHalf<T>,
-                [&](int column, S& b, S& c, S& d) __attribute__((always_inline)) { powers.turn(column % chunk, b, c, d); },
-                [&](int q, int column, S v) __attribute__((always_inline)) { block.template put<B>(slotOf(q) * columns + column, v); });
+                [&](int column, S& b, S& c, S& d)
+                    __attribute__((always_inline)) { powers.turn(column % chunk, b, c, d); },
+                [&](int q, int column, S v) __attribute__((always_inline)) {
+                    block.template put<B>(slotOf(q) * columns + column, v);
+                });
             for (int group = 0; group < 16; ++group) {
                 for (int q = 0; q < 16; ++q) {
                     for (int i = 0; i < chunk; i += S::lanes) {
-                        row.template put<B>(group * length + j + q * span + k + i,
-                                            block.template get<B>(slotOf(q) * columns + group * chunk + i));
+                        row.template put<B>(
+                            group * length + j + q * span + k + i,
+                            block.template get<B>(slotOf(q) * columns + group * chunk + i));
                     }
                 }
             }
@@ -137,13 +153,17 @@ void joinRows(Middle middle, Out dst, std::ptrdiff_t length, const T* table, T* 
     const Blocks<T> block{work};
     for (std::ptrdiff_t k = 0; k < length; k += columns) {
         const SixteenthPowers<T, B> powers{table + 12 * k};
-        firstStage<T, B>(block, columns, [&](int row, int column) __attribute__((always_inline)) {
-            return powers.times(middle.template get<B>(row * length + k + column), row, column);
-        });
+        firstStage<T, B>(
+            block, columns, [&](int row, int column) __attribute__((always_inline)) {
+                return powers.times(middle.template get<B>(row * length + k + column), row, column);
+            });
         secondStage<T, B>(
             block, columns, kRootHalf<T>,
-            [&](int column, S& b, S& c, S& d) __attribute__((always_inline)) { powers.turn(column, b, c, d); },
-            [&](int q, int column, S v) __attribute__((always_inline)) { dst.template put<B>(q * length + k + column, v); });
+            [&](int column, S& b, S& c, S& d)
+                __attribute__((always_inline)) { powers.turn(column, b, c, d); },
+            [&](int q, int column, S v) __attribute__((always_inline)) {
+                dst.template put<B>(q * length + k + column, v);
+            });
     }
 }
 

@@ -1,5 +1,5 @@
-// Transforms of up to 32 values, interleaved ones of up to 128, straight-line: everything is read before anything is written, and
-// every factor is a literal.
+// Transforms of up to 32 values, interleaved ones of up to 128, straight-line: everything is read
+// before anything is written, and every factor is a literal.
 #pragma once
 
 #include "fourier/kernel/passes.h"
@@ -55,7 +55,9 @@ void straightLine(In src, Out dst, T scale) {
         } else if constexpr (order == 3) {
             dft8(x, kEightPoint<T>);
         }
-        unroll<n>([&](auto i) __attribute__((always_inline)) { dst.putOne(i, scaled ? times(x[i], scale) : x[i]); });
+        unroll<n>([&](auto i) __attribute__((always_inline)) {
+            dst.putOne(i, scaled ? times(x[i], scale) : x[i]);
+        });
     } else if constexpr (kIsInterleaved<In>) {
         transformInterleaved<T, order, In::kExchanged, scaled>(src.p, dst.p, scale);
     } else {
@@ -63,7 +65,8 @@ void straightLine(In src, Out dst, T scale) {
         constexpr int B = kVecBytes >= 32 && sizeof(T) == 8 ? 32 : 16;  // four lanes at most
         alignas(64) T w[2 * n];
         firstPass<T, B, first>(src, Blocks<T>{w}, n, kEightPoint<T>);
-        laterPass<T, B, 4, scaled>(Blocks<T>{w}, dst, n, first, kLastTwiddles<T, B, first>.values, scale);
+        laterPass<T, B, 4, scaled>(Blocks<T>{w}, dst, n, first, kLastTwiddles<T, B, first>.values,
+                                   scale);
     }
 }
 

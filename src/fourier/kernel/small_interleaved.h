@@ -15,7 +15,8 @@ namespace vlq::fft {
 template <class T, int rows, int columns, bool inverse>
 struct InnerTwiddles {
     alignas(64) T re[columns][2 * rows], im[columns][2 * rows];
-    alignas(64) T eighth[2 * rows], minusEighth[2 * rows];  // the factor of the eight-point transforms
+    alignas(64) T eighth[2 * rows],
+        minusEighth[2 * rows];  // the factor of the eight-point transforms
 };
 template <class T, int rows, int columns, bool inverse>
 constexpr InnerTwiddles<T, rows, columns, inverse> innerTwiddles() {
@@ -23,7 +24,8 @@ constexpr InnerTwiddles<T, rows, columns, inverse> innerTwiddles() {
     for (int j = 0; j < columns; ++j) {
         for (int q = 0; q < rows; ++q) {
             const int turn = j * q * (128 / (rows * columns));
-            const double sine = inverse ? -cosine128(turn + 32) : cosine128(turn + 32);  // minus the sine, forward
+            const double sine =
+                inverse ? -cosine128(turn + 32) : cosine128(turn + 32);  // minus the sine, forward
             t.re[j][2 * q] = t.re[j][2 * q + 1] = static_cast<T>(cosine128(turn));
             t.im[j][2 * q] = static_cast<T>(-sine);
             t.im[j][2 * q + 1] = static_cast<T>(sine);
@@ -36,10 +38,11 @@ constexpr InnerTwiddles<T, rows, columns, inverse> innerTwiddles() {
     return t;
 }
 template <class T, int rows, int columns, bool inverse>
-inline constexpr InnerTwiddles<T, rows, columns, inverse> kInnerTwiddles = innerTwiddles<T, rows, columns, inverse>();
+inline constexpr InnerTwiddles<T, rows, columns, inverse> kInnerTwiddles =
+    innerTwiddles<T, rows, columns, inverse>();
 
-// What makes (im, re) the product with -i forward, with i inverse: a factor, or the sign bits of one
-// in a build whose sums do not take a product with them.
+// What makes (im, re) the product with -i forward, with i inverse: a factor, or the sign bits of
+// one in a build whose sums do not take a product with them.
 template <class T>
 inline constexpr T kOneOrZero = kVecBytes == 16 ? T(0) : T(1);
 template <class T, bool inverse>
@@ -49,7 +52,8 @@ struct QuarterTurn {
 template <class T, bool inverse>
 constexpr QuarterTurn<T, inverse> quarterTurn() {
     QuarterTurn<T, inverse> t{};
-    for (int i = 0; i < static_cast<int>(64 / sizeof(T)); ++i) t.signs[i] = (i % 2 == 0) == inverse ? -kOneOrZero<T> : kOneOrZero<T>;
+    for (int i = 0; i < static_cast<int>(64 / sizeof(T)); ++i)
+        t.signs[i] = (i % 2 == 0) == inverse ? -kOneOrZero<T> : kOneOrZero<T>;
     return t;
 }
 template <class T, bool inverse>
@@ -65,19 +69,26 @@ struct Values {
     // a - i b and a + i b forward, exchanged inverse.
     static V signs() { return loadAligned<T, B>(kQuarterTurn<T, inverse>.signs); }
     friend Values minusI(Values a, Values b) {
-        if constexpr (kVecBytes == 16) return {a.v + (exchangeParts(b.v) ^ signs())};
-        else return {mulAdd(exchangeParts(b.v), signs(), a.v)};
+        if constexpr (kVecBytes == 16)
+            return {a.v + (exchangeParts(b.v) ^ signs())};
+        else
+            return {mulAdd(exchangeParts(b.v), signs(), a.v)};
     }
     friend Values plusI(Values a, Values b) {
-        if constexpr (kVecBytes == 16) return {a.v - (exchangeParts(b.v) ^ signs())};
-        else return {mulSubFrom(exchangeParts(b.v), signs(), a.v)};
+        if constexpr (kVecBytes == 16)
+            return {a.v - (exchangeParts(b.v) ^ signs())};
+        else
+            return {mulSubFrom(exchangeParts(b.v), signs(), a.v)};
     }
 };
 
 template <class T, int B, bool inverse>
-[[gnu::always_inline]] inline void dft(Values<T, B, inverse> (&x)[4], const T*, const T*) { dft4(x[0], x[1], x[2], x[3]); }
+[[gnu::always_inline]] inline void dft(Values<T, B, inverse> (&x)[4], const T*, const T*) {
+    dft4(x[0], x[1], x[2], x[3]);
+}
 template <class T, int B, bool inverse>
-[[gnu::always_inline]] inline void dft(Values<T, B, inverse> (&x)[8], const T* eighth, const T* minusEighth) {
+[[gnu::always_inline]] inline void dft(Values<T, B, inverse> (&x)[8], const T* eighth,
+                                       const T* minusEighth) {
     using F = Values<T, B, inverse>;
     dft4(x[0], x[2], x[4], x[6]);
     dft4(x[1], x[3], x[5], x[7]);
@@ -123,9 +134,11 @@ template <class T, int B, bool inverse>
         unroll<4>([&](auto q) __attribute__((always_inline)) {
             constexpr int p = m * q;
             const F v = x[m + 4 * q];
-            t[4 * q + m].v = p == 0 ? v.v
-                                    : mulAdd(v.v, loadAligned<T, B>(kSixteenths<T, inverse>.re[p]),
-                                             exchangeParts(v.v) * loadAligned<T, B>(kSixteenths<T, inverse>.im[p]));
+            t[4 * q + m].v =
+                p == 0
+                    ? v.v
+                    : mulAdd(v.v, loadAligned<T, B>(kSixteenths<T, inverse>.re[p]),
+                             exchangeParts(v.v) * loadAligned<T, B>(kSixteenths<T, inverse>.im[p]));
         });
     });
     unroll<4>([&](auto q) __attribute__((always_inline)) {
@@ -136,10 +149,11 @@ template <class T, int B, bool inverse>
 
 // Width of a register: up to four values, eight of 64 and 128 where they exist.
 template <class T, int order>
-inline constexpr int kSmallBytes = std::min(kVecBytes, (order < 6 ? 8 : 16) * static_cast<int>(sizeof(T)));
+inline constexpr int kSmallBytes = std::min(kVecBytes,
+                                            (order < 6 ? 8 : 16) * static_cast<int>(sizeof(T)));
 
-// 2^order values, order 4 to 7: get(i) gives value i and those behind it, put(i, vector) takes them.
-// All are read before the first is put.
+// 2^order values, order 4 to 7: get(i) gives value i and those behind it, put(i, vector) takes
+// them. All are read before the first is put.
 template <class T, int order, bool inverse, class Get, class Put>
 [[gnu::always_inline]] inline void transformRegisters(Get&& get, Put&& put) {
     constexpr int B = kSmallBytes<T, order>;
@@ -151,16 +165,22 @@ template <class T, int order, bool inverse, class Get, class Put>
     F z[columns][rows / count];
     unroll<columns / count>([&](auto part) __attribute__((always_inline)) {
         F y[rows];
-        unroll<rows>([&](auto p) __attribute__((always_inline)) { y[p].v = get(p * columns + part * count); });
+        unroll<rows>([&](auto p) __attribute__((always_inline)) {
+            y[p].v = get(p * columns + part * count);
+        });
         dft(y, twiddles.eighth, twiddles.minusEighth);
         unroll<rows / count>([&](auto group) __attribute__((always_inline)) {
             V block[count];
-            unroll<count>([&](auto i) __attribute__((always_inline)) { block[i] = y[group * count + i].v; });
+            unroll<count>([&](auto i) __attribute__((always_inline)) {
+                block[i] = y[group * count + i].v;
+            });
             transposeValues(block);
             unroll<count>([&](auto i) __attribute__((always_inline)) {
                 constexpr int j = part * count + i, first = 2 * group * count;
-                const V re = loadAligned<T, B>(twiddles.re[j] + first), im = loadAligned<T, B>(twiddles.im[j] + first);
-                z[j][group].v = j == 0 ? block[i] : mulAdd(block[i], re, exchangeParts(block[i]) * im);
+                const V re = loadAligned<T, B>(twiddles.re[j] + first),
+                        im = loadAligned<T, B>(twiddles.im[j] + first);
+                z[j][group].v =
+                    j == 0 ? block[i] : mulAdd(block[i], re, exchangeParts(block[i]) * im);
             });
         });
     });
@@ -168,7 +188,9 @@ template <class T, int order, bool inverse, class Get, class Put>
         F x[columns];
         unroll<columns>([&](auto j) __attribute__((always_inline)) { x[j] = z[j][group]; });
         dft(x, twiddles.eighth, twiddles.minusEighth);
-        unroll<columns>([&](auto k) __attribute__((always_inline)) { put(k * rows + group * count, x[k].v); });
+        unroll<columns>([&](auto k) __attribute__((always_inline)) {
+            put(k * rows + group * count, x[k].v);
+        });
     });
 }
 
@@ -180,7 +202,8 @@ template <class T, int order, bool inverse, bool scaled>
     const V factor = V::broadcast(scale);
     transformRegisters<T, order, inverse>(
         [&](int i) __attribute__((always_inline)) { return load<T, B>(src + 2 * i); },
-        [&](int i, V v) __attribute__((always_inline)) { store(dst + 2 * i, scaled ? v * factor : v); });
+        [&](int i, V v)
+            __attribute__((always_inline)) { store(dst + 2 * i, scaled ? v * factor : v); });
 }
 
 }  // namespace vlq::fft

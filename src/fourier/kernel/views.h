@@ -23,7 +23,9 @@ template <class T>
     return v;
 }
 template <class T>
-[[gnu::always_inline]] inline void putScalar(T* p, T v) { std::memcpy(p, &v, sizeof v); }
+[[gnu::always_inline]] inline void putScalar(T* p, T v) {
+    std::memcpy(p, &v, sizeof v);
+}
 
 // The caller's interleaved values; `exchanged` takes the parts of a value for one another.
 template <class P, bool exchanged>
@@ -49,15 +51,16 @@ struct Interleaved {
     }
 };
 
-// Between passes: a vector of real parts, then one of imaginary parts. `exchanged` as above, where a
-// transform's first pass reads what another has left like this. Opaque: each is loaded once, where
-// the compiler would load it again for each use and run out of loads a cycle.
+// Between passes: a vector of real parts, then one of imaginary parts. `exchanged` as above, where
+// a transform's first pass reads what another has left like this. Opaque: each is loaded once,
+// where the compiler would load it again for each use and run out of loads a cycle.
 template <class T, bool exchanged = false>
 struct Blocks {
     T* p;
     template <int B>
     [[gnu::always_inline]] Split<T, B> get(std::ptrdiff_t i) const {
-        const Split<T, B> v{opaque(load<T, B>(p + 2 * i)), opaque(load<T, B>(p + 2 * i + Vec<T, B>::lanes))};
+        const Split<T, B> v{opaque(load<T, B>(p + 2 * i)),
+                            opaque(load<T, B>(p + 2 * i + Vec<T, B>::lanes))};
         return exchanged ? Split<T, B>{v.im, v.re} : v;
     }
     template <int B>
@@ -83,7 +86,9 @@ struct Parts {
         store(re + i, fromSplitLanes(v.re));
         store(im + i, fromSplitLanes(v.im));
     }
-    [[gnu::always_inline]] Value<T> one(std::ptrdiff_t i) const { return {scalarAt(re + i), scalarAt(im + i)}; }
+    [[gnu::always_inline]] Value<T> one(std::ptrdiff_t i) const {
+        return {scalarAt(re + i), scalarAt(im + i)};
+    }
     [[gnu::always_inline]] void putOne(std::ptrdiff_t i, Value<T> v) const {
         putScalar(re + i, v.re);
         putScalar(im + i, v.im);

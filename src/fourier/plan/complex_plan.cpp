@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <bit>
 
-#include "fourier/plan/large.h"
-#include "fourier/plan/passes.h"
+#include "fourier/plan/fft_passes.h"
+#include "fourier/plan/row_plan.h"
 #include "frame/simd/split.h"
 
 namespace vlq::fft {
@@ -15,7 +15,8 @@ constexpr Vlq64s powerOfTwo(int exponent) { return Vlq64s{1} << exponent; }
 // The twiddles of the in-cache passes: one complex value an element, padded.
 template <class T>
 constexpr Vlq64s passTableBytes(int order) {
-    return roundDown(static_cast<Vlq64s>(2 * sizeof(T)) * powerOfTwo(order) + (sizeof(T) == 4 ? 71 : 79), 64);
+    return roundDown(
+        static_cast<Vlq64s>(2 * sizeof(T)) * powerOfTwo(order) + (sizeof(T) == 4 ? 71 : 79), 64);
 }
 template <class T>
 constexpr Vlq64s passWorkBytes(int order) {
@@ -39,7 +40,9 @@ constexpr Vlq64s quarterWaveBytes(int order) {
 
 template <class T>
 int splitLaneOf(int bytes, int lane) {
-    return bytes == 16 ? splitLane<T, 16>(lane) : bytes == 32 ? splitLane<T, 32>(lane) : splitLane<T, 64>(lane);
+    return bytes == 16   ? splitLane<T, 16>(lane)
+           : bytes == 32 ? splitLane<T, 32>(lane)
+                         : splitLane<T, 64>(lane);
 }
 
 // The twiddles of every pass after the first, in the order in which the pass reads them: for each
@@ -60,7 +63,8 @@ T* buildPassTable(const PassPlan& plan, int order, const SineTable<T>& sine, Cur
         next += 2 * lanes;
     };
     for (int pass = 0; pass < plan.count; ++pass) {
-        const int radix = plan.radix[pass], radixBits = std::countr_zero(static_cast<unsigned>(radix));
+        const int radix = plan.radix[pass],
+                  radixBits = std::countr_zero(static_cast<unsigned>(radix));
         const Vlq64s span = powerOfTwo(spanBits);
         for (Vlq64s k = 0; k < span; k += lanes) {
             if (radix == 16) {
@@ -106,7 +110,8 @@ T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor
     for (Vlq64s row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; column += lanes, next += 2 * lanes) {
             for (int lane = 0; lane < lanes; ++lane) {
-                const Twiddle<T> w = twiddle(sine, order, row * (column + splitLaneOf<T>(kVecBytes, lane)));
+                const Twiddle<T> w =
+                    twiddle(sine, order, row * (column + splitLaneOf<T>(kVecBytes, lane)));
                 next[lane] = w.re;
                 next[lanes + lane] = w.im;
             }
@@ -132,7 +137,8 @@ T* buildJoinTable(int order, const SineTable<T>& sine, Cursor& cursor) {
     for (Vlq64s k = 0; k < length; k += lanes) {
         for (const int power : {4, 8, 12, 1, 2, 3}) {
             for (int lane = 0; lane < lanes; ++lane) {
-                const Twiddle<T> w = twiddle(sine, order, power * (k + splitLaneOf<T>(kVecBytes, lane)));
+                const Twiddle<T> w =
+                    twiddle(sine, order, power * (k + splitLaneOf<T>(kVecBytes, lane)));
                 next[lane] = w.re;
                 next[lanes + lane] = w.im;
             }
@@ -143,7 +149,8 @@ T* buildJoinTable(int order, const SineTable<T>& sine, Cursor& cursor) {
 }
 
 template <class T>
-void buildLargeTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
+void buildLargeTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
+                      Cursor& cursor) {
     if (order <= kLastSplitTwice<T>) {
         const int splits = order <= kLastSplitOnce<T> ? 1 : 2, rowOrder = order - 4 * splits;
         record.twiddleTable = buildPassTable(rowPlan(rowOrder, 4 * splits), rowOrder, sine, cursor);
@@ -155,7 +162,8 @@ void buildLargeTables(FloatingRecord<T>& record, int order, const SineTable<T>& 
         return;
     }
     const LargePlan plan = largePlan(order);
-    T* const factors = cursor.take<T>(2 * (columnTwiddles(plan.outer) + columnTwiddles(plan.middle)), kTableAlignment);
+    T* const factors = cursor.take<T>(
+        2 * (columnTwiddles(plan.outer) + columnTwiddles(plan.middle)), kTableAlignment);
     buildColumnTable(plan.outer, sine, factors);
     buildColumnTable(plan.middle, sine, factors + 2 * columnTwiddles(plan.outer));
     record.twiddleTable = factors;
@@ -190,7 +198,8 @@ template <class T>
 PlanSizes largeSizes(int order) {
     constexpr Vlq64s value = 2 * sizeof(T);
     PlanSizes sizes{};
-    sizes.spec = order <= ComplexLimits<T>::plainReversal ? plainReversalBytes(order) : tiledReversalBytes<T>(order);
+    sizes.spec = order <= ComplexLimits<T>::plainReversal ? plainReversalBytes(order)
+                                                          : tiledReversalBytes<T>(order);
     int level = order;
     while (level > ComplexLimits<T>::inCache) {
         const Level step = levelOf<T>(level);
@@ -211,7 +220,8 @@ PlanSizes complexSizes(int order) {
     if (order <= Limits::straightLine) return {sizeof(T) == 4 ? 148 : 152, 0, 0};
     PlanSizes sizes = order > Limits::inCache
                           ? largeSizes<T>(order)
-                          : PlanSizes{passTableBytes<T>(order) + plainReversalBytes(order), 0, passWorkBytes<T>(order)};
+                          : PlanSizes{passTableBytes<T>(order) + plainReversalBytes(order), 0,
+                                      passWorkBytes<T>(order)};
     sizes.spec += 192;
     sizes.work += 64;
     if (order > kConstantSineOrder) sizes.init = quarterWaveBytes<T>(order) + 64;
@@ -219,18 +229,23 @@ PlanSizes complexSizes(int order) {
 }
 
 template <class T>
-void buildComplexTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
+void buildComplexTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
+                        Cursor& cursor) {
     using Limits = ComplexLimits<T>;
     record.workBytes = 0;
     if (order <= Limits::straightLine) return;
     record.workBytes = static_cast<Vlq32s>(complexSizes<T>(order).work - 64);
-    if (order > Limits::inCache) buildLargeTables<T>(record, order, sine, cursor);
-    else record.twiddleTable = buildPassTable<T>(passPlan<T>(order), order, sine, cursor);
+    if (order > Limits::inCache)
+        buildLargeTables<T>(record, order, sine, cursor);
+    else
+        record.twiddleTable = buildPassTable<T>(passPlan<T>(order), order, sine, cursor);
 }
 
 template PlanSizes complexSizes<Vlq32f>(int);
 template PlanSizes complexSizes<Vlq64f>(int);
-template void buildComplexTables<Vlq32f>(FloatingRecord<Vlq32f>&, int, const SineTable<Vlq32f>&, Cursor&);
-template void buildComplexTables<Vlq64f>(FloatingRecord<Vlq64f>&, int, const SineTable<Vlq64f>&, Cursor&);
+template void buildComplexTables<Vlq32f>(FloatingRecord<Vlq32f>&, int, const SineTable<Vlq32f>&,
+                                         Cursor&);
+template void buildComplexTables<Vlq64f>(FloatingRecord<Vlq64f>&, int, const SineTable<Vlq64f>&,
+                                         Cursor&);
 
 }  // namespace vlq::fft

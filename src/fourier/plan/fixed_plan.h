@@ -49,12 +49,13 @@ inline constexpr Vlq64s kFixedHeader = 128;  // a header and its alignment
 // of the floating values in the work buffer, is16; a 16-bit one also integerWork(). Sizes that do
 // not fit, at the largest orders, wrap.
 template <class Kind>
-VlqStatus fixedGetSize(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes, Vlq32s* initBytes,
-                       Vlq32s* workBytes) {
+VlqStatus fixedGetSize(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
+                       Vlq32s* initBytes, Vlq32s* workBytes) {
     using Float = typename Kind::Float;
     Vlq32s spec = 0, init = 0, work = 0;
     const bool pointers = specBytes && initBytes && workBytes;
-    const VlqStatus status = Float::getSize(order, flag, vlqHintNone, pointers ? &spec : nullptr, &init, &work);
+    const VlqStatus status =
+        Float::getSize(order, flag, vlqHintNone, pointers ? &spec : nullptr, &init, &work);
     if (status != vlqStsOk) return status;
     PlanSizes sizes{spec + kFixedHeader, init, work + Kind::dataBytes(order) + 64};
     if constexpr (Kind::is16) {
@@ -63,7 +64,8 @@ VlqStatus fixedGetSize(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specByte
             sizes = {116, 0, 0};
         } else if (runsInIntegers(order, hint)) {
             // What tables of twiddles and of a bit reversal for eight values would take.
-            sizes = {64 * (Kind::isReal ? 3 : 2) + kFixedHeader, 128, Kind::integerWork(order) + 64};
+            sizes = {64 * (Kind::isReal ? 3 : 2) + kFixedHeader, 128,
+                     Kind::integerWork(order) + 64};
         }
     } else if (init > 0) {
         sizes.init += 64;
@@ -85,8 +87,8 @@ void setShifts(Spec& spec, int order, Vlq32s flag) {
 }
 
 template <class Kind>
-VlqStatus fixedInit(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem,
-                    Vlq8u* initBuf) {
+VlqStatus fixedInit(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
+                    Vlq8u* specMem, Vlq8u* initBuf) {
     using Float = typename Kind::Float;
     using Spec = typename Kind::Spec;
     if (!outSpec) return vlqStsNullPtr;

@@ -2,8 +2,8 @@
 // kinds.
 #pragma once
 
-#include "fourier/plan/record.h"
-#include "vlqs/fourier.h"
+#include "fourier/plan/fft_plan.h"
+#include "vlqs/fft.h"
 
 // The split kinds have the interleaved record under a word of their own.
 struct vlq::VlqsFFTSpec_C_32fc : vlq::fft::FloatingRecord<Vlq32f> {};

@@ -5,14 +5,15 @@
 #include <cstring>
 #include <new>
 
-#include "fourier/plan/normalisation.h"
-#include "fourier/plan/record.h"
-#include "fourier/plan/sine.h"
+#include "fourier/plan/fft_plan.h"
+#include "fourier/plan/normalization.h"
+#include "fourier/plan/twiddles.h"
 
 namespace vlq::fft {
 
 template <class Kind>
-VlqStatus getSize(Vlq32s order, Vlq32s flag, Vlq32s* specBytes, Vlq32s* initBytes, Vlq32s* workBytes) {
+VlqStatus getSize(Vlq32s order, Vlq32s flag, Vlq32s* specBytes, Vlq32s* initBytes,
+                  Vlq32s* workBytes) {
     if (static_cast<Vlq32u>(order) > 30) return vlqStsBadOrder;
     if (!specBytes || !initBytes || !workBytes) return vlqStsNullPtr;
     if (!isNormalisation(flag)) return vlqStsBadFlag;
@@ -25,7 +26,8 @@ VlqStatus getSize(Vlq32s order, Vlq32s flag, Vlq32s* specBytes, Vlq32s* initByte
 }
 
 template <class Kind>
-VlqStatus init(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, Vlq8u* specMem, Vlq8u* initBuf) {
+VlqStatus init(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
+               Vlq8u* specMem, Vlq8u* initBuf) {
     using T = typename Kind::Element;
     using Spec = typename Kind::Spec;
     if (!outSpec) return vlqStsNullPtr;
@@ -47,8 +49,8 @@ VlqStatus init(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint
 
 // A record in a block of its own, by the size query and the init call of its kind.
 template <class Spec, class GetSize, class Init>
-VlqStatus allocateAndInit(Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint, GetSize getSizeOfKind,
-                          Init initOfKind) {
+VlqStatus allocateAndInit(Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
+                          GetSize getSizeOfKind, Init initOfKind) {
     if (!outSpec) return vlqStsNullPtr;
     Vlq32s specBytes, initBytes, workBytes;
     VlqStatus status = getSizeOfKind(order, flag, hint, &specBytes, &initBytes, &workBytes);
@@ -62,8 +64,10 @@ VlqStatus allocateAndInit(Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hin
     }
     status = initOfKind(outSpec, order, flag, hint, block, scratch);
     if (scratch) vlqsFree(scratch);
-    if (status == vlqStsOk) (*outSpec)->owned = 1;
-    else vlqsFree(block);
+    if (status == vlqStsOk)
+        (*outSpec)->owned = 1;
+    else
+        vlqsFree(block);
     return status;
 }
 

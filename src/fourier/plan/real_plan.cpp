@@ -41,7 +41,8 @@ PlanSizes realSizes(int order) {
 }
 
 template <class T>
-void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor) {
+void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
+                     Cursor& cursor) {
     using Limits = RealLimits<T>;
     record.workBytes = 0;
     if (order <= Limits::straightLine) return;
@@ -81,7 +82,8 @@ void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& s
     auto build = [&] {
         T* table = cursor.take<T>(2 * (fine + coarse), kTableAlignment);
         fillGroups<kVecBytes>(table, 1, fine, plainFactor);
-        for (Vlq64s b = 0; b < coarse; ++b) plainFactor(fine * b, table[2 * (fine + b)], table[2 * (fine + b) + 1]);
+        for (Vlq64s b = 0; b < coarse; ++b)
+            plainFactor(fine * b, table[2 * (fine + b)], table[2 * (fine + b) + 1]);
         return table;
     };
     record.realTwiddleFwd = build();
@@ -90,7 +92,9 @@ void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& s
 
 template PlanSizes realSizes<Vlq32f>(int);
 template PlanSizes realSizes<Vlq64f>(int);
-template void buildRealTables<Vlq32f>(FloatingRecord<Vlq32f>&, int, const SineTable<Vlq32f>&, Cursor&);
-template void buildRealTables<Vlq64f>(FloatingRecord<Vlq64f>&, int, const SineTable<Vlq64f>&, Cursor&);
+template void buildRealTables<Vlq32f>(FloatingRecord<Vlq32f>&, int, const SineTable<Vlq32f>&,
+                                      Cursor&);
+template void buildRealTables<Vlq64f>(FloatingRecord<Vlq64f>&, int, const SineTable<Vlq64f>&,
+                                      Cursor&);
 
 }  // namespace vlq::fft

@@ -2,8 +2,8 @@
 // turn its spectrum into the real signal's.
 #pragma once
 
-#include "fourier/plan/record.h"
-#include "fourier/plan/sine.h"
+#include "fourier/plan/fft_plan.h"
+#include "fourier/plan/twiddles.h"
 #include "frame/simd/split.h"
 
 namespace vlq::fft {
@@ -17,8 +17,9 @@ struct RealLimits<Vlq32f> {
     static constexpr int straightLine = 4;   // up to here no table at all
     static constexpr int inRegisters = 6;    // up to here all values stay in registers
     static constexpr int complexTables = 7;  // from here the half-length transform needs tables
-    static constexpr int twoLevel = 19;      // from here factors are products of a coarse and a fine one
-    static constexpr int fineOrder = 10;     // log2 of the number of fine factors
+    static constexpr int twoLevel =
+        19;  // from here factors are products of a coarse and a fine one
+    static constexpr int fineOrder = 10;  // log2 of the number of fine factors
 };
 template <>
 struct RealLimits<Vlq64f> {
@@ -40,6 +41,7 @@ PlanSizes realSizes(int order);
 
 // Builds all tables of a real record behind the cursor and points the record at them.
 template <class T>
-void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine, Cursor& cursor);
+void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
+                     Cursor& cursor);
 
 }  // namespace vlq::fft

@@ -1,4 +1,5 @@
-// Does any element of a vector satisfy a condition? The condition sees vectors and gives lane masks.
+// Does any element of a vector satisfy a condition? The condition sees vectors and gives lane
+// masks.
 #pragma once
 
 #include "frame/loop/map.h"
@@ -9,11 +10,13 @@ template <class T, class Condition>
 inline bool anyOf(const T* src, std::ptrdiff_t len, Condition condition) {
     constexpr int lanes = Vec<T>::lanes;
     if (len < lanes) {
-        return any(condition(loadPartial(src, static_cast<int>(len))) & ~detail::unusedLanes<BitsOf<T>>(len));
+        return any(condition(loadPartial(src, static_cast<int>(len))) &
+                   ~detail::unusedLanes<BitsOf<T>>(len));
     }
     // The last vector may overlap the one before.
     auto found = condition(load(src + len - lanes));
-    for (std::ptrdiff_t i = 0; i + lanes <= len; i += lanes) found = found | condition(load(src + i));
+    for (std::ptrdiff_t i = 0; i + lanes <= len; i += lanes)
+        found = found | condition(load(src + i));
     return any(found);
 }
 
@@ -24,7 +27,8 @@ template <class Op, class Condition, class Mask>
 class Watching {
 public:
     static constexpr bool kMarkUnused = true;
-    Watching(Op op, Condition condition, Mask* found) : op_(op), condition_(condition), found_(found) {}
+    Watching(Op op, Condition condition, Mask* found)
+        : op_(op), condition_(condition), found_(found) {}
     ~Watching() { *found_ = *found_ | seen_; }
     Watching(const Watching&) = default;
     Watching& operator=(const Watching&) = delete;

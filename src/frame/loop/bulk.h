@@ -64,9 +64,11 @@ inline Word loadWord(const Byte* p) {
     return w;
 }
 template <class Word>
-inline void storeWord(Byte* p, Word w) { std::memcpy(p, &w, sizeof(Word)); }
+inline void storeWord(Byte* p, Word w) {
+    std::memcpy(p, &w, sizeof(Word));
+}
 
-// ---- copy ----------------------------------------------------------------------------------
+// ---- copy ---------------------------------------------------------------------------------------
 
 // n from sizeof(Word) to twice that: two words that may overlap.
 template <class Word>
@@ -90,7 +92,8 @@ template <int B, int N>
         const auto second = load<Byte, B>(src + B), lastButOne = load<Byte, B>(srcEnd - 2 * B);
         if constexpr (N == 4) {
             const auto third = load<Byte, B>(src + 2 * B), fourth = load<Byte, B>(src + 3 * B);
-            const auto lastButTwo = load<Byte, B>(srcEnd - 3 * B), lastButThree = load<Byte, B>(srcEnd - 4 * B);
+            const auto lastButTwo = load<Byte, B>(srcEnd - 3 * B),
+                       lastButThree = load<Byte, B>(srcEnd - 4 * B);
             store(dst + 2 * B, third);
             store(dst + 3 * B, fourth);
             store(dstEnd - 3 * B, lastButTwo);
@@ -228,15 +231,20 @@ inline void copyLong(Byte* dst, const Byte* src, std::size_t n) {
 // More than kShort bytes, any overlap.
 inline void moveLong(Byte* dst, const Byte* src, std::size_t n) {
     using namespace detail;
-    const std::uintptr_t above = reinterpret_cast<std::uintptr_t>(dst) - reinterpret_cast<std::uintptr_t>(src);
+    const std::uintptr_t above =
+        reinterpret_cast<std::uintptr_t>(dst) - reinterpret_cast<std::uintptr_t>(src);
     if (above == 0) return;
-    if (above >= n && 0 - above >= n) copyLong(dst, src, n);
-    else if (kCLibraryIsWider) std::memmove(dst, src, n);
-    else if (above < n) copyDownwards(dst, src, n);
-    else copyUpwards(dst, src, n);
+    if (above >= n && 0 - above >= n)
+        copyLong(dst, src, n);
+    else if (kCLibraryIsWider)
+        std::memmove(dst, src, n);
+    else if (above < n)
+        copyDownwards(dst, src, n);
+    else
+        copyUpwards(dst, src, n);
 }
 
-// ---- fill ----------------------------------------------------------------------------------
+// ---- fill ---------------------------------------------------------------------------------------
 
 // A value of 1, 2, 4 or 8 bytes, or a complex one of 16, over and over; every bit is kept.
 template <class T>
@@ -293,7 +301,8 @@ inline void fillTwoWords(Byte* dst, std::size_t n, std::uint64_t pattern) {
 namespace detail {
 
 template <class Put>
-[[gnu::always_inline]] inline void fillVectors(Byte* dst, Byte* end, Bytes<kVecBytes> pattern, Put put) {
+[[gnu::always_inline]] inline void fillVectors(Byte* dst, Byte* end, Bytes<kVecBytes> pattern,
+                                               Put put) {
     constexpr int B = kVecBytes;
     const Four four = {pattern, pattern, pattern, pattern};
     for (; end - dst > 4 * B; dst += 4 * B) storeFour(dst, four, put);
@@ -311,8 +320,10 @@ inline void fillLong(Byte* dst, std::size_t n, Vec<Byte> pattern) {
         std::memset(dst, pattern[0], n);
         return;
     }
-    if (kCLibraryIsWider && Period <= 4 && n < kFillByWords && reinterpret_cast<std::uintptr_t>(dst) % sizeof(wchar_t) == 0) {
-        std::wmemset(reinterpret_cast<wchar_t*>(dst), bitCast<wchar_t>(pattern)[0], n / sizeof(wchar_t));
+    if (kCLibraryIsWider && Period <= 4 && n < kFillByWords &&
+        reinterpret_cast<std::uintptr_t>(dst) % sizeof(wchar_t) == 0) {
+        std::wmemset(reinterpret_cast<wchar_t*>(dst), bitCast<wchar_t>(pattern)[0],
+                     n / sizeof(wchar_t));
         store(dst + n - B, pattern);  // two bytes may be left over
         return;
     }

@@ -16,7 +16,9 @@ namespace detail {
 template <class... T>
 inline constexpr int kNarrowest = [] {
     int narrowest = 64;
-    ((narrowest = static_cast<int>(sizeof(T)) < narrowest ? static_cast<int>(sizeof(T)) : narrowest), ...);
+    ((narrowest =
+          static_cast<int>(sizeof(T)) < narrowest ? static_cast<int>(sizeof(T)) : narrowest),
+     ...);
     return narrowest;
 }();
 
@@ -31,7 +33,8 @@ inline Block<T, N> loadBlockPartial(const T* p, int count) {
     constexpr int lanes = Vec<T>::lanes;
     Block<T, N> block;
     for (int i = 0; i < N; ++i, count -= lanes) {
-        block.part[i] = count <= 0 ? Vec<T>::zero() : loadPartial<T>(p + i * lanes, count < lanes ? count : lanes);
+        block.part[i] = count <= 0 ? Vec<T>::zero()
+                                   : loadPartial<T>(p + i * lanes, count < lanes ? count : lanes);
     }
     return block;
 }
@@ -44,15 +47,18 @@ inline Vec<T> unusedLanes(std::ptrdiff_t count) {
 }
 template <class T, int N>
 inline Block<T, N> markUnused(Block<T, N> block, int count) {
-    for (int i = 0; i < N; ++i) block.part[i] = block.part[i] | unusedLanes<T>(count - i * Vec<T>::lanes);
+    for (int i = 0; i < N; ++i)
+        block.part[i] = block.part[i] | unusedLanes<T>(count - i * Vec<T>::lanes);
     return block;
 }
 
 template <Stores stores, class T, int N>
 inline void storeBlock(T* p, const Block<T, N>& block) {
     for (int i = 0; i < N; ++i) {
-        if constexpr (stores == Stores::Streaming) stream(p + i * Vec<T>::lanes, block.part[i]);
-        else store(p + i * Vec<T>::lanes, block.part[i]);
+        if constexpr (stores == Stores::Streaming)
+            stream(p + i * Vec<T>::lanes, block.part[i]);
+        else
+            store(p + i * Vec<T>::lanes, block.part[i]);
     }
 }
 template <class T, int N>
@@ -78,8 +84,10 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     auto partial = [&](int n) {
         const auto read = [&]<class T>(const T* p) {
             const auto block = detail::loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
-            if constexpr (requires { Op::kMarkUnused; }) return detail::markUnused(block, n);
-            else return block;
+            if constexpr (requires { Op::kMarkUnused; })
+                return detail::markUnused(block, n);
+            else
+                return block;
         };
         const auto result = op(read(src)...);
         detail::storeBlockPartial<D, dstParts>(dst, result, n);
@@ -103,14 +111,16 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     while (len >= unroll * count) {
 #pragma GCC unroll 4
         for (int u = 0; u < unroll; ++u) {
-            const auto result = hot(detail::loadBlock<S, count / Vec<S>::lanes>(src + u * count)...);
+            const auto result =
+                hot(detail::loadBlock<S, count / Vec<S>::lanes>(src + u * count)...);
             detail::storeBlock<stores, D, dstParts>(dst + u * count, result);
         }
         advance(unroll * count);
     }
     if constexpr (stores == Stores::Streaming) streamFence();
     while (len >= count) {
-        detail::storeBlock<Stores::Ordinary, D, dstParts>(dst, hot(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
+        detail::storeBlock<Stores::Ordinary, D, dstParts>(
+            dst, hot(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
         advance(count);
     }
     if (len > 0) partial(static_cast<int>(len));
@@ -120,7 +130,9 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
 template <int group = 1, Stores stores = Stores::Ordinary, class D, class Op, class... S>
 inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     static_assert(((sizeof(S) == sizeof(D)) && ...));
-    mapBlocks<group, stores>(dst, len, [op](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; }, src...);
+    mapBlocks<group, stores>(
+        dst, len, [op](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; },
+        src...);
 }
 
 // One element at a time, for operations that no vector instruction serves: dst[i] = op(src[i]...).

@@ -8,10 +8,11 @@ namespace vlq {
 
 namespace detail {
 
-// The bytes [low, high), whose mirror image is the same range, in steps of a vector of B bytes from both ends; leaves a middle of less
-// than B bytes.
+// The bytes [low, high), whose mirror image is the same range, in steps of a vector of B bytes from
+// both ends; leaves a middle of less than B bytes.
 template <int Size, int B>
-inline void reverseEnds(unsigned char* dst, const unsigned char* src, std::ptrdiff_t& low, std::ptrdiff_t& high) {
+inline void reverseEnds(unsigned char* dst, const unsigned char* src, std::ptrdiff_t& low,
+                        std::ptrdiff_t& high) {
     using Bytes = Vec<unsigned char, B>;
     const auto swapEnds = [&](std::ptrdiff_t step) {
         const Bytes first = load<unsigned char, B>(src + low);

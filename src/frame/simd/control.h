@@ -31,7 +31,8 @@ private:
         __m128 a = _mm_setr_ps(1.0f, 1.0f, 0x1p-149f, 0.0f);
         asm volatile("" : "+x"(a));
         const __m128 sum = _mm_add_ps(a, _mm_setr_ps(0x1p-25f, 0x3p-25f, 0.0f, 0.0f));
-        const __m128i expected = _mm_castps_si128(_mm_setr_ps(1.0f, 1.0f + 0x1p-23f, 0x1p-149f, 0.0f));
+        const __m128i expected =
+            _mm_castps_si128(_mm_setr_ps(1.0f, 1.0f + 0x1p-23f, 0x1p-149f, 0.0f));
         return _mm_movemask_epi8(_mm_cmpeq_epi32(_mm_castps_si128(sum), expected)) == 0xFFFF;
     }
 

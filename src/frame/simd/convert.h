@@ -7,23 +7,27 @@
 
 namespace vlq {
 
-// ---- integers to integers of twice the width -----------------------------------------------------
+// ---- integers to integers of twice the width ----------------------------------------------------
 #if VLQ_SIMD_BYTES == 16
 inline Block<std::int16_t, 2> widen(Vec<std::int8_t> v) {
     const __m128i x = asInt(v), sign = _mm_cmpgt_epi8(_mm_setzero_si128(), x);
-    return {{fromRegister<std::int16_t>(_mm_unpacklo_epi8(x, sign)), fromRegister<std::int16_t>(_mm_unpackhi_epi8(x, sign))}};
+    return {{fromRegister<std::int16_t>(_mm_unpacklo_epi8(x, sign)),
+             fromRegister<std::int16_t>(_mm_unpackhi_epi8(x, sign))}};
 }
 inline Block<std::uint16_t, 2> widen(Vec<std::uint8_t> v) {
     const __m128i x = asInt(v), zero = _mm_setzero_si128();
-    return {{fromRegister<std::uint16_t>(_mm_unpacklo_epi8(x, zero)), fromRegister<std::uint16_t>(_mm_unpackhi_epi8(x, zero))}};
+    return {{fromRegister<std::uint16_t>(_mm_unpacklo_epi8(x, zero)),
+             fromRegister<std::uint16_t>(_mm_unpackhi_epi8(x, zero))}};
 }
 inline Block<std::int32_t, 2> widen(Vec<std::int16_t> v) {
     const __m128i x = asInt(v), sign = _mm_srai_epi16(x, 15);
-    return {{fromRegister<std::int32_t>(_mm_unpacklo_epi16(x, sign)), fromRegister<std::int32_t>(_mm_unpackhi_epi16(x, sign))}};
+    return {{fromRegister<std::int32_t>(_mm_unpacklo_epi16(x, sign)),
+             fromRegister<std::int32_t>(_mm_unpackhi_epi16(x, sign))}};
 }
 inline Block<std::uint32_t, 2> widen(Vec<std::uint16_t> v) {
     const __m128i x = asInt(v), zero = _mm_setzero_si128();
-    return {{fromRegister<std::uint32_t>(_mm_unpacklo_epi16(x, zero)), fromRegister<std::uint32_t>(_mm_unpackhi_epi16(x, zero))}};
+    return {{fromRegister<std::uint32_t>(_mm_unpacklo_epi16(x, zero)),
+             fromRegister<std::uint32_t>(_mm_unpackhi_epi16(x, zero))}};
 }
 inline Block<std::int32_t, 4> widenTwice(Vec<std::int8_t> v) {
     const auto words = widen(v);
@@ -53,23 +57,35 @@ inline Block<Wide, 2> widenHalves(Vec<T> v) {
     return {{fromRegister<Wide>(extend(lowHalf(v))), fromRegister<Wide>(extend(highHalf(v)))}};
 }
 }  // namespace detail
-inline Block<std::int16_t, 2> widen(Vec<std::int8_t> v) { return detail::widenHalves<std::int16_t>(v); }
-inline Block<std::uint16_t, 2> widen(Vec<std::uint8_t> v) { return detail::widenHalves<std::uint16_t>(v); }
-inline Block<std::int32_t, 2> widen(Vec<std::int16_t> v) { return detail::widenHalves<std::int32_t>(v); }
-inline Block<std::uint32_t, 2> widen(Vec<std::uint16_t> v) { return detail::widenHalves<std::uint32_t>(v); }
+inline Block<std::int16_t, 2> widen(Vec<std::int8_t> v) {
+    return detail::widenHalves<std::int16_t>(v);
+}
+inline Block<std::uint16_t, 2> widen(Vec<std::uint8_t> v) {
+    return detail::widenHalves<std::uint16_t>(v);
+}
+inline Block<std::int32_t, 2> widen(Vec<std::int16_t> v) {
+    return detail::widenHalves<std::int32_t>(v);
+}
+inline Block<std::uint32_t, 2> widen(Vec<std::uint16_t> v) {
+    return detail::widenHalves<std::uint32_t>(v);
+}
 
 #if VLQ_SIMD_BYTES == 32
 inline Block<std::int32_t, 4> widenTwice(Vec<std::int8_t> v) {
     const __m128i low = asInt(lowHalf(v)), high = asInt(highHalf(v));
     using T = std::int32_t;
-    return {{fromRegister<T>(_mm256_cvtepi8_epi32(low)), fromRegister<T>(_mm256_cvtepi8_epi32(_mm_srli_si128(low, 8))),
-             fromRegister<T>(_mm256_cvtepi8_epi32(high)), fromRegister<T>(_mm256_cvtepi8_epi32(_mm_srli_si128(high, 8)))}};
+    return {{fromRegister<T>(_mm256_cvtepi8_epi32(low)),
+             fromRegister<T>(_mm256_cvtepi8_epi32(_mm_srli_si128(low, 8))),
+             fromRegister<T>(_mm256_cvtepi8_epi32(high)),
+             fromRegister<T>(_mm256_cvtepi8_epi32(_mm_srli_si128(high, 8)))}};
 }
 inline Block<std::uint32_t, 4> widenTwice(Vec<std::uint8_t> v) {
     const __m128i low = asInt(lowHalf(v)), high = asInt(highHalf(v));
     using T = std::uint32_t;
-    return {{fromRegister<T>(_mm256_cvtepu8_epi32(low)), fromRegister<T>(_mm256_cvtepu8_epi32(_mm_srli_si128(low, 8))),
-             fromRegister<T>(_mm256_cvtepu8_epi32(high)), fromRegister<T>(_mm256_cvtepu8_epi32(_mm_srli_si128(high, 8)))}};
+    return {{fromRegister<T>(_mm256_cvtepu8_epi32(low)),
+             fromRegister<T>(_mm256_cvtepu8_epi32(_mm_srli_si128(low, 8))),
+             fromRegister<T>(_mm256_cvtepu8_epi32(high)),
+             fromRegister<T>(_mm256_cvtepu8_epi32(_mm_srli_si128(high, 8)))}};
 }
 #else
 inline Block<std::int32_t, 4> widenTwice(Vec<std::int8_t> v) {
@@ -91,7 +107,7 @@ inline Block<std::uint32_t, 4> widenTwice(Vec<std::uint8_t> v) {
 #endif
 #endif
 
-// ---- integers to integers of half the width, saturating ------------------------------------------
+// ---- integers to integers of half the width, saturating -----------------------------------------
 namespace detail {
 // The packs of the wider builds work in lanes of 16 bytes; this puts their 8-byte pieces in order.
 #if VLQ_SIMD_BYTES == 16
@@ -109,7 +125,9 @@ inline __m128i packUnsignedWords(__m128i a, __m128i b) {
 // Bytes that were packed from words that were packed from integers.
 inline __m128i inOrderTwice(__m128i packed) { return packed; }
 #elif VLQ_SIMD_BYTES == 32
-inline __m256i inOrder(__m256i packed) { return _mm256_permute4x64_epi64(packed, _MM_SHUFFLE(3, 1, 2, 0)); }
+inline __m256i inOrder(__m256i packed) {
+    return _mm256_permute4x64_epi64(packed, _MM_SHUFFLE(3, 1, 2, 0));
+}
 inline __m256i packWords(__m256i a, __m256i b) { return _mm256_packs_epi32(a, b); }
 inline __m256i packBytes(__m256i a, __m256i b) { return _mm256_packs_epi16(a, b); }
 inline __m256i packUnsignedBytes(__m256i a, __m256i b) { return _mm256_packus_epi16(a, b); }
@@ -126,44 +144,50 @@ inline __m512i packBytes(__m512i a, __m512i b) { return _mm512_packs_epi16(a, b)
 inline __m512i packUnsignedBytes(__m512i a, __m512i b) { return _mm512_packus_epi16(a, b); }
 inline __m512i packUnsignedWords(__m512i a, __m512i b) { return _mm512_packus_epi32(a, b); }
 inline __m512i inOrderTwice(__m512i packed) {
-    return _mm512_permutexvar_epi32(_mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15), packed);
+    return _mm512_permutexvar_epi32(
+        _mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15), packed);
 }
 #endif
 }  // namespace detail
 
 template <class To>
-    requires(sizeof(To) == 2)
-inline Vec<To> narrowSat(Block<std::int32_t, 2> v) {
+requires(sizeof(To) == 2) inline Vec<To> narrowSat(Block<std::int32_t, 2> v) {
     const auto a = asInt(v.part[0]), b = asInt(v.part[1]);
-    if constexpr (std::is_signed_v<To>) return fromRegister<To>(detail::inOrder(detail::packWords(a, b)));
-    else return fromRegister<To>(detail::inOrder(detail::packUnsignedWords(a, b)));
+    if constexpr (std::is_signed_v<To>)
+        return fromRegister<To>(detail::inOrder(detail::packWords(a, b)));
+    else
+        return fromRegister<To>(detail::inOrder(detail::packUnsignedWords(a, b)));
 }
 template <class To>
-    requires(sizeof(To) == 1)
-inline Vec<To> narrowSat(Block<std::int16_t, 2> v) {
+requires(sizeof(To) == 1) inline Vec<To> narrowSat(Block<std::int16_t, 2> v) {
     const auto a = asInt(v.part[0]), b = asInt(v.part[1]);
-    if constexpr (std::is_signed_v<To>) return fromRegister<To>(detail::inOrder(detail::packBytes(a, b)));
-    else return fromRegister<To>(detail::inOrder(detail::packUnsignedBytes(a, b)));
+    if constexpr (std::is_signed_v<To>)
+        return fromRegister<To>(detail::inOrder(detail::packBytes(a, b)));
+    else
+        return fromRegister<To>(detail::inOrder(detail::packUnsignedBytes(a, b)));
 }
 template <class To>
-    requires(sizeof(To) == 1)
-inline Vec<To> narrowSat(Block<std::int32_t, 4> v) {
+requires(sizeof(To) == 1) inline Vec<To> narrowSat(Block<std::int32_t, 4> v) {
     const auto low = detail::packWords(asInt(v.part[0]), asInt(v.part[1]));
     const auto high = detail::packWords(asInt(v.part[2]), asInt(v.part[3]));
-    if constexpr (std::is_signed_v<To>) return fromRegister<To>(detail::inOrderTwice(detail::packBytes(low, high)));
-    else return fromRegister<To>(detail::inOrderTwice(detail::packUnsignedBytes(low, high)));
+    if constexpr (std::is_signed_v<To>)
+        return fromRegister<To>(detail::inOrderTwice(detail::packBytes(low, high)));
+    else
+        return fromRegister<To>(detail::inOrderTwice(detail::packUnsignedBytes(low, high)));
 }
 
-// ---- 32-bit integers and floats ---------------------------------------------------------------------
+// ---- 32-bit integers and floats -----------------------------------------------------------------
 // Rounding of float results is the control word's.
 #if VLQ_SIMD_BYTES == 16
 inline Vec<float> toFloat(Vec<std::int32_t> v) { return Vec<float>(_mm_cvtepi32_ps(asInt(v))); }
 inline Block<double, 2> toDouble(Vec<std::int32_t> v) {
     const __m128i x = asInt(v);
-    return {{Vec<double>(_mm_cvtepi32_pd(x)), Vec<double>(_mm_cvtepi32_pd(_mm_unpackhi_epi64(x, x)))}};
+    return {
+        {Vec<double>(_mm_cvtepi32_pd(x)), Vec<double>(_mm_cvtepi32_pd(_mm_unpackhi_epi64(x, x)))}};
 }
 inline Block<double, 2> toDouble(Vec<float> v) {
-    return {{Vec<double>(_mm_cvtps_pd(v.raw)), Vec<double>(_mm_cvtps_pd(_mm_movehl_ps(v.raw, v.raw)))}};
+    return {
+        {Vec<double>(_mm_cvtps_pd(v.raw)), Vec<double>(_mm_cvtps_pd(_mm_movehl_ps(v.raw, v.raw)))}};
 }
 inline Vec<float> toFloat(Block<double, 2> v) {
     return Vec<float>(_mm_movelh_ps(_mm_cvtpd_ps(v.part[0].raw), _mm_cvtpd_ps(v.part[1].raw)));
@@ -171,21 +195,26 @@ inline Vec<float> toFloat(Block<double, 2> v) {
 #elif VLQ_SIMD_BYTES == 32
 inline Vec<float> toFloat(Vec<std::int32_t> v) { return Vec<float>(_mm256_cvtepi32_ps(asInt(v))); }
 inline Block<double, 2> toDouble(Vec<std::int32_t> v) {
-    return {{Vec<double>(_mm256_cvtepi32_pd(asInt(lowHalf(v)))), Vec<double>(_mm256_cvtepi32_pd(asInt(highHalf(v))))}};
+    return {{Vec<double>(_mm256_cvtepi32_pd(asInt(lowHalf(v)))),
+             Vec<double>(_mm256_cvtepi32_pd(asInt(highHalf(v))))}};
 }
 inline Block<double, 2> toDouble(Vec<float> v) {
-    return {{Vec<double>(_mm256_cvtps_pd(lowHalf(v).raw)), Vec<double>(_mm256_cvtps_pd(highHalf(v).raw))}};
+    return {{Vec<double>(_mm256_cvtps_pd(lowHalf(v).raw)),
+             Vec<double>(_mm256_cvtps_pd(highHalf(v).raw))}};
 }
 inline Vec<float> toFloat(Block<double, 2> v) {
-    return Vec<float>(_mm256_set_m128(_mm256_cvtpd_ps(v.part[1].raw), _mm256_cvtpd_ps(v.part[0].raw)));
+    return Vec<float>(
+        _mm256_set_m128(_mm256_cvtpd_ps(v.part[1].raw), _mm256_cvtpd_ps(v.part[0].raw)));
 }
 #else
 inline Vec<float> toFloat(Vec<std::int32_t> v) { return Vec<float>(_mm512_cvtepi32_ps(asInt(v))); }
 inline Block<double, 2> toDouble(Vec<std::int32_t> v) {
-    return {{Vec<double>(_mm512_cvtepi32_pd(asInt(lowHalf(v)))), Vec<double>(_mm512_cvtepi32_pd(asInt(highHalf(v))))}};
+    return {{Vec<double>(_mm512_cvtepi32_pd(asInt(lowHalf(v)))),
+             Vec<double>(_mm512_cvtepi32_pd(asInt(highHalf(v))))}};
 }
 inline Block<double, 2> toDouble(Vec<float> v) {
-    return {{Vec<double>(_mm512_cvtps_pd(lowHalf(v).raw)), Vec<double>(_mm512_cvtps_pd(highHalf(v).raw))}};
+    return {{Vec<double>(_mm512_cvtps_pd(lowHalf(v).raw)),
+             Vec<double>(_mm512_cvtps_pd(highHalf(v).raw))}};
 }
 inline Vec<float> toFloat(Block<double, 2> v) {
     const Vec<float, 32> low(_mm512_cvtpd_ps(v.part[0].raw)), high(_mm512_cvtpd_ps(v.part[1].raw));
@@ -193,7 +222,7 @@ inline Vec<float> toFloat(Block<double, 2> v) {
 }
 #endif
 
-// ---- floats to integers ---------------------------------------------------------------------------------
+// ---- floats to integers -------------------------------------------------------------------------
 // Out of range, and not a number: the most negative integer. toZero drops the fraction; toNearest
 // takes the even one of two equally near; toNearestAway the one farther from zero. The latter two
 // rest on nearest rounding in the control word, except where the build writes the rounding into
@@ -201,22 +230,34 @@ inline Vec<float> toFloat(Block<double, 2> v) {
 inline constexpr bool kRoundingInInstruction = VLQ_SIMD_BYTES == 64;
 
 #if VLQ_SIMD_BYTES == 16
-inline Vec<std::int32_t> toNearest(Vec<float> v) { return fromRegister<std::int32_t>(_mm_cvtps_epi32(v.raw)); }
-inline Vec<std::int32_t> toZero(Vec<float> v) { return fromRegister<std::int32_t>(_mm_cvttps_epi32(v.raw)); }
+inline Vec<std::int32_t> toNearest(Vec<float> v) {
+    return fromRegister<std::int32_t>(_mm_cvtps_epi32(v.raw));
+}
+inline Vec<std::int32_t> toZero(Vec<float> v) {
+    return fromRegister<std::int32_t>(_mm_cvttps_epi32(v.raw));
+}
 inline Vec<std::int32_t> toNearest(Block<double, 2> v) {
-    return fromRegister<std::int32_t>(_mm_unpacklo_epi64(_mm_cvtpd_epi32(v.part[0].raw), _mm_cvtpd_epi32(v.part[1].raw)));
+    return fromRegister<std::int32_t>(
+        _mm_unpacklo_epi64(_mm_cvtpd_epi32(v.part[0].raw), _mm_cvtpd_epi32(v.part[1].raw)));
 }
 inline Vec<std::int32_t> toZero(Block<double, 2> v) {
-    return fromRegister<std::int32_t>(_mm_unpacklo_epi64(_mm_cvttpd_epi32(v.part[0].raw), _mm_cvttpd_epi32(v.part[1].raw)));
+    return fromRegister<std::int32_t>(
+        _mm_unpacklo_epi64(_mm_cvttpd_epi32(v.part[0].raw), _mm_cvttpd_epi32(v.part[1].raw)));
 }
 #elif VLQ_SIMD_BYTES == 32
-inline Vec<std::int32_t> toNearest(Vec<float> v) { return fromRegister<std::int32_t>(_mm256_cvtps_epi32(v.raw)); }
-inline Vec<std::int32_t> toZero(Vec<float> v) { return fromRegister<std::int32_t>(_mm256_cvttps_epi32(v.raw)); }
+inline Vec<std::int32_t> toNearest(Vec<float> v) {
+    return fromRegister<std::int32_t>(_mm256_cvtps_epi32(v.raw));
+}
+inline Vec<std::int32_t> toZero(Vec<float> v) {
+    return fromRegister<std::int32_t>(_mm256_cvttps_epi32(v.raw));
+}
 inline Vec<std::int32_t> toNearest(Block<double, 2> v) {
-    return fromRegister<std::int32_t>(_mm256_set_m128i(_mm256_cvtpd_epi32(v.part[1].raw), _mm256_cvtpd_epi32(v.part[0].raw)));
+    return fromRegister<std::int32_t>(
+        _mm256_set_m128i(_mm256_cvtpd_epi32(v.part[1].raw), _mm256_cvtpd_epi32(v.part[0].raw)));
 }
 inline Vec<std::int32_t> toZero(Block<double, 2> v) {
-    return fromRegister<std::int32_t>(_mm256_set_m128i(_mm256_cvttpd_epi32(v.part[1].raw), _mm256_cvttpd_epi32(v.part[0].raw)));
+    return fromRegister<std::int32_t>(
+        _mm256_set_m128i(_mm256_cvttpd_epi32(v.part[1].raw), _mm256_cvttpd_epi32(v.part[0].raw)));
 }
 #else
 namespace detail {
@@ -225,10 +266,13 @@ inline constexpr int kNearest = _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC;
 inline Vec<std::int32_t> toNearest(Vec<float> v) {
     return fromRegister<std::int32_t>(_mm512_cvt_roundps_epi32(v.raw, detail::kNearest));
 }
-inline Vec<std::int32_t> toZero(Vec<float> v) { return fromRegister<std::int32_t>(_mm512_cvttps_epi32(v.raw)); }
+inline Vec<std::int32_t> toZero(Vec<float> v) {
+    return fromRegister<std::int32_t>(_mm512_cvttps_epi32(v.raw));
+}
 inline Vec<std::int32_t> toNearest(Block<double, 2> v) {
-    return joinHalves(fromRegister<std::int32_t>(_mm512_cvt_roundpd_epi32(v.part[0].raw, detail::kNearest)),
-                      fromRegister<std::int32_t>(_mm512_cvt_roundpd_epi32(v.part[1].raw, detail::kNearest)));
+    return joinHalves(
+        fromRegister<std::int32_t>(_mm512_cvt_roundpd_epi32(v.part[0].raw, detail::kNearest)),
+        fromRegister<std::int32_t>(_mm512_cvt_roundpd_epi32(v.part[1].raw, detail::kNearest)));
 }
 inline Vec<std::int32_t> toZero(Block<double, 2> v) {
     return joinHalves(fromRegister<std::int32_t>(_mm512_cvttpd_epi32(v.part[0].raw)),
@@ -238,14 +282,17 @@ inline Vec<std::int32_t> toZero(Block<double, 2> v) {
 
 namespace detail {
 // The largest value below one half, with the sign of v. Added to v it reaches the next integer
-// from every tie on and from nothing below one, where one half itself would round up from 0.49999997.
+// from every tie on and from nothing below one, where one half itself would round up from
+// 0.49999997.
 template <class T>
 inline Vec<T> plusAlmostHalf(Vec<T> v) {
     constexpr T almostHalf = T(0.5) - std::numeric_limits<T>::epsilon() / 4;
     const Vec<T> offset = Vec<T>::broadcast(almostHalf) | (v & Vec<T>::broadcast(T(-0.0)));
 #if VLQ_SIMD_BYTES == 64
-    if constexpr (sizeof(T) == 4) return Vec<T>(_mm512_add_round_ps(v.raw, offset.raw, kNearest));
-    else return Vec<T>(_mm512_add_round_pd(v.raw, offset.raw, kNearest));
+    if constexpr (sizeof(T) == 4)
+        return Vec<T>(_mm512_add_round_ps(v.raw, offset.raw, kNearest));
+    else
+        return Vec<T>(_mm512_add_round_pd(v.raw, offset.raw, kNearest));
 #else
     return v + offset;
 #endif
@@ -253,7 +300,8 @@ inline Vec<T> plusAlmostHalf(Vec<T> v) {
 }  // namespace detail
 inline Vec<std::int32_t> toNearestAway(Vec<float> v) { return toZero(detail::plusAlmostHalf(v)); }
 inline Vec<std::int32_t> toNearestAway(Block<double, 2> v) {
-    return toZero(Block<double, 2>{{detail::plusAlmostHalf(v.part[0]), detail::plusAlmostHalf(v.part[1])}});
+    return toZero(
+        Block<double, 2>{{detail::plusAlmostHalf(v.part[0]), detail::plusAlmostHalf(v.part[1])}});
 }
 
 }  // namespace vlq

@@ -22,11 +22,13 @@ inline Vec<float> upperHalfToFloat(Vec<std::int32_t> half) {
     // Exponent 31 stands for infinity and not-a-number: it becomes 255, and the latter quiet.
     const I isSpecial = magnitude > I::broadcast(0x0F7FFFFF);
     const I isNaN = magnitude > I::broadcast(0x0F800000);
-    const I normal = (magnitude + rebias + (isSpecial & rebias)) | (isNaN & I::broadcast(0x00400000));
+    const I normal =
+        (magnitude + rebias + (isSpecial & rebias)) | (isNaN & I::broadcast(0x00400000));
     // A subnormal's fraction goes below the leading one of 2^-14, which is then taken off: exact.
     const I isSmall = magnitude < I::broadcast(1 << 23);
     const Vec<float> least = Vec<float>::broadcast(0x1p-14f);
-    const I small = bitCast<std::int32_t>(absolute(bitCast<float>(magnitude | bitCast<std::int32_t>(least)) - least));
+    const I small = bitCast<std::int32_t>(
+        absolute(bitCast<float>(magnitude | bitCast<std::int32_t>(least)) - least));
     return bitCast<float>(select(isSmall, small, normal) | sign);
 }
 
@@ -40,7 +42,8 @@ inline Vec<std::int32_t> floatToLowerHalf(Vec<float> v) {
     const Vec<float> top = Vec<float>::broadcast(kNearest ? 65536.0f : 65504.0f);
     I normal = bitCast<std::int32_t>(minimum(a, top)) - I::broadcast((127 - 15) << 23);
     // Thirteen bits go; a carry runs on into the exponent.
-    if (kNearest) normal = normal + I::broadcast(0xFFF) + (shiftRight(normal, 13) & I::broadcast(1));
+    if (kNearest)
+        normal = normal + I::broadcast(0xFFF) + (shiftRight(normal, 13) & I::broadcast(1));
     normal = shiftRight(normal, 13);
     if (!kNearest) normal = normal - (magnitude == I::broadcast(0x7F800000));
     // Below 2^-14 halves are the multiples of 2^-24.
@@ -63,15 +66,17 @@ inline Block<float, 2> halfToFloat(Vec<std::uint16_t> half) {
 }
 template <bool kNearest>
 inline Vec<std::uint16_t> floatToHalf(Block<float, 2> v) {
-    return bitCast<std::uint16_t>(narrowSat<std::int16_t>(Block<std::int32_t, 2>{
-        {detail::floatToLowerHalf<kNearest>(v.part[0]), detail::floatToLowerHalf<kNearest>(v.part[1])}}));
+    return bitCast<std::uint16_t>(narrowSat<std::int16_t>(
+        Block<std::int32_t, 2>{{detail::floatToLowerHalf<kNearest>(v.part[0]),
+                                detail::floatToLowerHalf<kNearest>(v.part[1])}}));
 }
 
 #elif VLQ_SIMD_BYTES == 32
 inline constexpr bool kHalfUsesControlWord = false;
 
 inline Block<float, 2> halfToFloat(Vec<std::uint16_t> half) {
-    return {{Vec<float>(_mm256_cvtph_ps(asInt(lowHalf(half)))), Vec<float>(_mm256_cvtph_ps(asInt(highHalf(half))))}};
+    return {{Vec<float>(_mm256_cvtph_ps(asInt(lowHalf(half)))),
+             Vec<float>(_mm256_cvtph_ps(asInt(highHalf(half))))}};
 }
 template <bool kNearest>
 inline Vec<std::uint16_t> floatToHalf(Block<float, 2> v) {
@@ -84,11 +89,13 @@ inline Vec<std::uint16_t> floatToHalf(Block<float, 2> v) {
 inline constexpr bool kHalfUsesControlWord = false;
 
 inline Block<float, 2> halfToFloat(Vec<std::uint16_t> half) {
-    return {{Vec<float>(_mm512_cvtph_ps(asInt(lowHalf(half)))), Vec<float>(_mm512_cvtph_ps(asInt(highHalf(half))))}};
+    return {{Vec<float>(_mm512_cvtph_ps(asInt(lowHalf(half)))),
+             Vec<float>(_mm512_cvtph_ps(asInt(highHalf(half))))}};
 }
 template <bool kNearest>
 inline Vec<std::uint16_t> floatToHalf(Block<float, 2> v) {
-    constexpr int mode = (kNearest ? _MM_FROUND_TO_NEAREST_INT : _MM_FROUND_TO_ZERO) | _MM_FROUND_NO_EXC;
+    constexpr int mode =
+        (kNearest ? _MM_FROUND_TO_NEAREST_INT : _MM_FROUND_TO_ZERO) | _MM_FROUND_NO_EXC;
     return joinHalves(fromRegister<std::uint16_t>(_mm512_cvtps_ph(v.part[0].raw, mode)),
                       fromRegister<std::uint16_t>(_mm512_cvtps_ph(v.part[1].raw, mode)));
 }

@@ -17,9 +17,12 @@ inline Vec<std::int32_t> narrowSat(Block<std::int64_t, 2> v) {
     const V low = bitCast<std::int32_t>(Vec<float>(_mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0))));
     const V high = bitCast<std::int32_t>(Vec<float>(_mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1))));
 #else
-    const __m256 a = _mm256_castsi256_ps(asInt(v.part[0])), b = _mm256_castsi256_ps(asInt(v.part[1]));
-    const V low = bitCast<std::int32_t>(Vec<float>(_mm256_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0))));
-    const V high = bitCast<std::int32_t>(Vec<float>(_mm256_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1))));
+    const __m256 a = _mm256_castsi256_ps(asInt(v.part[0])),
+                 b = _mm256_castsi256_ps(asInt(v.part[1]));
+    const V low =
+        bitCast<std::int32_t>(Vec<float>(_mm256_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0))));
+    const V high =
+        bitCast<std::int32_t>(Vec<float>(_mm256_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1))));
 #endif
     const V limit = shiftRight(high, 31) ^ V::broadcast(std::numeric_limits<std::int32_t>::max());
     const V result = select(shiftRight(low, 31) == high, low, limit);
@@ -40,8 +43,10 @@ inline Vec<double> toDouble(Vec<std::int64_t> v) {
     // difference is exact, so one rounding remains.
     using I = Vec<std::int64_t>;
     const I low = (v & I::broadcast(0xFFFFFFFF)) | I::broadcast(0x4330000000000000);
-    const I high = bitCast<std::int64_t>(shiftRight(bitCast<std::uint64_t>(v), 32)) ^ I::broadcast(0x4530000080000000);
-    const Vec<double> sum = bitCast<double>(high) - Vec<double>::broadcast(0x1p84 + 0x1p63 + 0x1p52) + bitCast<double>(low);
+    const I high = bitCast<std::int64_t>(shiftRight(bitCast<std::uint64_t>(v), 32)) ^
+                   I::broadcast(0x4530000080000000);
+    const Vec<double> sum = bitCast<double>(high) -
+                            Vec<double>::broadcast(0x1p84 + 0x1p63 + 0x1p52) + bitCast<double>(low);
     // Rounding down makes -0 of 0: the sign is the integer's.
     return sum & bitCast<double>(v | I::broadcast(std::numeric_limits<std::int64_t>::max()));
 #endif
@@ -53,7 +58,9 @@ inline Vec<double> toDouble(Vec<std::int64_t> v) {
 inline Vec<std::int64_t> toNearest64(Vec<double> v) {
     return fromRegister<std::int64_t>(_mm512_cvt_roundpd_epi64(v.raw, detail::kNearest));
 }
-inline Vec<std::int64_t> toZero64(Vec<double> v) { return fromRegister<std::int64_t>(_mm512_cvttpd_epi64(v.raw)); }
+inline Vec<std::int64_t> toZero64(Vec<double> v) {
+    return fromRegister<std::int64_t>(_mm512_cvttpd_epi64(v.raw));
+}
 #else
 // One lane at a time: as fast as splitting a double into words.
 inline Vec<std::int64_t> toNearest64(Vec<double> v) {
@@ -67,6 +74,8 @@ inline Vec<std::int64_t> toZero64(Vec<double> v) {
     return result;
 }
 #endif
-inline Vec<std::int64_t> toNearestAway64(Vec<double> v) { return toZero64(detail::plusAlmostHalf(v)); }
+inline Vec<std::int64_t> toNearestAway64(Vec<double> v) {
+    return toZero64(detail::plusAlmostHalf(v));
+}
 
 }  // namespace vlq

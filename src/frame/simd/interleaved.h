@@ -1,5 +1,5 @@
-// Vectors of interleaved complex values (re, im, re, im ...), where that is shorter than to take the
-// parts asunder.
+// Vectors of interleaved complex values (re, im, re, im ...), where that is shorter than to take
+// the parts asunder.
 #pragma once
 
 #include "frame/simd/transpose.h"
@@ -7,15 +7,27 @@
 namespace vlq {
 
 // (im, re) for each value. The integer shuffle spares a copy: it does not overwrite its operand.
-inline Vec<float, 16> exchangeParts(Vec<float, 16> v) { return fromRegister<float>(_mm_shuffle_epi32(asInt(v), 0xB1)); }
-inline Vec<double, 16> exchangeParts(Vec<double, 16> v) { return fromRegister<double>(_mm_shuffle_epi32(asInt(v), 0x4E)); }
+inline Vec<float, 16> exchangeParts(Vec<float, 16> v) {
+    return fromRegister<float>(_mm_shuffle_epi32(asInt(v), 0xB1));
+}
+inline Vec<double, 16> exchangeParts(Vec<double, 16> v) {
+    return fromRegister<double>(_mm_shuffle_epi32(asInt(v), 0x4E));
+}
 #if VLQ_SIMD_BYTES >= 32
-inline Vec<float, 32> exchangeParts(Vec<float, 32> v) { return Vec<float, 32>(_mm256_permute_ps(v.raw, 0xB1)); }
-inline Vec<double, 32> exchangeParts(Vec<double, 32> v) { return Vec<double, 32>(_mm256_permute_pd(v.raw, 0x5)); }
+inline Vec<float, 32> exchangeParts(Vec<float, 32> v) {
+    return Vec<float, 32>(_mm256_permute_ps(v.raw, 0xB1));
+}
+inline Vec<double, 32> exchangeParts(Vec<double, 32> v) {
+    return Vec<double, 32>(_mm256_permute_pd(v.raw, 0x5));
+}
 #endif
 #if VLQ_SIMD_BYTES >= 64
-inline Vec<float, 64> exchangeParts(Vec<float, 64> v) { return Vec<float, 64>(_mm512_permute_ps(v.raw, 0xB1)); }
-inline Vec<double, 64> exchangeParts(Vec<double, 64> v) { return Vec<double, 64>(_mm512_permute_pd(v.raw, 0x55)); }
+inline Vec<float, 64> exchangeParts(Vec<float, 64> v) {
+    return Vec<float, 64>(_mm512_permute_ps(v.raw, 0xB1));
+}
+inline Vec<double, 64> exchangeParts(Vec<double, 64> v) {
+    return Vec<double, 64>(_mm512_permute_pd(v.raw, 0x55));
+}
 #endif
 
 // The first value of `next`, then those of v from its last to its second: where v and next are
@@ -28,7 +40,8 @@ inline Vec<double, 32> valuesBackwardAcross(Vec<double, 32> v, Vec<double, 32> n
 #endif
 #if VLQ_SIMD_BYTES >= 64
 inline Vec<double, 64> valuesBackwardAcross(Vec<double, 64> v, Vec<double, 64> next) {
-    return Vec<double, 64>(_mm512_permutex2var_pd(next.raw, _mm512_setr_epi64(0, 1, 14, 15, 12, 13, 10, 11), v.raw));
+    return Vec<double, 64>(
+        _mm512_permutex2var_pd(next.raw, _mm512_setr_epi64(0, 1, 14, 15, 12, 13, 10, 11), v.raw));
 }
 #endif
 
@@ -42,7 +55,8 @@ inline void transposeValues(Vec<float, 16> (&m)[2]) {
 }
 #if VLQ_SIMD_BYTES >= 32
 inline void transposeValues(Vec<float, 32> (&m)[4]) {
-    Vec<double, 32> pairs[4] = {bitCast<double>(m[0]), bitCast<double>(m[1]), bitCast<double>(m[2]), bitCast<double>(m[3])};
+    Vec<double, 32> pairs[4] = {bitCast<double>(m[0]), bitCast<double>(m[1]), bitCast<double>(m[2]),
+                                bitCast<double>(m[3])};
     transpose(pairs);
 #pragma GCC unroll 4
     for (int i = 0; i < 4; ++i) m[i] = bitCast<float>(pairs[i]);
@@ -63,8 +77,10 @@ inline void transposeValues(Vec<float, 64> (&m)[8]) {
     for (int i = 0; i < 8; ++i) m[i] = bitCast<float>(pairs[i]);
 }
 inline void transposeValues(Vec<double, 64> (&m)[4]) {
-    const __m512d a = _mm512_shuffle_f64x2(m[0].raw, m[1].raw, 0x44), b = _mm512_shuffle_f64x2(m[0].raw, m[1].raw, 0xEE);
-    const __m512d c = _mm512_shuffle_f64x2(m[2].raw, m[3].raw, 0x44), d = _mm512_shuffle_f64x2(m[2].raw, m[3].raw, 0xEE);
+    const __m512d a = _mm512_shuffle_f64x2(m[0].raw, m[1].raw, 0x44),
+                  b = _mm512_shuffle_f64x2(m[0].raw, m[1].raw, 0xEE);
+    const __m512d c = _mm512_shuffle_f64x2(m[2].raw, m[3].raw, 0x44),
+                  d = _mm512_shuffle_f64x2(m[2].raw, m[3].raw, 0xEE);
     m[0].raw = _mm512_shuffle_f64x2(a, c, 0x88);
     m[1].raw = _mm512_shuffle_f64x2(a, c, 0xDD);
     m[2].raw = _mm512_shuffle_f64x2(b, d, 0x88);

@@ -8,13 +8,17 @@
 
 namespace vlq {
 
-// ---- minimum, maximum ------------------------------------------------------------------------
+// ---- minimum, maximum ---------------------------------------------------------------------------
 // For floats the second operand is the answer when either is not a number (the hardware's rule,
 // which several families rest on).
 template <class T, int B>
-inline Vec<T, B> minimum(Vec<T, B> a, Vec<T, B> b) { return select(a < b, a, b); }
+inline Vec<T, B> minimum(Vec<T, B> a, Vec<T, B> b) {
+    return select(a < b, a, b);
+}
 template <class T, int B>
-inline Vec<T, B> maximum(Vec<T, B> a, Vec<T, B> b) { return select(a > b, a, b); }
+inline Vec<T, B> maximum(Vec<T, B> a, Vec<T, B> b) {
+    return select(a > b, a, b);
+}
 
 using Float4 = Vec<float, 16>;
 using Double2 = Vec<double, 16>;
@@ -39,7 +43,7 @@ inline Double8 minimum(Double8 a, Double8 b) { return Double8(_mm512_min_pd(a.ra
 inline Double8 maximum(Double8 a, Double8 b) { return Double8(_mm512_max_pd(a.raw, b.raw)); }
 #endif
 
-// ---- fused where the build has it --------------------------------------------------------------
+// ---- fused where the build has it ---------------------------------------------------------------
 // a * b + c: one rounding in the builds with FMA, two without. For results whose last bit the
 // manual leaves open.
 inline Float4 mulAdd(Float4 a, Float4 b, Float4 c) {
@@ -87,24 +91,48 @@ inline Double2 mulSub(Double2 a, Double2 b, Double2 c) {
 #endif
 }
 #if VLQ_SIMD_BYTES >= 32
-inline Float8 mulAdd(Float8 a, Float8 b, Float8 c) { return Float8(_mm256_fmadd_ps(a.raw, b.raw, c.raw)); }
-inline Double4 mulAdd(Double4 a, Double4 b, Double4 c) { return Double4(_mm256_fmadd_pd(a.raw, b.raw, c.raw)); }
-inline Float8 mulSubFrom(Float8 a, Float8 b, Float8 c) { return Float8(_mm256_fnmadd_ps(a.raw, b.raw, c.raw)); }
-inline Double4 mulSubFrom(Double4 a, Double4 b, Double4 c) { return Double4(_mm256_fnmadd_pd(a.raw, b.raw, c.raw)); }
-inline Float8 mulSub(Float8 a, Float8 b, Float8 c) { return Float8(_mm256_fmsub_ps(a.raw, b.raw, c.raw)); }
-inline Double4 mulSub(Double4 a, Double4 b, Double4 c) { return Double4(_mm256_fmsub_pd(a.raw, b.raw, c.raw)); }
+inline Float8 mulAdd(Float8 a, Float8 b, Float8 c) {
+    return Float8(_mm256_fmadd_ps(a.raw, b.raw, c.raw));
+}
+inline Double4 mulAdd(Double4 a, Double4 b, Double4 c) {
+    return Double4(_mm256_fmadd_pd(a.raw, b.raw, c.raw));
+}
+inline Float8 mulSubFrom(Float8 a, Float8 b, Float8 c) {
+    return Float8(_mm256_fnmadd_ps(a.raw, b.raw, c.raw));
+}
+inline Double4 mulSubFrom(Double4 a, Double4 b, Double4 c) {
+    return Double4(_mm256_fnmadd_pd(a.raw, b.raw, c.raw));
+}
+inline Float8 mulSub(Float8 a, Float8 b, Float8 c) {
+    return Float8(_mm256_fmsub_ps(a.raw, b.raw, c.raw));
+}
+inline Double4 mulSub(Double4 a, Double4 b, Double4 c) {
+    return Double4(_mm256_fmsub_pd(a.raw, b.raw, c.raw));
+}
 #endif
 #if VLQ_SIMD_BYTES >= 64
-inline Float16 mulAdd(Float16 a, Float16 b, Float16 c) { return Float16(_mm512_fmadd_ps(a.raw, b.raw, c.raw)); }
-inline Double8 mulAdd(Double8 a, Double8 b, Double8 c) { return Double8(_mm512_fmadd_pd(a.raw, b.raw, c.raw)); }
-inline Float16 mulSubFrom(Float16 a, Float16 b, Float16 c) { return Float16(_mm512_fnmadd_ps(a.raw, b.raw, c.raw)); }
-inline Double8 mulSubFrom(Double8 a, Double8 b, Double8 c) { return Double8(_mm512_fnmadd_pd(a.raw, b.raw, c.raw)); }
-inline Float16 mulSub(Float16 a, Float16 b, Float16 c) { return Float16(_mm512_fmsub_ps(a.raw, b.raw, c.raw)); }
-inline Double8 mulSub(Double8 a, Double8 b, Double8 c) { return Double8(_mm512_fmsub_pd(a.raw, b.raw, c.raw)); }
+inline Float16 mulAdd(Float16 a, Float16 b, Float16 c) {
+    return Float16(_mm512_fmadd_ps(a.raw, b.raw, c.raw));
+}
+inline Double8 mulAdd(Double8 a, Double8 b, Double8 c) {
+    return Double8(_mm512_fmadd_pd(a.raw, b.raw, c.raw));
+}
+inline Float16 mulSubFrom(Float16 a, Float16 b, Float16 c) {
+    return Float16(_mm512_fnmadd_ps(a.raw, b.raw, c.raw));
+}
+inline Double8 mulSubFrom(Double8 a, Double8 b, Double8 c) {
+    return Double8(_mm512_fnmadd_pd(a.raw, b.raw, c.raw));
+}
+inline Float16 mulSub(Float16 a, Float16 b, Float16 c) {
+    return Float16(_mm512_fmsub_ps(a.raw, b.raw, c.raw));
+}
+inline Double8 mulSub(Double8 a, Double8 b, Double8 c) {
+    return Double8(_mm512_fmsub_pd(a.raw, b.raw, c.raw));
+}
 #endif
 // The scalar twins round as the vectors do.
 template <class T>
-    requires std::is_floating_point_v<T>
+requires std::is_floating_point_v<T>
 inline T mulAdd(T a, T b, T c) {
 #if defined(__FMA__)
     return std::fma(a, b, c);
@@ -113,20 +141,26 @@ inline T mulAdd(T a, T b, T c) {
 #endif
 }
 
-// ---- saturating integers -----------------------------------------------------------------------
-#define VLQ_LANEWISE(name, T, op)                                                                   \
-    inline Vec<T, 16> name(Vec<T, 16> a, Vec<T, 16> b) { return fromRegister<T>(_mm_##op(asInt(a), asInt(b))); } \
-    VLQ_LANEWISE_32(name, T, op)                                                                    \
+// ---- saturating integers ------------------------------------------------------------------------
+#define VLQ_LANEWISE(name, T, op)                             \
+    inline Vec<T, 16> name(Vec<T, 16> a, Vec<T, 16> b) {      \
+        return fromRegister<T>(_mm_##op(asInt(a), asInt(b))); \
+    }                                                         \
+    VLQ_LANEWISE_32(name, T, op)                              \
     VLQ_LANEWISE_64(name, T, op)
 #if VLQ_SIMD_BYTES >= 32
-#define VLQ_LANEWISE_32(name, T, op) \
-    inline Vec<T, 32> name(Vec<T, 32> a, Vec<T, 32> b) { return fromRegister<T>(_mm256_##op(asInt(a), asInt(b))); }
+#define VLQ_LANEWISE_32(name, T, op)                             \
+    inline Vec<T, 32> name(Vec<T, 32> a, Vec<T, 32> b) {         \
+        return fromRegister<T>(_mm256_##op(asInt(a), asInt(b))); \
+    }
 #else
 #define VLQ_LANEWISE_32(name, T, op)
 #endif
 #if VLQ_SIMD_BYTES >= 64
-#define VLQ_LANEWISE_64(name, T, op) \
-    inline Vec<T, 64> name(Vec<T, 64> a, Vec<T, 64> b) { return fromRegister<T>(_mm512_##op(asInt(a), asInt(b))); }
+#define VLQ_LANEWISE_64(name, T, op)                             \
+    inline Vec<T, 64> name(Vec<T, 64> a, Vec<T, 64> b) {         \
+        return fromRegister<T>(_mm512_##op(asInt(a), asInt(b))); \
+    }
 #else
 #define VLQ_LANEWISE_64(name, T, op)
 #endif
@@ -146,7 +180,7 @@ VLQ_LANEWISE(maximum, std::uint8_t, max_epu8)
 #undef VLQ_LANEWISE_32
 #undef VLQ_LANEWISE_64
 
-// ---- shifts by one count for all lanes -----------------------------------------------------------
+// ---- shifts by one count for all lanes ----------------------------------------------------------
 // 0 <= count < width of the element. Right shifts are arithmetic on signed types.
 template <class T, int B>
 inline Vec<T, B> shiftLeft(Vec<T, B> v, int count) {
@@ -157,7 +191,8 @@ inline Vec<T, B> shiftLeft(Vec<T, B> v, int count) {
         const auto keep = Vec<T, B>::broadcast(static_cast<T>(0xFFu << count));
         return bitCast<T>(shiftLeft(words, count)) & keep;
     } else {
-        return Vec<T, B>((typename Vec<T, B>::RawType)((U)v.raw << static_cast<typename Wrapping<T>::type>(count)));
+        return Vec<T, B>((typename Vec<T, B>::RawType)(
+            (U)v.raw << static_cast<typename Wrapping<T>::type>(count)));
     }
 }
 template <class T, int B>
@@ -179,11 +214,12 @@ inline Vec<T, B> shiftRight(Vec<T, B> v, int count) {
     }
 }
 
-// ---- floats ----------------------------------------------------------------------------------------
+// ---- floats -------------------------------------------------------------------------------------
 template <class T, int B>
-    requires std::is_floating_point_v<T>
+requires std::is_floating_point_v<T>
 inline Vec<T, B> absolute(Vec<T, B> v) {
-    return v & Vec<T, B>::fromBits(Vec<BitsOf<T>, B>::broadcast(std::numeric_limits<BitsOf<T>>::max()).raw);
+    return v & Vec<T, B>::fromBits(
+                   Vec<BitsOf<T>, B>::broadcast(std::numeric_limits<BitsOf<T>>::max()).raw);
 }
 
 }  // namespace vlq

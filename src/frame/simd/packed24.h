@@ -28,8 +28,9 @@ inline Packed24 unpack24Upper(const std::uint8_t* p) {
 #elif VLQ_SIMD_BYTES == 32
 inline Packed24 unpack24Upper(const std::uint8_t* p) {
     // The upper lane is loaded from 4 bytes before its elements: so no byte past them is read.
-    const __m256i spread = _mm256_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11,
-                                            -1, 4, 5, 6, -1, 7, 8, 9, -1, 10, 11, 12, -1, 13, 14, 15);
+    const __m256i spread =
+        _mm256_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1, 4, 5, 6, -1, 7,
+                         8, 9, -1, 10, 11, 12, -1, 13, 14, 15);
     Packed24 v;
     for (int i = 0; i < 2; ++i, p += 24) {
         const auto both = joinHalves(load<std::uint8_t, 16>(p), load<std::uint8_t, 16>(p + 8));
@@ -40,11 +41,13 @@ inline Packed24 unpack24Upper(const std::uint8_t* p) {
 #else
 inline Packed24 unpack24Upper(const std::uint8_t* p) {
     const __m512i words = _mm512_setr_epi32(0, 1, 2, 0, 3, 4, 5, 0, 6, 7, 8, 0, 9, 10, 11, 0);
-    const __m512i spread = _mm512_broadcast_i32x4(_mm_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11));
+    const __m512i spread =
+        _mm512_broadcast_i32x4(_mm_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11));
     Packed24 v;
     for (int i = 0; i < 2; ++i, p += 48) {
         const __m512i bytes = _mm512_maskz_loadu_epi32(0x0FFF, p);
-        v.part[i] = fromRegister<std::int32_t>(_mm512_shuffle_epi8(_mm512_permutexvar_epi32(words, bytes), spread));
+        v.part[i] = fromRegister<std::int32_t>(
+            _mm512_shuffle_epi8(_mm512_permutexvar_epi32(words, bytes), spread));
     }
     return v;
 }
@@ -66,30 +69,36 @@ inline void pack24(std::uint8_t* p, Packed24 v) {
     auto pairs = [](Vec<std::int32_t> lanes) {
         // Two elements to the lower six bytes of each half.
         const __m128i x = asInt(lanes);
-        return _mm_or_si128(_mm_and_si128(x, _mm_set1_epi64x(0x0000000000FFFFFF)),
-                            _mm_and_si128(_mm_srli_epi64(x, 8), _mm_set1_epi64x(0x0000FFFFFF000000)));
+        return _mm_or_si128(
+            _mm_and_si128(x, _mm_set1_epi64x(0x0000000000FFFFFF)),
+            _mm_and_si128(_mm_srli_epi64(x, 8), _mm_set1_epi64x(0x0000FFFFFF000000)));
     };
     const __m128i low = pairs(v.part[0]), high = pairs(v.part[1]);
     // Each store is ended by the next one; the last is filled up in front instead.
-    const __m128i tail = _mm_or_si128(_mm_slli_epi64(high, 16), _mm_srli_epi64(_mm_slli_si128(high, 8), 32));
+    const __m128i tail =
+        _mm_or_si128(_mm_slli_epi64(high, 16), _mm_srli_epi64(_mm_slli_si128(high, 8), 32));
     _mm_storel_epi64(reinterpret_cast<__m128i_u*>(p), low);
     _mm_storel_epi64(reinterpret_cast<__m128i_u*>(p + 6), _mm_unpackhi_epi64(low, low));
     _mm_storel_epi64(reinterpret_cast<__m128i_u*>(p + 12), high);
     _mm_storel_epi64(reinterpret_cast<__m128i_u*>(p + 16), _mm_unpackhi_epi64(tail, tail));
 #elif VLQ_SIMD_BYTES == 32
-    const __m256i gather = _mm256_broadcastsi128_si256(_mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
+    const __m256i gather = _mm256_broadcastsi128_si256(
+        _mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
     const __m256i words = _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 3, 7);
     for (const auto& part : v.part) {
-        const auto bytes = fromRegister<std::uint8_t>(_mm256_permutevar8x32_epi32(_mm256_shuffle_epi8(asInt(part), gather), words));
+        const auto bytes = fromRegister<std::uint8_t>(
+            _mm256_permutevar8x32_epi32(_mm256_shuffle_epi8(asInt(part), gather), words));
         store(p, lowHalf(bytes));
         _mm_storel_epi64(reinterpret_cast<__m128i_u*>(p + 16), asInt(highHalf(bytes)));
         p += 24;
     }
 #else
-    const __m512i gather = _mm512_broadcast_i32x4(_mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
+    const __m512i gather = _mm512_broadcast_i32x4(
+        _mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
     const __m512i words = _mm512_setr_epi32(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15);
     for (const auto& part : v.part) {
-        _mm512_mask_storeu_epi32(p, 0x0FFF, _mm512_permutexvar_epi32(words, _mm512_shuffle_epi8(asInt(part), gather)));
+        _mm512_mask_storeu_epi32(
+            p, 0x0FFF, _mm512_permutexvar_epi32(words, _mm512_shuffle_epi8(asInt(part), gather)));
         p += 48;
     }
 #endif

@@ -19,8 +19,9 @@ inline Vec<std::int32_t, 32> pairSums(Vec<std::int16_t, 32> a, Vec<std::int16_t,
     return fromRegister<std::int32_t>(_mm256_madd_epi16(asInt(a), asInt(b)));
 }
 inline Vec<std::int16_t, 32> interleaveSat(Vec<std::int32_t, 32> even, Vec<std::int32_t, 32> odd) {
-    return fromRegister<std::int16_t>(_mm256_packs_epi32(_mm256_unpacklo_epi32(asInt(even), asInt(odd)),
-                                                         _mm256_unpackhi_epi32(asInt(even), asInt(odd))));
+    return fromRegister<std::int16_t>(
+        _mm256_packs_epi32(_mm256_unpacklo_epi32(asInt(even), asInt(odd)),
+                           _mm256_unpackhi_epi32(asInt(even), asInt(odd))));
 }
 #endif
 #if VLQ_SIMD_BYTES >= 64
@@ -28,8 +29,9 @@ inline Vec<std::int32_t, 64> pairSums(Vec<std::int16_t, 64> a, Vec<std::int16_t,
     return fromRegister<std::int32_t>(_mm512_madd_epi16(asInt(a), asInt(b)));
 }
 inline Vec<std::int16_t, 64> interleaveSat(Vec<std::int32_t, 64> even, Vec<std::int32_t, 64> odd) {
-    return fromRegister<std::int16_t>(_mm512_packs_epi32(_mm512_unpacklo_epi32(asInt(even), asInt(odd)),
-                                                         _mm512_unpackhi_epi32(asInt(even), asInt(odd))));
+    return fromRegister<std::int16_t>(
+        _mm512_packs_epi32(_mm512_unpacklo_epi32(asInt(even), asInt(odd)),
+                           _mm512_unpackhi_epi32(asInt(even), asInt(odd))));
 }
 #endif
 
@@ -48,7 +50,8 @@ inline std::int32_t laneSum(Vec<std::int32_t, B> v) {
         return laneSum(lowHalf(v) + highHalf(v));
     } else {
         const auto halves = v + fromRegister<std::int32_t>(_mm_shuffle_epi32(asInt(v), 0x4E));
-        const auto all = halves + fromRegister<std::int32_t>(_mm_shuffle_epi32(asInt(halves), 0xB1));
+        const auto all =
+            halves + fromRegister<std::int32_t>(_mm_shuffle_epi32(asInt(halves), 0xB1));
         return _mm_cvtsi128_si32(asInt(all));
     }
 }

@@ -20,7 +20,8 @@ inline Vec<T, B> signMask(Vec<T, B> v) {
         const auto words = shiftRight(bitCast<std::int32_t>(v), 31);
         if constexpr (B == 16) return fromRegister<T>(_mm_shuffle_epi32(asInt(words), 0xF5));
 #if VLQ_SIMD_BYTES >= 32
-        else return fromRegister<T>(_mm256_shuffle_epi32(asInt(words), 0xF5));
+        else
+            return fromRegister<T>(_mm256_shuffle_epi32(asInt(words), 0xF5));
 #endif
     } else
 #endif
@@ -31,7 +32,8 @@ inline Vec<T, B> signMask(Vec<T, B> v) {
 template <SignedInteger T, int B>
 inline Vec<T, B> isAbove(Vec<T, B> a, Vec<T, B> b) {
 #if !defined(__SSE4_2__)
-    if constexpr (sizeof(T) == 8) return signMask(b - a);
+    if constexpr (sizeof(T) == 8)
+        return signMask(b - a);
     else
 #endif
         return a > b;
@@ -42,28 +44,32 @@ template <SignedInteger T, int B>
 inline Vec<T, B> selectNegative(Vec<T, B> sign, Vec<T, B> yes, Vec<T, B> no) {
 #if VLQ_SIMD_BYTES == 32
     if constexpr (B == 32 && sizeof(T) == 4) {
-        return fromRegister<T>(_mm256_castps_si256(_mm256_blendv_ps(
-            _mm256_castsi256_ps(asInt(no)), _mm256_castsi256_ps(asInt(yes)), _mm256_castsi256_ps(asInt(sign)))));
+        return fromRegister<T>(_mm256_castps_si256(
+            _mm256_blendv_ps(_mm256_castsi256_ps(asInt(no)), _mm256_castsi256_ps(asInt(yes)),
+                             _mm256_castsi256_ps(asInt(sign)))));
     } else if constexpr (B == 32 && sizeof(T) == 8) {
-        return fromRegister<T>(_mm256_castpd_si256(_mm256_blendv_pd(
-            _mm256_castsi256_pd(asInt(no)), _mm256_castsi256_pd(asInt(yes)), _mm256_castsi256_pd(asInt(sign)))));
+        return fromRegister<T>(_mm256_castpd_si256(
+            _mm256_blendv_pd(_mm256_castsi256_pd(asInt(no)), _mm256_castsi256_pd(asInt(yes)),
+                             _mm256_castsi256_pd(asInt(sign)))));
     } else
 #elif VLQ_SIMD_BYTES == 64
     if constexpr (B == 64 && sizeof(T) == 4) {
-        return fromRegister<T>(_mm512_mask_mov_epi32(asInt(no), _mm512_movepi32_mask(asInt(sign)), asInt(yes)));
+        return fromRegister<T>(
+            _mm512_mask_mov_epi32(asInt(no), _mm512_movepi32_mask(asInt(sign)), asInt(yes)));
     } else if constexpr (B == 64 && sizeof(T) == 8) {
-        return fromRegister<T>(_mm512_mask_mov_epi64(asInt(no), _mm512_movepi64_mask(asInt(sign)), asInt(yes)));
+        return fromRegister<T>(
+            _mm512_mask_mov_epi64(asInt(no), _mm512_movepi64_mask(asInt(sign)), asInt(yes)));
     } else
 #endif
         return select(signMask(sign), yes, no);
 }
 
-// ---- sums and differences of 32 and 64 bits --------------------------------------------------
+// ---- sums and differences of 32 and 64 bits -----------------------------------------------------
 template <class T>
 concept WideInteger = std::is_integral_v<T> && sizeof(T) >= 4;
 
 template <SignedInteger T, int B>
-    requires WideInteger<T>
+requires WideInteger<T>
 inline Vec<T, B> addSat(Vec<T, B> a, Vec<T, B> b) {
     const auto lowest = Vec<T, B>::broadcast(std::numeric_limits<T>::min());
     const auto sum = a + b;
@@ -71,14 +77,14 @@ inline Vec<T, B> addSat(Vec<T, B> a, Vec<T, B> b) {
     return selectNegative((a ^ sum) & ~(a ^ b), signMask(sum) ^ lowest, sum);
 }
 template <SignedInteger T, int B>
-    requires WideInteger<T>
+requires WideInteger<T>
 inline Vec<T, B> subSat(Vec<T, B> a, Vec<T, B> b) {
     const auto lowest = Vec<T, B>::broadcast(std::numeric_limits<T>::min());
     const auto difference = a - b;
     return selectNegative((a ^ difference) & (a ^ b), signMask(difference) ^ lowest, difference);
 }
 template <UnsignedInteger T, int B>
-    requires WideInteger<T>
+requires WideInteger<T>
 inline Vec<T, B> addSat(Vec<T, B> a, Vec<T, B> b) {
     using S = BitsOf<T>;
     const auto sum = a + b;
@@ -87,13 +93,11 @@ inline Vec<T, B> addSat(Vec<T, B> a, Vec<T, B> b) {
     return sum | bitCast<T>(signMask(carry));
 }
 
-// ---- means -----------------------------------------------------------------------------------
+// ---- means --------------------------------------------------------------------------------------
 // (a + b) / 2 without the carry getting lost, a half rounded up.
 template <class T, int B>
-    requires std::is_integral_v<T>
-inline Vec<T, B> meanUp(Vec<T, B> a, Vec<T, B> b) {
-    return (a | b) - shiftRight(a ^ b, 1);
-}
+requires std::is_integral_v<T>
+inline Vec<T, B> meanUp(Vec<T, B> a, Vec<T, B> b) { return (a | b) - shiftRight(a ^ b, 1); }
 inline Vec<std::uint8_t, 16> meanUp(Vec<std::uint8_t, 16> a, Vec<std::uint8_t, 16> b) {
     return fromRegister<std::uint8_t>(_mm_avg_epu8(asInt(a), asInt(b)));
 }
@@ -117,7 +121,7 @@ inline Vec<std::uint16_t, 64> meanUp(Vec<std::uint16_t, 64> a, Vec<std::uint16_t
 }
 #endif
 
-// ---- left shifts -----------------------------------------------------------------------------
+// ---- left shifts --------------------------------------------------------------------------------
 // v * 2^count, stopped at the ends of the range; 1 <= count <= value bits of T.
 template <SignedInteger T, int B>
 inline Vec<T, B> shiftLeftSat(Vec<T, B> v, int count) {
@@ -133,12 +137,15 @@ inline Vec<T, B> shiftLeftSat(Vec<T, B> v, int count) {
     constexpr int bits = std::numeric_limits<T>::digits;
     const auto shifted = shiftLeft(v, count < bits ? count : bits - 1);
     if constexpr (sizeof(T) == 8) {
-        const auto lost = count < bits ? shiftRight(v, bits - count) : shiftRight(v, 1) | (v & Vec<T, B>::broadcast(1));
+        const auto lost = count < bits ? shiftRight(v, bits - count)
+                                       : shiftRight(v, 1) | (v & Vec<T, B>::broadcast(1));
         return shifted | bitCast<T>(isAbove(bitCast<S>(lost), Vec<S, B>::zero()));
     } else {
-        const T limit = count < bits ? static_cast<T>(std::numeric_limits<T>::max() >> count) : T{0};
+        const T limit =
+            count < bits ? static_cast<T>(std::numeric_limits<T>::max() >> count) : T{0};
         const auto top = Vec<T, B>::broadcast(static_cast<T>(T{1} << (bits - 1)));
-        return shifted | bitCast<T>(bitCast<S>(v ^ top) > bitCast<S>(Vec<T, B>::broadcast(limit) ^ top));
+        return shifted |
+               bitCast<T>(bitCast<S>(v ^ top) > bitCast<S>(Vec<T, B>::broadcast(limit) ^ top));
     }
 }
 
@@ -148,7 +155,8 @@ inline Vec<T, B> shiftLeftSat(Vec<T, B> lower, Vec<T, B> signBit, int count) {
     const auto sign = signMask(signBit);
     // What is shifted out, and the bit that becomes the sign, must all be equal to it.
     const auto fits = shiftRight(lower, std::numeric_limits<T>::digits - count) == sign;
-    return select(fits, shiftLeft(lower, count), sign ^ Vec<T, B>::broadcast(std::numeric_limits<T>::max()));
+    return select(fits, shiftLeft(lower, count),
+                  sign ^ Vec<T, B>::broadcast(std::numeric_limits<T>::max()));
 }
 
 }  // namespace vlq

@@ -22,8 +22,10 @@ inline void transpose(Vec<float, 16> (&m)[4]) {
 // The wider ones transpose blocks of 16 bytes in place, then the blocks among the vectors.
 #if VLQ_SIMD_BYTES >= 32
 inline void transpose(Vec<double, 32> (&m)[4]) {
-    const __m256d a = _mm256_unpacklo_pd(m[0].raw, m[1].raw), b = _mm256_unpackhi_pd(m[0].raw, m[1].raw);
-    const __m256d c = _mm256_unpacklo_pd(m[2].raw, m[3].raw), d = _mm256_unpackhi_pd(m[2].raw, m[3].raw);
+    const __m256d a = _mm256_unpacklo_pd(m[0].raw, m[1].raw),
+                  b = _mm256_unpackhi_pd(m[0].raw, m[1].raw);
+    const __m256d c = _mm256_unpacklo_pd(m[2].raw, m[3].raw),
+                  d = _mm256_unpackhi_pd(m[2].raw, m[3].raw);
     m[0].raw = _mm256_permute2f128_pd(a, c, 0x20);
     m[1].raw = _mm256_permute2f128_pd(b, d, 0x20);
     m[2].raw = _mm256_permute2f128_pd(a, c, 0x31);
@@ -33,8 +35,10 @@ inline void transpose(Vec<float, 32> (&m)[8]) {
     __m256 t[8];
 #pragma GCC unroll 2
     for (int h = 0; h < 8; h += 4) {
-        const __m256 a = _mm256_unpacklo_ps(m[h].raw, m[h + 1].raw), b = _mm256_unpackhi_ps(m[h].raw, m[h + 1].raw);
-        const __m256 c = _mm256_unpacklo_ps(m[h + 2].raw, m[h + 3].raw), d = _mm256_unpackhi_ps(m[h + 2].raw, m[h + 3].raw);
+        const __m256 a = _mm256_unpacklo_ps(m[h].raw, m[h + 1].raw),
+                     b = _mm256_unpackhi_ps(m[h].raw, m[h + 1].raw);
+        const __m256 c = _mm256_unpacklo_ps(m[h + 2].raw, m[h + 3].raw),
+                     d = _mm256_unpackhi_ps(m[h + 2].raw, m[h + 3].raw);
         t[h] = _mm256_castpd_ps(_mm256_unpacklo_pd(_mm256_castps_pd(a), _mm256_castps_pd(c)));
         t[h + 1] = _mm256_castpd_ps(_mm256_unpackhi_pd(_mm256_castps_pd(a), _mm256_castps_pd(c)));
         t[h + 2] = _mm256_castpd_ps(_mm256_unpacklo_pd(_mm256_castps_pd(b), _mm256_castps_pd(d)));
@@ -50,8 +54,10 @@ inline void transpose(Vec<float, 32> (&m)[8]) {
 
 // Each block of 16 bytes by itself: lane 4 b + i of row j becomes lane 4 b + j of row i.
 inline void transposeBlocks(Vec<std::int32_t, 16> (&m)[4]) {
-    const __m128i a = _mm_unpacklo_epi32(asInt(m[0]), asInt(m[1])), b = _mm_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
-    const __m128i c = _mm_unpacklo_epi32(asInt(m[2]), asInt(m[3])), d = _mm_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
+    const __m128i a = _mm_unpacklo_epi32(asInt(m[0]), asInt(m[1])),
+                  b = _mm_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
+    const __m128i c = _mm_unpacklo_epi32(asInt(m[2]), asInt(m[3])),
+                  d = _mm_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
     m[0] = fromRegister<std::int32_t>(_mm_unpacklo_epi64(a, c));
     m[1] = fromRegister<std::int32_t>(_mm_unpackhi_epi64(a, c));
     m[2] = fromRegister<std::int32_t>(_mm_unpacklo_epi64(b, d));
@@ -59,8 +65,10 @@ inline void transposeBlocks(Vec<std::int32_t, 16> (&m)[4]) {
 }
 #if VLQ_SIMD_BYTES >= 32
 inline void transposeBlocks(Vec<std::int32_t, 32> (&m)[4]) {
-    const __m256i a = _mm256_unpacklo_epi32(asInt(m[0]), asInt(m[1])), b = _mm256_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
-    const __m256i c = _mm256_unpacklo_epi32(asInt(m[2]), asInt(m[3])), d = _mm256_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
+    const __m256i a = _mm256_unpacklo_epi32(asInt(m[0]), asInt(m[1])),
+                  b = _mm256_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
+    const __m256i c = _mm256_unpacklo_epi32(asInt(m[2]), asInt(m[3])),
+                  d = _mm256_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
     m[0] = fromRegister<std::int32_t>(_mm256_unpacklo_epi64(a, c));
     m[1] = fromRegister<std::int32_t>(_mm256_unpackhi_epi64(a, c));
     m[2] = fromRegister<std::int32_t>(_mm256_unpacklo_epi64(b, d));
@@ -69,8 +77,10 @@ inline void transposeBlocks(Vec<std::int32_t, 32> (&m)[4]) {
 #endif
 #if VLQ_SIMD_BYTES >= 64
 inline void transposeBlocks(Vec<std::int32_t, 64> (&m)[4]) {
-    const __m512i a = _mm512_unpacklo_epi32(asInt(m[0]), asInt(m[1])), b = _mm512_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
-    const __m512i c = _mm512_unpacklo_epi32(asInt(m[2]), asInt(m[3])), d = _mm512_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
+    const __m512i a = _mm512_unpacklo_epi32(asInt(m[0]), asInt(m[1])),
+                  b = _mm512_unpackhi_epi32(asInt(m[0]), asInt(m[1]));
+    const __m512i c = _mm512_unpacklo_epi32(asInt(m[2]), asInt(m[3])),
+                  d = _mm512_unpackhi_epi32(asInt(m[2]), asInt(m[3]));
     m[0] = fromRegister<std::int32_t>(_mm512_unpacklo_epi64(a, c));
     m[1] = fromRegister<std::int32_t>(_mm512_unpackhi_epi64(a, c));
     m[2] = fromRegister<std::int32_t>(_mm512_unpacklo_epi64(b, d));
@@ -80,20 +90,23 @@ inline void transposeBlocks(Vec<std::int32_t, 64> (&m)[4]) {
 
 // Each block by itself: a[0], b[0], a[1], b[1] into a, the same of the upper half into b.
 inline void interleaveBlocks(Vec<std::int32_t, 16>& a, Vec<std::int32_t, 16>& b) {
-    const __m128i low = _mm_unpacklo_epi32(asInt(a), asInt(b)), high = _mm_unpackhi_epi32(asInt(a), asInt(b));
+    const __m128i low = _mm_unpacklo_epi32(asInt(a), asInt(b)),
+                  high = _mm_unpackhi_epi32(asInt(a), asInt(b));
     a = fromRegister<std::int32_t>(low);
     b = fromRegister<std::int32_t>(high);
 }
 #if VLQ_SIMD_BYTES >= 32
 inline void interleaveBlocks(Vec<std::int32_t, 32>& a, Vec<std::int32_t, 32>& b) {
-    const __m256i low = _mm256_unpacklo_epi32(asInt(a), asInt(b)), high = _mm256_unpackhi_epi32(asInt(a), asInt(b));
+    const __m256i low = _mm256_unpacklo_epi32(asInt(a), asInt(b)),
+                  high = _mm256_unpackhi_epi32(asInt(a), asInt(b));
     a = fromRegister<std::int32_t>(low);
     b = fromRegister<std::int32_t>(high);
 }
 #endif
 #if VLQ_SIMD_BYTES >= 64
 inline void interleaveBlocks(Vec<std::int32_t, 64>& a, Vec<std::int32_t, 64>& b) {
-    const __m512i low = _mm512_unpacklo_epi32(asInt(a), asInt(b)), high = _mm512_unpackhi_epi32(asInt(a), asInt(b));
+    const __m512i low = _mm512_unpacklo_epi32(asInt(a), asInt(b)),
+                  high = _mm512_unpackhi_epi32(asInt(a), asInt(b));
     a = fromRegister<std::int32_t>(low);
     b = fromRegister<std::int32_t>(high);
 }
@@ -102,8 +115,11 @@ inline void interleaveBlocks(Vec<std::int32_t, 64>& a, Vec<std::int32_t, 64>& b)
 // The blocks of a vector, `stride` elements apart in memory.
 template <int B, class T>
 inline Vec<T, B> loadBlocks(const T* p, std::ptrdiff_t stride) {
-    if constexpr (B == 16) return load<T, 16>(p);
-    else return joinHalves(loadBlocks<B / 2>(p, stride), loadBlocks<B / 2>(p + B / 32 * stride, stride));
+    if constexpr (B == 16)
+        return load<T, 16>(p);
+    else
+        return joinHalves(loadBlocks<B / 2>(p, stride),
+                          loadBlocks<B / 2>(p + B / 32 * stride, stride));
 }
 template <int B, class T>
 inline void storeBlocks(T* p, std::ptrdiff_t stride, Vec<T, B> v) {
@@ -140,8 +156,10 @@ inline void transpose(Vec<float, 64> (&m)[16]) {
     __m512 t[16], u[16];
 #pragma GCC unroll 4
     for (int h = 0; h < 16; h += 4) {
-        const __m512 a = _mm512_unpacklo_ps(m[h].raw, m[h + 1].raw), b = _mm512_unpackhi_ps(m[h].raw, m[h + 1].raw);
-        const __m512 c = _mm512_unpacklo_ps(m[h + 2].raw, m[h + 3].raw), d = _mm512_unpackhi_ps(m[h + 2].raw, m[h + 3].raw);
+        const __m512 a = _mm512_unpacklo_ps(m[h].raw, m[h + 1].raw),
+                     b = _mm512_unpackhi_ps(m[h].raw, m[h + 1].raw);
+        const __m512 c = _mm512_unpacklo_ps(m[h + 2].raw, m[h + 3].raw),
+                     d = _mm512_unpackhi_ps(m[h + 2].raw, m[h + 3].raw);
         t[h] = _mm512_castpd_ps(_mm512_unpacklo_pd(_mm512_castps_pd(a), _mm512_castps_pd(c)));
         t[h + 1] = _mm512_castpd_ps(_mm512_unpackhi_pd(_mm512_castps_pd(a), _mm512_castps_pd(c)));
         t[h + 2] = _mm512_castpd_ps(_mm512_unpacklo_pd(_mm512_castps_pd(b), _mm512_castps_pd(d)));

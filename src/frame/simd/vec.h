@@ -77,8 +77,10 @@ struct Vec {
     friend Vec operator^(Vec a, Vec b) { return fromBits(a.bits() ^ b.bits()); }
     friend Vec operator~(Vec a) { return fromBits(~a.bits()); }
     Vec operator-() const {
-        if constexpr (std::is_floating_point_v<T>) return Vec(-raw);
-        else return zero() - *this;
+        if constexpr (std::is_floating_point_v<T>)
+            return Vec(-raw);
+        else
+            return zero() - *this;
     }
     Vec& operator+=(Vec b) { return *this = *this + b; }
     Vec& operator-=(Vec b) { return *this = *this - b; }
@@ -118,16 +120,18 @@ inline Vec<T, B> opaque(Vec<T, B> v) {
     return v;
 }
 
-// ---- intrinsic views -----------------------------------------------------------------------
+// ---- intrinsic views ----------------------------------------------------------------------------
 // Bits of any vector as the intrinsics' register types.
 template <class T, int B>
 inline auto asInt(Vec<T, B> v) {
     if constexpr (B == 16) return (__m128i)v.raw;
 #if VLQ_SIMD_BYTES >= 32
-    else if constexpr (B == 32) return (__m256i)v.raw;
+    else if constexpr (B == 32)
+        return (__m256i)v.raw;
 #endif
 #if VLQ_SIMD_BYTES >= 64
-    else if constexpr (B == 64) return (__m512i)v.raw;
+    else if constexpr (B == 64)
+        return (__m512i)v.raw;
 #endif
 }
 template <class T, class Register>
@@ -136,12 +140,16 @@ inline auto fromRegister(Register r) {
     return V((typename V::RawType)r);
 }
 
-// ---- halves --------------------------------------------------------------------------------
+// ---- halves -------------------------------------------------------------------------------------
 #if VLQ_SIMD_BYTES >= 32
 template <class T>
-inline Vec<T, 16> lowHalf(Vec<T, 32> v) { return fromRegister<T>(_mm256_castsi256_si128(asInt(v))); }
+inline Vec<T, 16> lowHalf(Vec<T, 32> v) {
+    return fromRegister<T>(_mm256_castsi256_si128(asInt(v)));
+}
 template <class T>
-inline Vec<T, 16> highHalf(Vec<T, 32> v) { return fromRegister<T>(_mm256_extracti128_si256(asInt(v), 1)); }
+inline Vec<T, 16> highHalf(Vec<T, 32> v) {
+    return fromRegister<T>(_mm256_extracti128_si256(asInt(v), 1));
+}
 template <class T>
 inline Vec<T, 32> joinHalves(Vec<T, 16> low, Vec<T, 16> high) {
     return fromRegister<T>(_mm256_set_m128i(asInt(high), asInt(low)));
@@ -149,16 +157,20 @@ inline Vec<T, 32> joinHalves(Vec<T, 16> low, Vec<T, 16> high) {
 #endif
 #if VLQ_SIMD_BYTES >= 64
 template <class T>
-inline Vec<T, 32> lowHalf(Vec<T, 64> v) { return fromRegister<T>(_mm512_castsi512_si256(asInt(v))); }
+inline Vec<T, 32> lowHalf(Vec<T, 64> v) {
+    return fromRegister<T>(_mm512_castsi512_si256(asInt(v)));
+}
 template <class T>
-inline Vec<T, 32> highHalf(Vec<T, 64> v) { return fromRegister<T>(_mm512_extracti64x4_epi64(asInt(v), 1)); }
+inline Vec<T, 32> highHalf(Vec<T, 64> v) {
+    return fromRegister<T>(_mm512_extracti64x4_epi64(asInt(v), 1));
+}
 template <class T>
 inline Vec<T, 64> joinHalves(Vec<T, 32> low, Vec<T, 32> high) {
     return fromRegister<T>(_mm512_inserti64x4(_mm512_castsi256_si512(asInt(low)), asInt(high), 1));
 }
 #endif
 
-// ---- memory --------------------------------------------------------------------------------
+// ---- memory -------------------------------------------------------------------------------------
 template <class T, int B = kVecBytes>
 inline Vec<T, B> load(const T* p) {
     Vec<T, B> v;
@@ -190,10 +202,12 @@ template <class T, int B>
 inline void stream(T* p, Vec<T, B> v) {
     if constexpr (B == 16) _mm_stream_si128(reinterpret_cast<__m128i*>(p), asInt(v));
 #if VLQ_SIMD_BYTES >= 32
-    else if constexpr (B == 32) _mm256_stream_si256(reinterpret_cast<__m256i*>(p), asInt(v));
+    else if constexpr (B == 32)
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(p), asInt(v));
 #endif
 #if VLQ_SIMD_BYTES >= 64
-    else if constexpr (B == 64) _mm512_stream_si512(reinterpret_cast<__m512i*>(p), asInt(v));
+    else if constexpr (B == 64)
+        _mm512_stream_si512(reinterpret_cast<__m512i*>(p), asInt(v));
 #endif
 }
 inline void streamFence() { _mm_sfence(); }
@@ -265,14 +279,17 @@ inline Vec<T, B> loadPartial(const T* p, int count) {
 #if VLQ_SIMD_BYTES == 32
     else {
         constexpr int half = 16 / static_cast<int>(sizeof(T));
-        if (count < half) return fromRegister<T>(_mm256_zextsi128_si256(detail::loadBytes16(p, byteCount)));
+        if (count < half)
+            return fromRegister<T>(_mm256_zextsi128_si256(detail::loadBytes16(p, byteCount)));
         return joinHalves(load<T, 16>(p), loadPartial<T, 16>(p + half, count - half));
     }
 #elif VLQ_SIMD_BYTES == 64
     else {
         const __mmask64 mask = byteCount >= 64 ? ~__mmask64{0} : (__mmask64{1} << byteCount) - 1;
-        if constexpr (B == 64) return fromRegister<T>(_mm512_maskz_loadu_epi8(mask, p));
-        else return fromRegister<T>(_mm256_maskz_loadu_epi8(static_cast<__mmask32>(mask), p));
+        if constexpr (B == 64)
+            return fromRegister<T>(_mm512_maskz_loadu_epi8(mask, p));
+        else
+            return fromRegister<T>(_mm256_maskz_loadu_epi8(static_cast<__mmask32>(mask), p));
     }
 #endif
 }
@@ -282,8 +299,10 @@ template <class T, int B>
 inline void storePartial(T* p, Vec<T, B> v, int count) {
     [[maybe_unused]] const int byteCount = count * static_cast<int>(sizeof(T));
     if constexpr (B == 16) {
-        if (count >= Vec<T, B>::lanes) store(p, v);
-        else detail::storeBytes16(p, asInt(v), byteCount);
+        if (count >= Vec<T, B>::lanes)
+            store(p, v);
+        else
+            detail::storeBytes16(p, asInt(v), byteCount);
     }
 #if VLQ_SIMD_BYTES == 32
     else {
@@ -293,19 +312,22 @@ inline void storePartial(T* p, Vec<T, B> v, int count) {
             detail::storeBytes16(p, asInt(low), byteCount);
         } else {
             store(p, low);
-            storePartial(p + half, fromRegister<T>(_mm256_extracti128_si256(asInt(v), 1)), count - half);
+            storePartial(p + half, fromRegister<T>(_mm256_extracti128_si256(asInt(v), 1)),
+                         count - half);
         }
     }
 #elif VLQ_SIMD_BYTES == 64
     else {
         const __mmask64 mask = byteCount >= 64 ? ~__mmask64{0} : (__mmask64{1} << byteCount) - 1;
-        if constexpr (B == 64) _mm512_mask_storeu_epi8(p, mask, asInt(v));
-        else _mm256_mask_storeu_epi8(p, static_cast<__mmask32>(mask), asInt(v));
+        if constexpr (B == 64)
+            _mm512_mask_storeu_epi8(p, mask, asInt(v));
+        else
+            _mm256_mask_storeu_epi8(p, static_cast<__mmask32>(mask), asInt(v));
     }
 #endif
 }
 
-// ---- selection -----------------------------------------------------------------------------
+// ---- selection ----------------------------------------------------------------------------------
 // Lane by lane `yes` where the mask is set (all bits), else `no`.
 template <class T, int B>
 inline Vec<T, B> select(Vec<BitsOf<T>, B> mask, Vec<T, B> yes, Vec<T, B> no) {
@@ -317,10 +339,12 @@ template <class T, int B>
 inline bool any(Vec<T, B> mask) {
     if constexpr (B == 16) return _mm_movemask_epi8(asInt(mask)) != 0;
 #if VLQ_SIMD_BYTES >= 32
-    else if constexpr (B == 32) return _mm256_movemask_epi8(asInt(mask)) != 0;
+    else if constexpr (B == 32)
+        return _mm256_movemask_epi8(asInt(mask)) != 0;
 #endif
 #if VLQ_SIMD_BYTES >= 64
-    else if constexpr (B == 64) return _mm512_test_epi64_mask(asInt(mask), asInt(mask)) != 0;
+    else if constexpr (B == 64)
+        return _mm512_test_epi64_mask(asInt(mask), asInt(mask)) != 0;
 #endif
 }
 

@@ -1,0 +1,145 @@
+#include "convert/floating_kernels.h"
+
+#include <algorithm>
+
+#include "frame/simd/control.h"
+#include "vlqs/convert.h"
+
+namespace {
+
+using namespace vlq::convert;
+using vlq::StandardFloatMode;
+
+template <class From, class To, class Op>
+VlqStatus plain(const From* src, To* dst, std::int64_t len, Op op) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    vlq::mapBlocks(dst, len, op, src);
+    return vlqStsOk;
+}
+
+template <class Scale, class Round, class From, class To>
+void rounded(const From* src, To* dst, std::int64_t len, Scale scale, Round round,
+             bool flushingMatters) {
+    const StandardFloatMode hold(Round::usesControlWord || flushingMatters);
+    vlq::mapBlocks(dst, len, IntegerOf<To, Scale, Round>{scale, round}, src);
+}
+
+template <class From, class To>
+VlqStatus toInteger(const From* src, To* dst, std::int64_t len, VlqRoundMode mode,
+                    Vlq32s scaleFactor) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    const bool flushingMatters = !subnormalsVanish<From>(scaleFactor);
+    auto withScale = [&](auto scale) {
+        switch (mode) {
+            case vlqRndZero: rounded(src, dst, len, scale, Zero{}, flushingMatters); break;
+            case vlqRndNear: rounded(src, dst, len, scale, Nearest{}, flushingMatters); break;
+            default: rounded(src, dst, len, scale, NearestAway{}, flushingMatters);
+        }
+    };
+    if (scaleFactor == 0)
+        withScale(Unscaled<From>{});
+    else
+        withScale(Times<From>{stepwisePower<From>(scaleFactor)});
+    return vlqStsOk;
+}
+
+// Op<Scale> with 2^-scaleFactor, after scaleFactor was brought into [lowest, highest].
+template <template <class> class Op, class T, class From>
+VlqStatus toScaled(const From* src, T* dst, Vlq32s len, Vlq32s scaleFactor, int lowest,
+                   int highest) {
+    if (scaleFactor == 0) return plain(src, dst, len, Op<Unscaled<T>>{});
+    return plain(src, dst, len,
+                 Op<Times<T>>{{normalPower<T>(std::clamp(scaleFactor, lowest, highest))}});
+}
+
+}  // namespace
+
+// ---- integers to floats -------------------------------------------------------------------------
+VlqStatus vlq::vlqsConvert_8s32f(const Vlq8s* src, Vlq32f* dst, Vlq32s len) {
+    return plain(src, dst, len, ToFloat<Unscaled<float>>{});
+}
+VlqStatus vlq::vlqsConvert_8u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len) {
+    return plain(src, dst, len, ToFloat<Unscaled<float>>{});
+}
+VlqStatus vlq::vlqsConvert_16s32f(const Vlq16s* src, Vlq32f* dst, Vlq32s len) {
+    return plain(src, dst, len, ToFloat<Unscaled<float>>{});
+}
+VlqStatus vlq::vlqsConvert_16u32f(const Vlq16u* src, Vlq32f* dst, Vlq32s len) {
+    return plain(src, dst, len, ToFloat<Unscaled<float>>{});
+}
+VlqStatus vlq::vlqsConvert_32s32f(const Vlq32s* src, Vlq32f* dst, Vlq32s len) {
+    return plain(src, dst, len, ToFloat<Unscaled<float>>{});
+}
+VlqStatus vlq::vlqsConvert_32s64f(const Vlq32s* src, Vlq64f* dst, Vlq32s len) {
+    return plain(src, dst, len, ToDouble<Unscaled<double>>{});
+}
+VlqStatus vlq::vlqsConvert_64s64f(const Vlq64s* src, Vlq64f* dst, Vlq32u len) {
+    return plain(src, dst, len, ToDouble<Unscaled<double>>{});
+}
+
+// The lowest factors keep every 16-bit sample finite. A 32-bit one may pass the range at any
+// factor, so there the factor itself is the limit.
+VlqStatus vlq::vlqsConvert_16s32f_Sfs(const Vlq16s* src, Vlq32f* dst, Vlq32s len,
+                                      Vlq32s scaleFactor) {
+    return toScaled<ToFloat>(src, dst, len, scaleFactor, -112, 126);
+}
+VlqStatus vlq::vlqsConvert_16s64f_Sfs(const Vlq16s* src, Vlq64f* dst, Vlq32s len,
+                                      Vlq32s scaleFactor) {
+    return toScaled<ToDouble>(src, dst, len, scaleFactor, -1008, 1022);
+}
+VlqStatus vlq::vlqsConvert_32s32f_Sfs(const Vlq32s* src, Vlq32f* dst, Vlq32s len,
+                                      Vlq32s scaleFactor) {
+    return toScaled<ToFloat>(src, dst, len, scaleFactor, -127, 126);
+}
+VlqStatus vlq::vlqsConvert_32s64f_Sfs(const Vlq32s* src, Vlq64f* dst, Vlq32s len,
+                                      Vlq32s scaleFactor) {
+    return toScaled<ToDouble>(src, dst, len, scaleFactor, -1023, 1022);
+}
+
+// ---- floats to integers -------------------------------------------------------------------------
+VlqStatus vlq::vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len,
+                                     VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_32f8u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len,
+                                     VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_32f16s_Sfs(const Vlq32f* src, Vlq16s* dst, Vlq32s len,
+                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_32f16u_Sfs(const Vlq32f* src, Vlq16u* dst, Vlq32s len,
+                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_32f32s_Sfs(const Vlq32f* src, Vlq32s* dst, Vlq32s len,
+                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_64f16s_Sfs(const Vlq64f* src, Vlq16s* dst, Vlq32s len,
+                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len,
+                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+VlqStatus vlq::vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len,
+                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
+    return toInteger(src, dst, len, rndMode, scaleFactor);
+}
+
+// ---- floats to floats ---------------------------------------------------------------------------
+VlqStatus vlq::vlqsConvert_32f64f(const Vlq32f* src, Vlq64f* dst, Vlq32s len) {
+    if (!src || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    const StandardFloatMode hold;
+    vlq::mapBlocks(dst, len, WidenFloat{}, src);
+    return vlqStsOk;
+}
+VlqStatus vlq::vlqsConvert_64f32f(const Vlq64f* src, Vlq32f* dst, Vlq32s len) {
+    return plain(src, dst, len, NarrowDouble{});
+}

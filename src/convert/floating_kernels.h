@@ -1,0 +1,192 @@
+// Conversions with a float on one side or both. A kernel that rounds runs under StandardFloatMode.
+#pragma once
+
+#include <bit>
+#include <limits>
+
+#include "frame/loop/map.h"
+#include "frame/simd/convert.h"
+#include "frame/simd/int64.h"
+#include "frame/simd/ops.h"
+
+namespace vlq::convert {
+
+// 2^-scaleFactor as doubling or halving 1 step by step gives it: subnormal, zero or infinite past
+// the type's range.
+template <class T>
+T stepwisePower(std::int32_t scaleFactor) {
+    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
+    constexpr int fraction = std::numeric_limits<T>::digits - 1;
+    constexpr int top = std::numeric_limits<T>::max_exponent - 1;
+    const std::int64_t exponent = -std::int64_t{scaleFactor};
+    if (exponent > top) return std::numeric_limits<T>::infinity();
+    if (exponent > -top) return std::bit_cast<T>(static_cast<Bits>(exponent + top) << fraction);
+    if (exponent >= 1 - top - fraction)
+        return std::bit_cast<T>(Bits{1} << (exponent + top - 1 + fraction));
+    return T(0);
+}
+
+// With these scale factors a product rounds to the same integer whether subnormals are kept or
+// flushed, and however it is rounded where it is subnormal: all such products lie below one half.
+template <class T>
+bool subnormalsVanish(std::int32_t scaleFactor) {
+    return scaleFactor >= std::numeric_limits<T>::min_exponent &&
+           scaleFactor <= -std::numeric_limits<T>::min_exponent + 1;
+}
+
+// ---- floats to integers -------------------------------------------------------------------------
+struct Zero {
+    static constexpr bool usesControlWord = false;
+    template <class V>
+    Vec<std::int32_t> operator()(V v) const {
+        return toZero(v);
+    }
+    Vec<std::int64_t> wide(Vec<double> v) const { return toZero64(v); }
+};
+struct Nearest {
+    static constexpr bool usesControlWord = !kRoundingInInstruction;
+    template <class V>
+    Vec<std::int32_t> operator()(V v) const {
+        return toNearest(v);
+    }
+    Vec<std::int64_t> wide(Vec<double> v) const { return toNearest64(v); }
+};
+struct NearestAway {
+    static constexpr bool usesControlWord = !kRoundingInInstruction;
+    template <class V>
+    Vec<std::int32_t> operator()(V v) const {
+        return toNearestAway(v);
+    }
+    Vec<std::int64_t> wide(Vec<double> v) const { return toNearestAway64(v); }
+};
+
+template <class T>
+struct Unscaled {
+    Vec<T> operator()(Vec<T> v) const { return v; }
+};
+template <class T>
+struct Times {
+    T factor;
+    Vec<T> operator()(Vec<T> v) const { return v * Vec<T>::broadcast(factor); }
+};
+
+// The bound is the second operand of the minimum, so a not-a-number becomes the top value. Below
+// the range the conversion gives the most negative integer and the pack saturates it.
+template <class To, class Scale, class Round>
+struct ToInteger {
+    Scale scale;
+    Round round;
+
+    template <class From>
+    Vec<From> clamped(Vec<From> v) const {
+        return minimum(scale(v), Vec<From>::broadcast(std::numeric_limits<To>::max()));
+    }
+    Vec<std::int32_t> convert(Vec<float> v) const { return round(clamped(v)); }
+    Vec<std::int32_t> convert(Vec<double> low, Vec<double> high) const {
+        return round(Block<double, 2>{{clamped(low), clamped(high)}});
+    }
+
+    Block<To, 1> operator()(const Block<float, 4>& v) const {
+        return {{narrowSat<To>(Block<std::int32_t, 4>{
+            {convert(v.part[0]), convert(v.part[1]), convert(v.part[2]), convert(v.part[3])}})}};
+    }
+    Block<To, 1> operator()(const Block<float, 2>& v) const {
+        return {{narrowSat<To>(Block<std::int32_t, 2>{{convert(v.part[0]), convert(v.part[1])}})}};
+    }
+    Block<To, 1> operator()(const Block<float, 1>& block) const {
+        // The top integer is no float. The conversion answers the most negative integer above it
+        // and for a not-a-number; all bits of that are flipped.
+        const Vec<float> v = scale(block.part[0]);
+        const Vec<std::int32_t> inRange = v < Vec<float>::broadcast(0x1p31f);
+        return {{round(v) ^ ~inRange}};
+    }
+    Block<To, 1> operator()(const Block<double, 4>& v) const {
+        return {{narrowSat<To>(Block<std::int32_t, 2>{
+            {convert(v.part[0], v.part[1]), convert(v.part[2], v.part[3])}})}};
+    }
+    Block<To, 1> operator()(const Block<double, 2>& v) const {
+        return {{convert(v.part[0], v.part[1])}};
+    }
+};
+
+// A not-a-number stays what the conversion answers, the most negative integer.
+template <class Scale, class Round>
+struct ToInteger64 {
+    Scale scale;
+    Round round;
+
+    Block<std::int64_t, 1> operator()(const Block<double, 1>& block) const {
+        const Vec<double> v = scale(block.part[0]);
+        const Vec<std::int64_t> tooLarge = v >= Vec<double>::broadcast(0x1p63);
+        return {{round.wide(v) ^ tooLarge}};
+    }
+};
+
+template <class To, class Scale, class Round>
+using IntegerOf =
+    std::conditional_t<sizeof(To) == 8, ToInteger64<Scale, Round>, ToInteger<To, Scale, Round>>;
+
+// ---- integers to floats -------------------------------------------------------------------------
+// 2^-scaleFactor as a normal number; the exponent has been brought into the type's range.
+template <class T>
+T normalPower(std::int32_t scaleFactor) {
+    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
+    constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
+    return std::bit_cast<T>(static_cast<Bits>(bias - scaleFactor)
+                            << (std::numeric_limits<T>::digits - 1));
+}
+
+template <class Scale>
+struct ToFloat {
+    Scale scale;
+
+    Vec<float> convert(Vec<std::int32_t> v) const { return scale(toFloat(v)); }
+    Vec<float> convert(Vec<std::uint32_t> v) const { return convert(bitCast<std::int32_t>(v)); }
+
+    template <class T>
+    requires(sizeof(T) == 1) Block<float, 4>
+    operator()(const Block<T, 1>& v) const {
+        const auto w = widenTwice(v.part[0]);
+        return {{convert(w.part[0]), convert(w.part[1]), convert(w.part[2]), convert(w.part[3])}};
+    }
+    template <class T>
+    requires(sizeof(T) == 2) Block<float, 2>
+    operator()(const Block<T, 1>& v) const {
+        const auto w = widen(v.part[0]);
+        return {{convert(w.part[0]), convert(w.part[1])}};
+    }
+    Block<float, 1> operator()(const Block<std::int32_t, 1>& v) const {
+        return {{convert(v.part[0])}};
+    }
+};
+
+template <class Scale>
+struct ToDouble {
+    Scale scale;
+
+    Block<double, 2> convert(Vec<std::int32_t> v) const {
+        const auto d = toDouble(v);
+        return {{scale(d.part[0]), scale(d.part[1])}};
+    }
+    Block<double, 4> operator()(const Block<std::int16_t, 1>& v) const {
+        const auto w = widen(v.part[0]);
+        const auto low = convert(w.part[0]), high = convert(w.part[1]);
+        return {{low.part[0], low.part[1], high.part[0], high.part[1]}};
+    }
+    Block<double, 2> operator()(const Block<std::int32_t, 1>& v) const {
+        return convert(v.part[0]);
+    }
+    Block<double, 1> operator()(const Block<std::int64_t, 1>& v) const {
+        return {{toDouble(v.part[0])}};
+    }
+};
+
+// ---- floats to floats ---------------------------------------------------------------------------
+struct WidenFloat {
+    Block<double, 2> operator()(const Block<float, 1>& v) const { return toDouble(v.part[0]); }
+};
+struct NarrowDouble {
+    Block<float, 1> operator()(const Block<double, 2>& v) const { return {{toFloat(v)}}; }
+};
+
+}  // namespace vlq::convert

@@ -1,0 +1,38 @@
+// Conversions with binary16 numbers on one side; 16-bit integers go by way of 32-bit floats.
+#pragma once
+
+#include "convert/floating_kernels.h"
+#include "frame/simd/half.h"
+
+namespace vlq::convert {
+
+struct WidenHalf {
+    Block<float, 2> operator()(const Block<std::uint16_t, 1>& v) const {
+        return halfToFloat(v.part[0]);
+    }
+};
+
+template <bool kNearest>
+struct NarrowToHalf {
+    Block<std::uint16_t, 1> operator()(const Block<float, 2>& v) const {
+        return {{floatToHalf<kNearest>(v)}};
+    }
+};
+
+template <bool kNearest>
+struct IntegerToHalf {
+    Block<std::uint16_t, 1> operator()(const Block<std::int16_t, 1>& v) const {
+        const auto w = widen(v.part[0]);
+        return {{floatToHalf<kNearest>(Block<float, 2>{{toFloat(w.part[0]), toFloat(w.part[1])}})}};
+    }
+};
+
+template <class Scale, class Round>
+struct HalfToInteger {
+    ToInteger<std::int16_t, Scale, Round> convert;
+    Block<std::int16_t, 1> operator()(const Block<std::uint16_t, 1>& v) const {
+        return convert(halfToFloat(v.part[0]));
+    }
+};
+
+}  // namespace vlq::convert
