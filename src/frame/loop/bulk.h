@@ -36,21 +36,6 @@ inline constexpr std::size_t kLibraryCopiesBelow = kVecBytes == 64 ? 0 : 4096;
 inline constexpr std::size_t kCopyByWords = kVecBytes == 16 ? 4096 : 24 << 10;
 // The same for a fill, which has the first and second caches to itself.
 inline constexpr std::size_t kFillByWords = kVecBytes == 16 ? 6 << 10 : 1 << 20;
-// From here on the processor is asked for its cache, which may take microseconds.
-inline constexpr std::size_t kAskFrom = std::size_t{8} << 20;
-
-// Source and destination of a copy, together half as large again as the cache.
-inline bool copySweepsCache(std::size_t n) {
-    if (n < kAskFrom) return false;
-    const std::size_t cache = cacheBytes();
-    return cache != 0 && n >= cache / 4 * 3;
-}
-inline bool fillSweepsCache(std::size_t n) {
-    if (n < kAskFrom) return false;
-    const std::size_t cache = cacheBytes();
-    return cache != 0 && n >= cache / 2 * 3;
-}
-
 // Bytes from p to the next boundary of `Boundary` bytes, 1 to Boundary.
 template <std::size_t Boundary>
 inline std::size_t toNextBoundary(const Byte* p) {
@@ -221,7 +206,7 @@ inline void copyLong(Byte* dst, const Byte* src, std::size_t n) {
         std::memcpy(dst, src, n);
     } else if (n < kCopyByWords) {
         copyUpwards(dst, src, n);
-    } else if (copySweepsCache(n)) {
+    } else if (exceedsCache(2 * n)) {
         copyStreaming(dst, src, n);
     } else {
         copyByWords(dst, src, n);
@@ -339,7 +324,7 @@ inline void fillLong(Byte* dst, std::size_t n, Vec<Byte> pattern) {
         const std::size_t words = static_cast<std::size_t>(end - start) / 8;
         fillWords(start, firstWord(pattern), words);
         store(end - B, pattern);
-    } else if (Period > 8 && fillSweepsCache(n)) {
+    } else if (Period > 8 && exceedsCache(n)) {
         fillVectors(start, end, pattern, kPastCache);
         streamFence();
     } else {
