@@ -1,5 +1,5 @@
 #include "arith/logic_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 namespace {
 
