@@ -154,8 +154,8 @@ VlqStatus vlqsConvert_64s64f(const Vlq64s* src, Vlq64f* dst, Vlq32u len);
  * `16s32f`, -1008 to 1022 in `16s64f`, -127 to 126 in `32s32f`, -1023 to 1022 in `32s64f`. A
  * product beyond the range of the float type is infinite.
  *
- * With a @p scaleFactor of 15, vlqsConvert_16s32f_Sfs() gives the usual x / 32768; see also @ref
- * vlqs_split_scaled, which scales differently.
+ * With a @p scaleFactor of 15, vlqsConvert_16s32f_Sfs() gives the usual x / 32768; see also
+ * @ref vlqs_split_scaled, which scales differently.
  *
  * **Shapes.** Both vectors have @p len elements and any alignment. If the types are equally wide,
  * @p dst may equal @p src; the vectors must not overlap in any other way.
@@ -386,8 +386,8 @@ VlqStatus vlqsConvert_24u32u(const Vlq8u* src, Vlq32u* dst, Vlq32s len);
  * @defgroup vlqs_convert_to_24 Wider samples to packed 24-bit integers, scaled
  * @ingroup vlqs_convert
  *
- * `dst[i] = sat(round(src[i] * 2^-scaleFactor))`, to nearest with ties to even. An element of @p
- * dst is three bytes, least significant byte first, without a gap to the next. In the integer
+ * `dst[i] = sat(round(src[i] * 2^-scaleFactor))`, to nearest with ties to even. An element of
+ * @p dst is three bytes, least significant byte first, without a gap to the next. In the integer
  * variants a scale factor above 31 counts as 31. In the float variants the product is formed in
  * single precision; 2^-scaleFactor is infinite or zero where it is beyond that range, and a NaN
  * gives the largest value.

@@ -79,14 +79,15 @@ VLQCORE_API Vlq64u vlqGetEnabledCpuFeatures(void);
 /**
  * Returns the number of threads that a library call may use, at least 1.
  *
- * The count is that of vlqSetNumThreads(), else that of the environment variable OMP_NUM_THREADS,
- * else 1; it never exceeds the number of processors in the affinity mask. So threads are off until
- * one of the two raises the count. Block FIR filters with float or double taps use them; everything
- * else runs on the calling thread.
+ * The count is 1, so threads are off, unless vlqSetNumThreads() or the environment variable
+ * OMP_NUM_THREADS, read when the core library is loaded, allows more. The processors in the
+ * affinity mask are the limit in either case. Block FIR filters with float or double taps use more
+ * than one thread; everything else runs on the calling thread alone.
  *
- * Threads live only within a call: between calls the library has none, so a process may fork(), and
- * parent and child may both go on. As with any threaded program, do not fork while another thread
- * is inside a call whose results the child needs.
+ * A call starts threads only for work that is long enough to pay for them, and they end within the
+ * call. Between calls the library has no threads, so a process may call fork(), and parent and
+ * child may both go on using it. As in any threaded program, a child must not use a state or spec
+ * that another thread was working on at the moment of the fork.
  *
  * @return the number of threads.
  */

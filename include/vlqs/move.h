@@ -277,10 +277,10 @@ VlqStatus vlqsSwapBytes_64u_I(Vlq64u* srcDst, Vlq32s len);
  *
  * Bits are numbered from the most significant bit of each byte.
  *
- * vlqsCopy_1u() copies @p len bits from bit @p srcBitOffset of @p src to bit @p dstBitOffset of @p
- * dst. Each offset is taken modulo 8: the pointer must already point to the byte that contains the
- * first bit. Bits of @p dst outside the range keep their values, and no byte without a bit in the
- * range is read or written.
+ * vlqsCopy_1u() copies @p len bits from bit @p srcBitOffset of @p src to bit @p dstBitOffset of
+ * @p dst. Each offset is taken modulo 8: the pointer must already point to the byte that contains
+ * the first bit. Bits of @p dst outside the range keep their values, and no byte without a bit in
+ * the range is read or written.
  *
  * vlqsPackBits_32u8u() writes the low `widths[i]` bits of each `src[i]`, most significant bit
  * first, one after the other, starting at bit @p dstBitOffset of @p dst; here an offset of 8 or
