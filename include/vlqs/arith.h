@@ -57,6 +57,7 @@ VLQS_BEGIN_DECLS
  *
  * @{
  */
+
 /** dst = sat(round((src1 + src2) * 2^-scaleFactor)), ties to even. */
 VlqStatus vlqsAdd_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len,
                          Vlq32s scaleFactor);
@@ -215,6 +216,7 @@ VlqStatus vlqsSub_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = sat(round((src + val) * 2^-scaleFactor)), ties to even. */
 VlqStatus vlqsAddC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
 /** srcDst = sat(round((srcDst + val) * 2^-scaleFactor)), ties to even. */
@@ -396,6 +398,7 @@ VlqStatus vlqsSubCRev_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = sat(round(src1 * src2 * 2^-scaleFactor)), ties to even. */
 VlqStatus vlqsMul_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len,
                          Vlq32s scaleFactor);
@@ -477,6 +480,7 @@ VlqStatus vlqsMul_32sc_ISfs(const Vlq32sc* src, Vlq32sc* srcDst, Vlq32s len, Vlq
  *
  * @{
  */
+
 /** dst = sat(round(src * val * 2^-scaleFactor)), ties to even. */
 VlqStatus vlqsMulC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
 /** srcDst = sat(round(srcDst * val * 2^-scaleFactor)), ties to even. */
@@ -543,6 +547,7 @@ VlqStatus vlqsMulC_Low_32f16s(const Vlq32f* src, Vlq32f val, Vlq16s* dst, Vlq32s
  *
  * @{
  */
+
 /** srcDst = sat(round((srcDst + src1 * src2) * 2^-scaleFactor)), ties to even. */
 VlqStatus vlqsAddProduct_16s_Sfs(const Vlq16s* src1, const Vlq16s* src2, Vlq16s* srcDst, Vlq32s len,
                                  Vlq32s scaleFactor);
@@ -582,6 +587,7 @@ VlqStatus vlqsAddProduct_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s*
  *
  * @{
  */
+
 /** dst = src1 * src2. */
 VlqStatus vlqsMul_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len);
 /** srcDst = srcDst * src. */
@@ -629,6 +635,7 @@ VlqStatus vlqsMul_16s32f(const Vlq16s* src1, const Vlq16s* src2, Vlq32f* dst, Vl
  *
  * @{
  */
+
 /** dst = src * val. */
 VlqStatus vlqsMulC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len);
 /** srcDst = srcDst * val. */
@@ -671,6 +678,7 @@ VlqStatus vlqsMulC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** srcDst = srcDst + src1 * src2, the product rounded before the addition. */
 VlqStatus vlqsAddProduct_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* srcDst, Vlq32s len);
 /** srcDst = srcDst + src1 * src2, the product rounded before the addition. */
@@ -718,6 +726,7 @@ VlqStatus vlqsAddProductC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* srcDst, Vlq
  *
  * @{
  */
+
 /** dst = sat(round(src2 / src1 * 2^-scaleFactor)), ties to even: src1 is the divisor. */
 VlqStatus vlqsDiv_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len,
                          Vlq32s scaleFactor);
@@ -781,6 +790,7 @@ VlqStatus vlqsDiv_16sc_ISfs(const Vlq16sc* src, Vlq16sc* srcDst, Vlq32s len, Vlq
  *
  * @{
  */
+
 /** dst = sat(round(src2 / src1 * 2^-scaleFactor)), rounded by rndMode: src1 is the divisor. */
 VlqStatus vlqsDiv_Round_8u_Sfs(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len,
                                VlqRoundMode rndMode, Vlq32s scaleFactor);
@@ -827,6 +837,7 @@ VlqStatus vlqsDiv_Round_16u_ISfs(const Vlq16u* src, Vlq16u* srcDst, Vlq32s len,
  *
  * @{
  */
+
 /** dst = sat(round(src * (2^-scaleFactor / val))), ties to even; val is not 0. */
 VlqStatus vlqsDivC_8u_Sfs(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
 /** srcDst = sat(round(srcDst * (2^-scaleFactor / val))), ties to even; val is not 0. */
@@ -876,6 +887,7 @@ VlqStatus vlqsDivC_64s_ISfs(Vlq64s val, Vlq64s* srcDst, Vlq32s len, Vlq32s scale
  *
  * @{
  */
+
 /** dst = round(val / src), ties to even; val / 0 gives 65535, 0 / 0 gives 0. */
 VlqStatus vlqsDivCRev_16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len);
 /** srcDst = round(val / srcDst), ties to even; val / 0 gives 65535, 0 / 0 gives 0. */
@@ -917,6 +929,7 @@ VlqStatus vlqsDivCRev_32f_I(Vlq32f val, Vlq32f* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src2 / src1: src1 is the divisor. */
 VlqStatus vlqsDiv_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len);
 /** srcDst = srcDst / src: src is the divisor. */
@@ -960,6 +973,7 @@ VlqStatus vlqsDiv_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src / val, by the reciprocal of val, which is not 0. */
 VlqStatus vlqsDivC_32f(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len);
 /** srcDst = srcDst / val, by the reciprocal of val, which is not 0. */
@@ -1001,6 +1015,7 @@ VlqStatus vlqsDivC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src1 & src2. */
 VlqStatus vlqsAnd_8u(const Vlq8u* src1, const Vlq8u* src2, Vlq8u* dst, Vlq32s len);
 /** srcDst = srcDst & src. */
@@ -1062,6 +1077,7 @@ VlqStatus vlqsXor_32u_I(const Vlq32u* src, Vlq32u* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src & val. */
 VlqStatus vlqsAndC_8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len);
 /** srcDst = srcDst & val. */
@@ -1121,6 +1137,7 @@ VlqStatus vlqsXorC_32u_I(Vlq32u val, Vlq32u* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = ~src. */
 VlqStatus vlqsNot_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
 /** srcDst = ~srcDst. */
@@ -1162,6 +1179,7 @@ VlqStatus vlqsNot_32u_I(Vlq32u* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src << val; high bits are lost, without saturation. */
 VlqStatus vlqsLShiftC_8u(const Vlq8u* src, Vlq32s val, Vlq8u* dst, Vlq32s len);
 /** srcDst = srcDst << val; high bits are lost, without saturation. */

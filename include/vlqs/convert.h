@@ -39,6 +39,7 @@ VLQS_BEGIN_DECLS
  *
  * @{
  */
+
 /** dst = src, exact: 8-bit integers to 16 bits. */
 VlqStatus vlqsConvert_8s16s(const Vlq8s* src, Vlq16s* dst, Vlq32s len);
 /** dst = src, exact: 16-bit integers to 32 bits. */
@@ -68,6 +69,7 @@ VlqStatus vlqsConvert_16s32s(const Vlq16s* src, Vlq32s* dst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = sat(src): 32-bit integers to 16 bits. */
 VlqStatus vlqsConvert_32s16s(const Vlq32s* src, Vlq16s* dst, Vlq32s len);
 /** dst = sat(round(src * 2^-scaleFactor)), ties to even: 32-bit integers to 16 bits. */
@@ -98,6 +100,7 @@ VlqStatus vlqsConvert_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst, Vlq32s len, Vlq
  *
  * @{
  */
+
 /** dst = sat(round(src * 2^-scaleFactor)), rounded by rndMode: 16-bit integers to 8 bits. */
 VlqStatus vlqsConvert_16s8s_Sfs(const Vlq16s* src, Vlq8s* dst, Vlq32u len, VlqRoundMode rndMode,
                                 Vlq32s scaleFactor);
@@ -128,6 +131,7 @@ VlqStatus vlqsConvert_64s32s_Sfs(const Vlq64s* src, Vlq32s* dst, Vlq32s len, Vlq
  *
  * @{
  */
+
 /** dst = src, exact: 8-bit integers to floats. */
 VlqStatus vlqsConvert_8s32f(const Vlq8s* src, Vlq32f* dst, Vlq32s len);
 /** dst = src, exact: unsigned 8-bit integers to floats. */
@@ -172,6 +176,7 @@ VlqStatus vlqsConvert_64s64f(const Vlq64s* src, Vlq64f* dst, Vlq32u len);
  *
  * @{
  */
+
 /** dst = src * 2^-scaleFactor: 16-bit integers to floats. */
 VlqStatus vlqsConvert_16s32f_Sfs(const Vlq16s* src, Vlq32f* dst, Vlq32s len, Vlq32s scaleFactor);
 /** dst = src * 2^-scaleFactor: 16-bit integers to doubles. */
@@ -204,6 +209,7 @@ VlqStatus vlqsConvert_32s64f_Sfs(const Vlq32s* src, Vlq64f* dst, Vlq32s len, Vlq
  *
  * @{
  */
+
 /** dst = src, exact: floats to doubles. */
 VlqStatus vlqsConvert_32f64f(const Vlq32f* src, Vlq64f* dst, Vlq32s len);
 /** dst = src, rounded by the thread's rounding mode: doubles to floats. */
@@ -238,6 +244,7 @@ VlqStatus vlqsConvert_64f32f(const Vlq64f* src, Vlq32f* dst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = sat(round(src * 2^-scaleFactor)), rounded by rndMode: floats to 8 bits. */
 VlqStatus vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len, VlqRoundMode rndMode,
                                 Vlq32s scaleFactor);
@@ -285,6 +292,7 @@ VlqStatus vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len, Vlq
  *
  * @{
  */
+
 /** dst = src, exact: half floats to floats. */
 VlqStatus vlqsConvert_16f32f(const Vlq16f* src, Vlq32f* dst, Vlq32s len);
 /** @} */
@@ -315,6 +323,7 @@ VlqStatus vlqsConvert_16f32f(const Vlq16f* src, Vlq32f* dst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src rounded by rndMode: 16-bit integers to half floats. */
 VlqStatus vlqsConvert_16s16f(const Vlq16s* src, Vlq16f* dst, Vlq32s len, VlqRoundMode rndMode);
 /** dst = src rounded by rndMode: floats to half floats. */
@@ -346,6 +355,7 @@ VlqStatus vlqsConvert_32f16f(const Vlq32f* src, Vlq16f* dst, Vlq32s len, VlqRoun
  *
  * @{
  */
+
 /** dst = sat(round(src * 2^-scaleFactor)), rounded by rndMode: half floats to 16 bits. */
 VlqStatus vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len, VlqRoundMode rndMode,
                                  Vlq32s scaleFactor);
@@ -372,6 +382,7 @@ VlqStatus vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len, Vlq
  *
  * @{
  */
+
 /** dst = src, exact: packed 24-bit integers to floats. */
 VlqStatus vlqsConvert_24s32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
 /** dst = src, exact: packed 24-bit integers to 32 bits. */
@@ -409,6 +420,7 @@ VlqStatus vlqsConvert_24u32u(const Vlq8u* src, Vlq32u* dst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = sat(round(src * 2^-scaleFactor)), ties to even: floats to packed 24 bits. */
 VlqStatus vlqsConvert_32f24s_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor);
 /** dst = sat(round(src * 2^-scaleFactor)), ties to even: floats to packed unsigned 24 bits. */
@@ -450,6 +462,7 @@ VlqStatus vlqsConvert_32u24u_Sfs(const Vlq32u* src, Vlq8u* dst, Vlq32s len, Vlq3
  *
  * @{
  */
+
 /** dstRows[c][f] = (src[f * channels + c] + 0.5) / 32767.5, a float in [-1, 1]. */
 VlqStatus vlqsSplitScaled_16s32f_D2L(const Vlq16s* src, Vlq32f* const* dstRows, Vlq32s channels,
                                      Vlq32s frames);
@@ -489,6 +502,7 @@ VlqStatus vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRows, V
  *
  * @{
  */
+
 /** dst[f * channels + c] = round(clamp(srcRows[c][f], -1, 1) * 32767.5 - 0.5), ties to even. */
 VlqStatus vlqsJoinScaled_32f16s_D2L(Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames,
                                     Vlq16s* dst);

@@ -86,6 +86,7 @@ typedef struct VlqsFFTSpec_R_64f VlqsFFTSpec_R_64f; /**< double precision */
  *
  * @{
  */
+
 /** Sizes in bytes of the spec and its buffers: complex float FFT of 2^order points. */
 VlqStatus vlqsFFTGetSize_C_32fc(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
                                 Vlq32s* initBytes, Vlq32s* workBytes);
@@ -177,6 +178,7 @@ VlqStatus vlqsFFTFree_C_64f(VlqsFFTSpec_C_64f* spec);
  *
  * @{
  */
+
 /** X[k] = s * sum x[n] exp(-2 pi i n k / N). */
 VlqStatus vlqsFFTFwd_CToC_32fc(const Vlq32fc* src, Vlq32fc* dst, const VlqsFFTSpec_C_32fc* spec,
                                Vlq8u* buf);
@@ -264,6 +266,7 @@ VlqStatus vlqsFFTInv_CToC_64f_I(Vlq64f* srcDstRe, Vlq64f* srcDstIm, const VlqsFF
  *
  * @{
  */
+
 /** Sizes in bytes of the spec and its buffers: real float FFT of 2^order points. */
 VlqStatus vlqsFFTGetSize_R_32f(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
                                Vlq32s* initBytes, Vlq32s* workBytes);
@@ -332,6 +335,7 @@ VlqStatus vlqsFFTFree_R_64f(VlqsFFTSpec_R_64f* spec);
  *
  * @{
  */
+
 /** Forward FFT of N real samples to a CCS spectrum of N + 2 values. */
 VlqStatus vlqsFFTFwd_RToCCS_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec,
                                 Vlq8u* buf);
@@ -454,6 +458,7 @@ typedef struct VlqsFFTSpec_R_16s32s VlqsFFTSpec_R_16s32s;
  *
  * @{
  */
+
 /** Sizes in bytes of the spec and its buffers: complex 16-bit FFT of 2^order points. */
 VlqStatus vlqsFFTGetSize_C_16sc(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
                                 Vlq32s* initBytes, Vlq32s* workBytes);
@@ -592,6 +597,7 @@ VlqStatus vlqsFFTFree_R_16s32s(VlqsFFTSpec_R_16s32s* spec);
  *
  * @{
  */
+
 /** X[k] = s * 2^-scaleFactor * sum x[n] exp(-2 pi i n k / N). */
 VlqStatus vlqsFFTFwd_CToC_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, const VlqsFFTSpec_C_16sc* spec,
                                    Vlq32s scaleFactor, Vlq8u* buf);
@@ -752,6 +758,7 @@ VlqStatus vlqsFFTInv_CCSToR_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst,
  *
  * @{
  */
+
 /** dst = srcA * srcB, bin by bin of two Pack spectra. */
 VlqStatus vlqsMulPack_32f(const Vlq32f* srcA, const Vlq32f* srcB, Vlq32f* dst, Vlq32s len);
 /** srcDst = src * srcDst, bin by bin of two Pack spectra. */
@@ -797,6 +804,7 @@ VlqStatus vlqsMulPerm_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = srcA * srcB, bin by bin of two Pack spectra, times 2^-scaleFactor, truncated. */
 VlqStatus vlqsMulPack_16s_Sfs(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len,
                               Vlq32s scaleFactor);
@@ -831,6 +839,7 @@ VlqStatus vlqsMulPerm_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vl
  *
  * @{
  */
+
 /** srcDst = src * conj(srcDst), bin by bin of two Pack spectra: srcDst is conjugated. */
 VlqStatus vlqsMulPackConj_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len);
 /** srcDst = src * conj(srcDst), bin by bin of two Pack spectra: srcDst is conjugated. */
@@ -862,6 +871,7 @@ VlqStatus vlqsMulPackConj_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** Expands a CCS spectrum to len complex values. */
 VlqStatus vlqsConjCcs_16sc(const Vlq16s* src, Vlq16sc* dst, Vlq32s len);
 /** Expands a CCS spectrum to len complex values in place, from the front of srcDst. */

@@ -96,6 +96,7 @@ typedef struct VlqsFIRState64f_16s VlqsFIRState64f_16s; /**< double taps, 16-bit
  *
  * @{
  */
+
 /** Size in bytes of a filter state: 32f taps and samples. */
 VlqStatus vlqsFIRGetStateSize_32f(Vlq32s tapsLen, Vlq32s* stateBytes);
 /** Size in bytes of a filter state: 32f taps, 16s samples. */
@@ -251,6 +252,7 @@ VlqStatus vlqsFIRFree64f_16s(VlqsFIRState64f_16s* state);
  *
  * @{
  */
+
 /** Replaces the taps, keeps the delay line: 32f taps and samples. */
 VlqStatus vlqsFIRSetTaps_32f(const Vlq32f* taps, VlqsFIRState_32f* state);
 /** Replaces the taps, keeps the delay line: 32f taps, 16s samples. */
@@ -367,6 +369,7 @@ VlqStatus vlqsFIRGetDlyLine64f_16s(const VlqsFIRState64f_16s* state, Vlq16s* dly
  *
  * @{
  */
+
 /** Releases a state of vlqsFIRInit_32s(): calls vlqsFIRFree64f_32s(). */
 static inline VlqStatus vlqsFIRFree_32s(VlqsFIRState_32s* state) {
     return vlqsFIRFree64f_32s(state);
@@ -425,6 +428,7 @@ static inline VlqStatus vlqsFIRGetDlyLine_32s(const VlqsFIRState_32s* state, Vlq
  *
  * @{
  */
+
 /** dst = sum h[k] x[n-k], h and x 32f. */
 VlqStatus vlqsFIR_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, VlqsFIRState_32f* state);
 /** srcDst = sum h[k] x[n-k], h and x 32f. */
@@ -574,6 +578,7 @@ VlqStatus vlqsFIROne64f_16s_Sfs(Vlq16s src, Vlq16s* dst, VlqsFIRState64f_16s* st
  *
  * @{
  */
+
 /** Stateless: dst = sum h[k] x[n-k], h and x 32f. */
 VlqStatus vlqsFIR_Direct_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, const Vlq32f* taps,
                              Vlq32s tapsLen, Vlq32f* dlyLine, Vlq32s* dlyLineIndex);
@@ -790,6 +795,7 @@ VlqStatus vlqsFIROne64f_Direct_32s_ISfs(Vlq32s* srcDst, const Vlq64f* taps, Vlq3
  *
  * @{
  */
+
 /** Size in bytes of a multi-rate filter state: 32f taps and samples. */
 VlqStatus vlqsFIRMRGetStateSize_32f(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor,
                                     Vlq32s* stateBytes);
@@ -960,6 +966,7 @@ VlqStatus vlqsFIRMRInitAlloc64fc_16sc(VlqsFIRState64fc_16sc** outState, const Vl
  *
  * @{
  */
+
 /** Multi-rate: dst = sum h[p+iU] x[q-i], h and x 32f. */
 VlqStatus vlqsFIRMR_Direct_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s numIters, const Vlq32f* taps,
                                Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase, Vlq32s downFactor,
@@ -1149,6 +1156,7 @@ typedef VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc32fc;
  *
  * @{
  */
+
 /** Size in bytes of a filter state: 16s taps and samples. */
 VlqStatus vlqsFIRGetStateSize_16s(Vlq32s tapsLen, Vlq32s* stateBytes);
 /** Size in bytes of a filter state: 32s taps, 16s samples. */
@@ -1224,6 +1232,7 @@ VlqStatus vlqsFIRFree32sc_16sc(VlqsFIRState32sc_16sc* state);
  *
  * @{
  */
+
 /** Replaces the taps, keeps the delay line: 16s taps and samples, h = taps * 2^tapsFactor. */
 VlqStatus vlqsFIRSetTaps_16s(const Vlq16s* taps, VlqsFIRState_16s* state, Vlq32s tapsFactor);
 /** Replaces the taps, keeps the delay line: 32s taps, 16s samples, h = taps * 2^tapsFactor. */
@@ -1296,6 +1305,7 @@ VlqStatus vlqsFIRGetDlyLine32sc_16sc(const VlqsFIRState32sc_16sc* state, Vlq16sc
  *
  * @{
  */
+
 /** dst = sat(round(2^(f - scaleFactor) * sum g[k] x[n-k])), 32-bit sums that wrap. */
 VlqStatus vlqsFIR_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, VlqsFIRState_16s* state,
                           Vlq32s scaleFactor);
@@ -1362,6 +1372,7 @@ VlqStatus vlqsFIROne32sc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState32sc_16
  *
  * @{
  */
+
 /** Stateless: dst = sat(round(2^-(scaleFactor + 15) * sum h[k] x[n-k])), h and x 16s. */
 VlqStatus vlqsFIR_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq16s* taps,
                                  Vlq32s tapsLen, Vlq16s* dlyLine, Vlq32s* dlyLineIndex,
@@ -1462,6 +1473,7 @@ VlqStatus vlqsFIROne32sc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq32sc* taps, 
  *
  * @{
  */
+
 /** Size in bytes of a multi-rate filter state: 16s taps and samples. */
 VlqStatus vlqsFIRMRGetStateSize_16s(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor,
                                     Vlq32s* stateBytes);
@@ -1565,6 +1577,7 @@ VlqStatus vlqsFIRMRInitAlloc32sc_16sc32fc(VlqsFIRState32sc_16sc32fc** outState, 
  *
  * @{
  */
+
 /** Multi-rate: dst = sat(round(2^-scaleFactor * sum h[p+iU] x[q-i])), h and x 16s. */
 VlqStatus vlqsFIRMR_Direct_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s numIters,
                                    const Vlq16s* taps, Vlq32s tapsLen, Vlq32s upFactor,

@@ -65,6 +65,7 @@ const VlqLibraryVersion* vlqsGetLibVersion(void);
  *
  * @{
  */
+
 /** Allocates a vector of len unsigned 8-bit integers. */
 Vlq8u* vlqsMalloc_8u(Vlq32s len);
 /** Allocates a vector of len 8-bit integers. */

@@ -29,6 +29,7 @@ VLQS_BEGIN_DECLS
  *
  * @{
  */
+
 /** dst = 0, every bit cleared. */
 VlqStatus vlqsZero_8u(Vlq8u* dst, Vlq32s len);
 /** dst = 0, every bit cleared. */
@@ -72,6 +73,7 @@ VlqStatus vlqsZero_64fc(Vlq64fc* dst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = val, bit for bit. */
 VlqStatus vlqsSet_8u(Vlq8u val, Vlq8u* dst, Vlq32s len);
 /** dst = val, bit for bit. */
@@ -117,6 +119,7 @@ VlqStatus vlqsSet_64fc(Vlq64fc val, Vlq64fc* dst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src; the vectors must not overlap. */
 VlqStatus vlqsCopy_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
 /** dst = src; the vectors must not overlap. */
@@ -160,6 +163,7 @@ VlqStatus vlqsCopy_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src; the vectors may overlap. */
 VlqStatus vlqsMove_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
 /** dst = src; the vectors may overlap. */
@@ -205,6 +209,7 @@ VlqStatus vlqsMove_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len);
  *
  * @{
  */
+
 /** dst[i] = src[len - 1 - i]. */
 VlqStatus vlqsFlip_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
 /** Reverses srcDst in place. */
@@ -253,6 +258,7 @@ VlqStatus vlqsFlip_64fc_I(Vlq64fc* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** dst = src with the order of the 2 bytes of every element reversed. */
 VlqStatus vlqsSwapBytes_16u(const Vlq16u* src, Vlq16u* dst, Vlq32s len);
 /** Reverses the order of the 2 bytes of every element of srcDst. */
@@ -308,6 +314,7 @@ VlqStatus vlqsSwapBytes_64u_I(Vlq64u* srcDst, Vlq32s len);
  *
  * @{
  */
+
 /** Copies len bits, starting at bit offsets counted from the most significant bit of a byte. */
 VlqStatus vlqsCopy_1u(const Vlq8u* src, Vlq32s srcBitOffset, Vlq8u* dst, Vlq32s dstBitOffset,
                       Vlq32s len);
