@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "harness/effort.h"
 #include "vlqs.h"
 
 namespace {
@@ -174,9 +175,7 @@ TEST(EntryTable, AliasRows) {
 }
 
 TEST(EntryTable, NothingIsWritableButTheSlotsAndTheLoadFlag) {
-#if defined(VLQS_SANITIZED)
-    GTEST_SKIP() << "a sanitizer keeps its own state in the module";
-#endif
+    if (vlqtest::sanitized()) GTEST_SKIP() << "a sanitizer keeps its own state in the module";
     std::set<std::string> writable;
     for (const std::string& line : linesOf("objdump -t")) {
         std::istringstream fields(line);
