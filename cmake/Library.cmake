@@ -16,8 +16,6 @@ set(VLQS_arch_v4 x86-64-v4)
 function(vlqs_set_up_library target version_script)
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-  target_compile_options(${target} PRIVATE
-    -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vlqs_flags>)
   target_link_options(${target} PRIVATE
     -Wl,-z,text -Wl,-z,now -Wl,--enable-new-dtags -Wl,--version-script=${version_script})
@@ -39,7 +37,8 @@ function(vlqs_add_library target level)
   # No contraction and no fast mathematics: a result is what the source says. A fused
   # multiply-add is written where it is meant.
   target_compile_options(${target} PRIVATE
-    -march=${VLQS_arch_${level}} -ffp-contract=off -fno-math-errno)
+    -march=${VLQS_arch_${level}} -fvisibility=hidden -fvisibility-inlines-hidden
+    -ffp-contract=off -fno-math-errno -fno-exceptions)
   target_link_libraries(${target} PUBLIC vlqcore PRIVATE m Threads::Threads)
   set_target_properties(${target} PROPERTIES
     OUTPUT_NAME vlqs

@@ -33,7 +33,7 @@ std::atomic<bool> signalsBlocked{true};
 
 }  // namespace
 
-#if !defined(VLQS_SANITIZED)
+#if !defined(VLQS_EAGER_TEAMS)
 // In the place of the system's: counts, and refuses when told to.
 extern "C" int pthread_create(pthread_t* id, const pthread_attr_t* attributes,
                               void* (*start)(void*), void* argument) {
@@ -134,7 +134,7 @@ bool sameBits(const std::vector<float>& a, const std::vector<float>& b) {
     return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(float)) == 0;
 }
 
-#if !defined(VLQS_SANITIZED)
+#if !defined(VLQS_EAGER_TEAMS)
 TEST_F(Teams, StartOnlyForMoreThanOneThreadAndLongWork) {
     const auto src = noise(kSamples, 1);
     const std::vector<float> shortBlock(src.begin(), src.begin() + 1601);
