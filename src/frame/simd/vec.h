@@ -188,6 +188,10 @@ inline T loadScalar(const T* p) {
     std::memcpy(&value, p, sizeof(T));
     return value;
 }
+template <class T>
+inline void storeScalar(T* p, T value) {
+    std::memcpy(p, &value, sizeof(T));
+}
 // p stands on a boundary of the vector.
 template <class T, int B = kVecBytes>
 inline Vec<T, B> loadAligned(const T* p) {
