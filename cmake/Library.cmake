@@ -1,6 +1,7 @@
 # vlqs_add_library(target TAG s2 SIMD_BYTES 16 ARCH x86-64 DIR subdir)
 # One build of the one source for one instruction set. All builds carry the same file name and
 # soname; DIR is where the build lies below the library directory, installed and in the build tree.
+find_package(Threads REQUIRED)
 file(GLOB_RECURSE VLQS_SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/*.cpp)
 
 function(vlqs_add_library target)
@@ -16,8 +17,7 @@ function(vlqs_add_library target)
   target_compile_options(${target} PRIVATE
     -march=${ARG_ARCH} -fvisibility=hidden -fvisibility-inlines-hidden
     -ffp-contract=off -fno-math-errno -fno-exceptions)
-  find_package(OpenMP REQUIRED COMPONENTS CXX)
-  target_link_libraries(${target} PUBLIC vlqcore PRIVATE vlqs_flags OpenMP::OpenMP_CXX)
+  target_link_libraries(${target} PUBLIC vlqcore PRIVATE vlqs_flags Threads::Threads)
   target_link_options(${target} PRIVATE
     -Wl,-z,text -Wl,--enable-new-dtags
     -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/vlqs.map)

@@ -64,14 +64,15 @@ enum {
 VLQCORE_API Vlq64u vlqGetEnabledCpuFeatures(void);
 
 /**
- * @return the number of threads, at least 1, that a library call may use: what vlqSetNumThreads()
- *         set last, else the number of processors that this process may run on.
+ * @return the number of threads, at least 1, that a library call may use: 1 unless vlqSetNumThreads()
+ *         or the environment variable OMP_NUM_THREADS, read when the core library is loaded, allows
+ *         more. The processors that the process may run on are the limit in either case.
  */
 VLQCORE_API Vlq32s ownGetNumThreads(void);
 
 /**
- * Sets the number of threads that a library call may use. FIR records are sized for the count in
- * force when they are built: do not raise it while such a record is in use.
+ * Sets the number of threads that a library call may use. A call starts them only for work that is
+ * long enough to pay for it, and they end within the call.
  *
  * @param count 1 or more; below 1 returns to the default.
  */
