@@ -85,7 +85,11 @@ void checkShifts(Rng& rng) {
     }
     if constexpr (sizeof(T) > 1 || std::is_unsigned_v<T>) {
         for (int count = 1; count <= std::numeric_limits<T>::digits; ++count) {
-            const auto scaled = [&](T a) { return saturate<T>(Wide{a} * (Wide{1} << count)); };
+            const auto scaled = [&](T a) {
+                // In two steps, since 64 bits shifted by 64 do not fit a wide integer.
+                const Wide half = saturate<T>(Wide{a} * (Wide{1} << count / 2));
+                return saturate<T>(half * (Wide{1} << (count - count / 2)));
+            };
             checkUnary<T, B>(
                 rng, [&](auto a) { return shiftLeftSat(a, count); }, scaled, 50);
             if (count < bits) {
