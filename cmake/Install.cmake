@@ -11,5 +11,12 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/vlqsConfigVersion.cmake C
 install(FILES ${PROJECT_BINARY_DIR}/vlqsConfig.cmake ${PROJECT_BINARY_DIR}/vlqsConfigVersion.cmake
   DESTINATION ${package_dir})
 
+# The pkg-config file finds the rest by its own place, wherever the tree is installed or moved to.
+set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH VLQS_PREFIX_FROM_PC /prefix/${pkgconfig_dir} /prefix)
+string(REGEX REPLACE "/$" "" VLQS_PREFIX_FROM_PC "${VLQS_PREFIX_FROM_PC}")
+if(VLQS_LINKAGE STREQUAL "STATIC")
+  set(VLQS_STATIC_LIBS " -lm -pthread")
+endif()
 configure_file(cmake/vlqs.pc.in ${PROJECT_BINARY_DIR}/vlqs.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/vlqs.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${PROJECT_BINARY_DIR}/vlqs.pc DESTINATION ${pkgconfig_dir})

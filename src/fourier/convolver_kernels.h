@@ -1,22 +1,22 @@
-// The step in the middle of a real filter by transforms. A real signal of N points goes through the
-// complex transform of half the length, H = N/2, as z[m] = x[2m] + i x[2m+1], with the spectrum Z;
-// where X is the spectrum of the impulse response, Z of the filtered signal is
+// The middle step of filtering a real signal by transforms. The N samples are transformed as
+// z[m] = x[2m] + i x[2m+1], with spectrum Z of H = N/2 values. With X the spectrum of the impulse
+// response, that of the filtered signal is
 //
 //     Z'[k] = (s - d sin t) Z[k] + i d cos t conj Z[H-k],    t = 2 pi k / N
 //     2 s = X[k] + conj X[H-k],  2 d = X[k] - conj X[H-k]
 //
-// which is the product of the real spectra with the recombinations before and after it, in one pass
-// that goes from both ends towards the middle. At H-k stand conj s and -conj d.
+// which is the product of the real spectra and the recombinations before and after it in one pass,
+// from both ends towards the middle. At H-k, s and d are replaced by conj s and -conj d.
 #pragma once
 
 #include "fourier/kernel/real_recombine.h"
 
 namespace vlq::fft {
 
-// The factors 2/N s and 2/N d out of a spectrum in Perm form, scale being 1/N: the inverse
-// transform is then left without a division. Every block is a vector each of Re s, Im s, Re d, Im d
-// for consecutive k from 1 to H/2, in the lane order of loadSplit. At H/2, the last lane, s is real
-// and d imaginary; the other two places hold the factors of value 0, both real.
+// The factors 2/N s and 2/N d from a spectrum in Perm layout; scale = 1/N, so that the inverse
+// transform need not be scaled. A block is one vector each of Re s, Im s, Re d, Im d for consecutive
+// k from 1 to H/2, in the lane order of loadSplit. At H/2, the last lane, s is real and d imaginary;
+// the unused two elements hold the factors of value 0, both real.
 template <class T>
 inline void filterFactors(int order, T scale, const T* perm, T* factors) {
     constexpr int lanes = Vec<T>::lanes;
@@ -46,8 +46,7 @@ struct FilterFactors {
           d{loadAligned<T>(f + 2 * Vec<T>::lanes), loadAligned<T>(f + 3 * Vec<T>::lanes)} {}
 };
 
-// a holds values k and becomes their result, b holds values H-k, lane by lane. angles: cos t, -sin
-// t.
+// a: values k, b: values H-k, lane by lane; both are replaced by their results. angles: cos t, -sin t.
 template <class T>
 [[gnu::always_inline]] inline void filterStep(Split<T, kVecBytes>& a, Split<T, kVecBytes>& b,
                                               FilterFactors<T> f, const T* angles) {
@@ -57,7 +56,7 @@ template <class T>
     const S p{mulAdd(sine, f.d.re, f.s.re), mulAdd(sine, f.d.im, f.s.im)};
     const S q{mulSubFrom(sine, f.d.re, f.s.re), mulSubFrom(sine, f.d.im, f.s.im)};
     const S g{cosine * f.d.re, cosine * f.d.im};
-    // p a + i g conj b, and of q conj b - i g a the conjugate
+    // p a + i g conj b, and the conjugate of q conj b - i g a
     const S front{mulSubFrom(g.im, b.re, mulAdd(g.re, b.im, mulSubFrom(p.im, a.im, p.re * a.re))),
                   mulAdd(g.im, b.im, mulAdd(g.re, b.re, mulAdd(p.im, a.re, p.re * a.im)))};
     b = {mulAdd(g.im, a.re, mulAdd(g.re, a.im, mulAdd(q.im, b.im, q.re * b.re))),
@@ -65,7 +64,7 @@ template <class T>
     a = front;
 }
 
-// Values 0 and H/2, which have no partner: their parts as read before the pass.
+// Values 0 and H/2, which have no partner, as they are before the pass.
 template <class T>
 struct LoneValues {
     T startRe, startIm, middleRe, middleIm;
@@ -82,7 +81,7 @@ struct LoneValues {
     }
 };
 
-// z: H values of Z, in place, interleaved.
+// Z, H interleaved values, in place.
 template <class T>
 inline void filterInterleaved(int order, const T* angles, const T* factors, T* z) {
     constexpr int lanes = Vec<T>::lanes;
@@ -100,8 +99,8 @@ inline void filterInterleaved(int order, const T* angles, const T* factors, T* z
     lone.put(factors, half, z, z + 1, half);
 }
 
-// The same with the values in Blocks. Blocks of the lower half begin a value too early for their
-// partners, so each gives all but its first value to a run, and the next one its first.
+// The same with the values in Blocks. A block of the lower half begins one value too early for its
+// partner: the pass works on all but its first value, and the first of the next block.
 template <class T>
 inline void filterBlocks(int order, const T* angles, const T* factors, T* z) {
     using S = Split<T, kVecBytes>;
