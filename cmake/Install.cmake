@@ -1,4 +1,4 @@
-# Headers, CMake package, pkg-config file; the libraries are installed where they are declared.
+# Headers, CMake package, pkg-config file, documents; libraries are installed where they are declared.
 include(CMakePackageConfigHelpers)
 
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
@@ -20,3 +20,9 @@ if(VLQS_LINKAGE STREQUAL "STATIC")
 endif()
 configure_file(cmake/vlqs.pc.in ${PROJECT_BINARY_DIR}/vlqs.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/vlqs.pc DESTINATION ${pkgconfig_dir})
+
+# What a user reads; the manual if it has been built.
+install(FILES LICENSE README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY examples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples FILES_MATCHING PATTERN "*.[ch]")
+install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/html DESTINATION ${CMAKE_INSTALL_DOCDIR} OPTIONAL)
+install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/man3 DESTINATION ${CMAKE_INSTALL_MANDIR} OPTIONAL)

@@ -20,12 +20,7 @@ check() {  # check NAME COMMAND...
 check "cmake --install" cmake --install "$build" --prefix "$prefix"
 lib=$(dirname "$(find "$prefix" -name 'libvlqs.so.7' -not -path '*hwcaps*')")
 
-header() {  # header COMPILER STANDARD LANGUAGE
-    "$1" -std="$2" -Wall -Wextra -Wpedantic -Werror -I"$prefix/include" -fsyntax-only -x "$3" "$prefix/include/vlqs.h"
-}
-check "headers are C99" header cc c99 c
-check "headers are C11" header cc c11 c
-check "headers are C++" header c++ c++11 c++
+"$repo/tests/install/headers.sh" "$prefix/include"
 
 # In a project without C++.
 cmake_consumer() {  # cmake_consumer PREFIX NAME LIBRARIES

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# run.sh REPO: the public headers as a user's compiler and editor see them: every standard from C99
-# and C++11 on with GCC and Clang, each header on its own, and a line of documentation for every
-# function.
+# headers.sh FOLDER: the headers in FOLDER as a user's compiler and editor see them: every standard
+# from C99 and C++11 on with GCC and Clang, each header on its own, and a line of documentation for
+# every function.
 set -u
 cd "$1" || exit 1
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
-warnings=(-Wall -Wextra -Wpedantic -Wshadow -Wcast-qual -Wundef -Werror -Iinclude -fsyntax-only)
-headers=(vlqs.h $(cd include && ls vlqs/*.h))
+warnings=(-Wall -Wextra -Wpedantic -Wshadow -Wcast-qual -Wundef -Werror -I. -fsyntax-only)
+headers=(vlqs.h vlqs/*.h)
 
 check() {  # check NAME COMMAND...
     local name=$1
@@ -44,7 +44,7 @@ check "the comments are well-formed" includes vlqs.h clang-14 c c99 -Wdocumentat
 # Clang attaches a comment to the declaration that follows it. Prints every function of the headers
 # that has none, or only the comment that opens its group.
 undocumented() {
-    clang-14 -std=c99 -Iinclude -fsyntax-only -Xclang -ast-dump -fno-color-diagnostics -x c include/vlqs.h |
+    clang-14 -std=c99 -I. -fsyntax-only -Xclang -ast-dump -fno-color-diagnostics -x c vlqs.h |
         awk '
             /^[|`]-/ {
                 if (name != "" && !documented) print name
@@ -72,7 +72,7 @@ every_function() {
     seen=$(cat "$log.count")
     rm -f "$log.count"
     # Counted another way, so that a dump in another format cannot pass for an empty list.
-    declared=$(grep -hoE '^[A-Za-z][A-Za-z0-9_ *]*[ *](vlqs?[A-Z0-9][A-Za-z0-9_]*|ownGetNumThreads)\(' include/vlqs.h include/vlqs/*.h | wc -l)
+    declared=$(grep -hoE '^[A-Za-z][A-Za-z0-9_ *]*[ *](vlqs?[A-Z0-9][A-Za-z0-9_]*|ownGetNumThreads)\(' vlqs.h vlqs/*.h | wc -l)
     echo "$seen functions in the syntax tree, $declared declarations"
     if [ -n "$missing" ]; then echo "without a line: $missing"; fi
     [ "$seen" -eq "$declared" ] && [ "$seen" -gt 900 ] && [ -z "$missing" ]
