@@ -179,9 +179,9 @@ VlqStatus vlqsSub_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len);
  * @defgroup vlqs_add_constant Sum and difference of a vector and a constant
  * @ingroup vlqs_arith
  *
- * `AddC`: `dst[i] = src[i] + val`. `SubC`: `dst[i] = src[i] - val`. `SubCRev`: `dst[i] = val -
- * src[i]`. In place, `srcDst` takes the place of both vectors. Results are rounded and saturated
- * like those of two vectors.
+ * `AddC`: `dst[i] = src[i] + val`. `SubC`: `dst[i] = src[i] - val`. `SubCRev`:
+ * `dst[i] = val - src[i]`. In place, `srcDst` takes the place of both vectors. Results are rounded
+ * and saturated like those of two vectors.
  *
  * vlqsAddC_64s_Sfs() and vlqsAddC_64u_Sfs() keep the exact sum for every @p scaleFactor and round
  * by @p rndMode: #vlqRndZero towards zero, #vlqRndNear to nearest with ties to even, any other
@@ -563,9 +563,10 @@ VlqStatus vlqsAddProduct_32s_Sfs(const Vlq32s* src1, const Vlq32s* src2, Vlq32s*
  * @defgroup vlqs_mul_float Products of floats
  * @ingroup vlqs_arith
  *
- * `dst[i] = src1[i] * src2[i]`; in place `srcDst[i] = srcDst[i] * src[i]`. Complex: `(a + bi)(c +
- * di) = (ac - bd) + (ad + bc)i`. `16s32f` multiplies 16-bit integers exactly and converts the
- * product. `32f32fc` multiplies both parts of the complex second vector by the real first one.
+ * `dst[i] = src1[i] * src2[i]`; in place `srcDst[i] = srcDst[i] * src[i]`. Complex:
+ * `(a + bi)(c + di) = (ac - bd) + (ad + bc)i`. `16s32f` multiplies 16-bit integers exactly and
+ * converts the product. `32f32fc` multiplies both parts of the complex second vector by the real
+ * first one.
  *
  * Each product and each sum is rounded on its own in the precision of the elements, in every build;
  * infinities and NaNs follow IEEE 754 and cause no status.

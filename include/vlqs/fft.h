@@ -23,18 +23,24 @@ VLQS_BEGIN_DECLS
  * Real spectra have three layouts, see @ref vlqs_fft_real.
  */
 
-/** @defgroup vlqs_fft_complex_specs Specs of complex transforms, opaque
+/**
+ * @defgroup vlqs_fft_complex_specs Specs of complex transforms, opaque
  * @ingroup vlqs_fft
- *  @{ */
+ *
+ * @{
+ */
 typedef struct VlqsFFTSpec_C_32fc VlqsFFTSpec_C_32fc; /**< interleaved single precision */
 typedef struct VlqsFFTSpec_C_32f VlqsFFTSpec_C_32f;   /**< split single precision: re, im arrays */
 typedef struct VlqsFFTSpec_C_64fc VlqsFFTSpec_C_64fc; /**< interleaved double precision */
 typedef struct VlqsFFTSpec_C_64f VlqsFFTSpec_C_64f;   /**< split double precision: re, im arrays */
 /** @} */
 
-/** @defgroup vlqs_fft_real_specs Specs of real transforms, opaque
+/**
+ * @defgroup vlqs_fft_real_specs Specs of real transforms, opaque
  * @ingroup vlqs_fft
- *  @{ */
+ *
+ * @{
+ */
 typedef struct VlqsFFTSpec_R_32f VlqsFFTSpec_R_32f; /**< single precision */
 typedef struct VlqsFFTSpec_R_64f VlqsFFTSpec_R_64f; /**< double precision */
 /** @} */
@@ -398,9 +404,12 @@ VlqStatus vlqsFFTInv_PermToR_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSp
 VlqStatus vlqsFFTInv_PermToR_64f_I(Vlq64f* srcDst, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
 /** @} */
 
-/** @defgroup vlqs_fft_fixed_specs Specs of fixed-point transforms, opaque
+/**
+ * @defgroup vlqs_fft_fixed_specs Specs of fixed-point transforms, opaque
  * @ingroup vlqs_fft
- *  @{ */
+ *
+ * @{
+ */
 typedef struct VlqsFFTSpec_C_16sc VlqsFFTSpec_C_16sc; /**< interleaved 16 bits */
 typedef struct VlqsFFTSpec_C_16s VlqsFFTSpec_C_16s;   /**< split 16 bits: re, im arrays */
 typedef struct VlqsFFTSpec_R_16s VlqsFFTSpec_R_16s;   /**< real, 16 bits */
@@ -572,9 +581,9 @@ VlqStatus vlqsFFTFree_R_16s32s(VlqsFFTSpec_R_16s32s* spec);
  * a float (for 32-bit elements, of a double) it is infinite; a value of 0 then becomes NaN and is
  * stored as the largest integer.
  *
- * **Shapes.** Complex vectors have N elements, signals N, spectra N or, in CCS, N + 2 (2 for N =
- * 1); an in-place vector has the larger length. Any alignment. Source and destination are the same
- * vector or do not overlap. The work buffer has the size that `GetBufSize` returns.
+ * **Shapes.** Complex vectors have N elements, signals N, spectra N or, in CCS, N + 2 (2 for
+ * N = 1); an in-place vector has the larger length. Any alignment. Source and destination are the
+ * same vector or do not overlap. The work buffer has the size that `GetBufSize` returns.
  *
  * **Errors,** in the order tested: #vlqStsNullPtr for a null spec, #vlqStsBadSpec for a spec that
  * was freed or is of another kind, #vlqStsNullPtr for a null vector, #vlqStsNoMemory.
@@ -821,9 +830,9 @@ VlqStatus vlqsMulPerm_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len, Vl
  * @defgroup vlqs_packed_mul_conj Product of a Pack spectrum with a conjugate
  * @ingroup vlqs_fft
  *
- * The spectrum of a cyclic correlation: real bins are multiplied, complex bins give `srcDst = src *
- * conj(srcDst)`. Note that the destination is the one that is conjugated. The layout is that of the
- * products of Pack spectra.
+ * The spectrum of a cyclic correlation: real bins are multiplied, complex bins give
+ * `srcDst = src * conj(srcDst)`. Note that the destination is the one that is conjugated. The
+ * layout is that of the products of Pack spectra.
  *
  * **Shapes.** Both vectors have @p len elements and any alignment; they are equal or do not
  * overlap.

@@ -30,10 +30,14 @@ VLQS_BEGIN_DECLS
  * see @ref vlqs_fir_integer before you choose one.
  */
 
-/** @defgroup vlqs_fir_states States of FIR filters, opaque
- * @ingroup vlqs_fir The first type is that of the taps, the second that of the samples; a single
- * type is both.
- *  @{ */
+/**
+ * @defgroup vlqs_fir_states States of FIR filters, opaque
+ * @ingroup vlqs_fir
+ *
+ * The first type is that of the taps, the second that of the samples; a single type is both.
+ *
+ * @{
+ */
 typedef struct VlqsFIRState_32f VlqsFIRState_32f;       /**< float taps, float samples */
 typedef struct VlqsFIRState32f_16s VlqsFIRState32f_16s; /**< float taps, 16-bit samples */
 typedef struct VlqsFIRState_32fc VlqsFIRState_32fc;     /**< complex float taps and samples */
@@ -413,8 +417,8 @@ static inline VlqStatus vlqsFIRGetDlyLine_32s(const VlqsFIRState_32s* state, Vlq
  * **Errors,** in the order tested: #vlqStsNullPtr for a null pointer, #vlqStsBadSize for @p len
  * below 1, #vlqStsBadSpec for a state of another kind, #vlqStsNoMemory.
  *
- * **Memory.** Allocates nothing, with one exception: an in-place call with a multi-rate state and U
- * > D allocates a copy of the samples for the duration of the call.
+ * **Memory.** Allocates nothing, with one exception: an in-place call with a multi-rate state and
+ * U > D allocates a copy of the samples for the duration of the call.
  *
  * **Source.** Overlap-save: A. V. Oppenheim, R. W. Schafer, Discrete-Time Signal Processing, on
  * implementing linear time-invariant systems with the DFT.
@@ -746,14 +750,14 @@ VlqStatus vlqsFIROne64f_Direct_32s_ISfs(Vlq32s* srcDst, const Vlq64f* taps, Vlq3
  *
  * A multi-rate filter raises the rate of a stream by U = @p upFactor, filters it at that high rate
  * with @p tapsLen taps h, and lowers the rate by D = @p downFactor, all in one: it multiplies by no
- * inserted zero and computes no output that is dropped. With D = 1 it is an interpolator, with U =
- * 1 a decimator.
+ * inserted zero and computes no output that is dropped. With D = 1 it is an interpolator, with
+ * U = 1 a decimator.
  *
  * Count the steps of the high rate. Samples arrive at steps P, P + U, P + 2 U, ..., P = @p upPhase;
  * outputs leave at steps Q, Q + D, Q + 2 D, ..., Q = @p downPhase. The output at step t is
  *
- * `y = sum over i of h[p + i U] * x[q - i]`, q = floor((t - P) / U), p = t - P - q U, over all i >=
- * 0 with p + i U < @p tapsLen,
+ * `y = sum over i of h[p + i U] * x[q - i]`, q = floor((t - P) / U), p = t - P - q U, over all
+ * i >= 0 with p + i U < @p tapsLen,
  *
  * where x[q] is the newest sample at that step. Filter with the calls `vlqsFIR_...` of the same
  * types, whose length then counts periods of D samples and U outputs.
@@ -1081,10 +1085,15 @@ VlqStatus vlqsFIRMR64fc_Direct_32sc_ISfs(Vlq32sc* srcDst, Vlq32s numIters, const
                                          Vlq32s scaleFactor);
 /** @} */
 
-/** @defgroup vlqs_fir_integer_states States of FIR filters with integer arithmetic, opaque
- * @ingroup vlqs_fir The first type is that of the taps, the second that of the samples. The last
- * two names are the same states with taps given as floats.
- *  @{ */
+/**
+ * @defgroup vlqs_fir_integer_states States of FIR filters with integer arithmetic, opaque
+ * @ingroup vlqs_fir
+ *
+ * The first type is that of the taps, the second that of the samples. The last two names are the
+ * same states with taps given as floats.
+ *
+ * @{
+ */
 typedef struct VlqsFIRState_16s VlqsFIRState_16s;       /**< 16-bit taps and samples */
 typedef struct VlqsFIRState32s_16s VlqsFIRState32s_16s; /**< 32-bit taps, 16-bit samples */
 /** complex 32-bit taps, complex 16-bit samples */
@@ -1129,8 +1138,8 @@ typedef VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc32fc;
  * 8,428, that is -11.8 dBFS. Instead:
  * - take `32f_16s`, whose sums are floats and never wrap;
  * - or give the taps in Q15: `taps[k] = round(h[k] * 32768)` with a @p tapsFactor of -15. Their
- *   magnitudes sum to 63,690, which is below 65,536: no sample wraps. Any filter with `sum |h[k]| <
- *   2` can be given so.
+ *   magnitudes sum to 63,690, which is below 65,536: no sample wraps. Any filter with `sum
+ *   |h[k]| < 2` can be given so.
  *
  * **Shapes.** @p taps has @p tapsLen elements, h[0] first. @p dlyLine has as many, the newest
  * sample first; if it is null, the delay line starts with zeros. Both are copied. @p buffer has the
@@ -1339,8 +1348,8 @@ VlqStatus vlqsFIROne32sc_16sc_Sfs(Vlq16sc src, Vlq16sc* dst, VlqsFIRState32sc_16
  *
  * Filters with integer taps that keep no state. The blocks vlqsFIR_Direct_16s_Sfs() and
  * vlqsFIR_Direct_16s_ISfs() take Q15 taps, `y[n] = sum over k of taps[k] * 2^-15 * x[n-k]`; all
- * others compute the same without the factor 2^-15. The result is `sat(round(y[n] *
- * 2^-scaleFactor))`, with the arithmetic of the filters with a state
+ * others compute the same without the factor 2^-15. The result is
+ * `sat(round(y[n] * 2^-scaleFactor))`, with the arithmetic of the filters with a state
  * (@ref vlqs_fir_integer_filter): 32-bit sums that wrap unless `sum |taps[k]| * X < 2^31`, rounded
  * to nearest with ties to even. The taps are used as they are.
  *
@@ -1425,8 +1434,8 @@ VlqStatus vlqsFIROne32sc_Direct_16sc_ISfs(Vlq16sc* srcDst, const Vlq32sc* taps, 
  * every D-th result, D = @p downFactor, without multiplying by the inserted zeros or computing a
  * result that is dropped. D samples give U results:
  *
- * `y[n] = sum over i of g[p + i U] * x[q - i]`, where `downPhase - upPhase + n D = q U + p`, 0 <= p
- * < U.
+ * `y[n] = sum over i of g[p + i U] * x[q - i]`, where `downPhase - upPhase + n D = q U + p`,
+ * 0 <= p < U.
  *
  * So at the high rate samples arrive at steps `upPhase + k U`, and results leave at steps
  * `downPhase + k D`.
