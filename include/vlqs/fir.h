@@ -1138,8 +1138,8 @@ typedef VlqsFIRState32sc_16sc VlqsFIRState32sc_16sc32fc;
  * 8,428, that is -11.8 dBFS. Instead:
  * - take `32f_16s`, whose sums are floats and never wrap;
  * - or give the taps in Q15: `taps[k] = round(h[k] * 32768)` with a @p tapsFactor of -15. Their
- *   magnitudes sum to 63,690, which is below 65,536: no sample wraps. Any filter with `sum
- *   |h[k]| < 2` can be given so.
+ *   magnitudes sum to 63,690, which is below 65,536: no sample wraps. Any filter whose magnitudes
+ *   sum to less than 2, with a margin for rounding, and with no tap of 1 or more can be given so.
  *
  * **Shapes.** @p taps has @p tapsLen elements, h[0] first. @p dlyLine has as many, the newest
  * sample first; if it is null, the delay line starts with zeros. Both are copied. @p buffer has the
