@@ -1,7 +1,7 @@
 // Bulk movement of bytes: copy, move and fill. By length: a few overlapping loads and stores, with
 // everything read before anything is written; a loop over an aligned destination; the string
-// instructions; and for what would sweep the cache, stores past it. The limits between them were
-// measured; they decide how data travels, never what is stored.
+// instructions; and non-temporal stores for what would sweep the cache. The lengths between them
+// (tuning.h) decide how data travels, never what is stored.
 #pragma once
 
 #include <cwchar>
@@ -9,7 +9,7 @@
 #include "frame/simd/cache.h"
 #include "frame/simd/permute.h"
 #include "frame/simd/string.h"
-#include "frame/simd/vec.h"
+#include "frame/simd/tuning.h"
 
 namespace vlq {
 
@@ -23,21 +23,6 @@ namespace detail {
 
 template <int B>
 using Bytes = Vec<Byte, B>;
-
-// The C library moves and fills with the widest vectors that the processor has. The baseline build
-// has narrow ones alone and calls it for runs of middle length; the widest gains nothing by it.
-inline constexpr bool kCLibraryIsWider = kVecBytes == 16;
-// Copies of these lengths are the library's.
-inline constexpr std::size_t kLibraryCopiesFrom = kVecBytes == 16 ? 0 : 512;
-inline constexpr std::size_t kLibraryCopiesBelow = kVecBytes == 64 ? 0 : 4096;
-
-// From here on the string instruction copies. Where vectors are narrow it is soon the wider path;
-// wide ones lose to it when source and destination no longer fit the first cache.
-inline constexpr std::size_t kCopyByWords = kVecBytes == 16 ? 4096 : 24 << 10;
-// The same for a fill, which has the first and second caches to itself.
-inline constexpr std::size_t kFillByWords = kVecBytes == 16 ? 6 << 10 : 1 << 20;
-// From here on the processor is asked for its cache, which may take microseconds.
-inline constexpr std::size_t kAskFrom = std::size_t{8} << 20;
 
 // Source and destination of a copy, together half as large again as the cache.
 inline bool copySweepsCache(std::size_t n) {
@@ -57,25 +42,14 @@ inline std::size_t toNextBoundary(const Byte* p) {
     return Boundary - reinterpret_cast<std::uintptr_t>(p) % Boundary;
 }
 
-template <class Word>
-inline Word loadWord(const Byte* p) {
-    Word w;
-    std::memcpy(&w, p, sizeof(Word));
-    return w;
-}
-template <class Word>
-inline void storeWord(Byte* p, Word w) {
-    std::memcpy(p, &w, sizeof(Word));
-}
-
 // ---- copy ---------------------------------------------------------------------------------------
 
 // n from sizeof(Word) to twice that: two words that may overlap.
 template <class Word>
 inline void copyTwoWords(Byte* dst, const Byte* src, std::size_t n) {
-    const Word first = loadWord<Word>(src), last = loadWord<Word>(src + n - sizeof(Word));
-    storeWord(dst, first);
-    storeWord(dst + n - sizeof(Word), last);
+    const Word first = loadScalar<Word>(src), last = loadScalar<Word>(src + n - sizeof(Word));
+    storeScalar<Word>(dst, first);
+    storeScalar<Word>(dst + n - sizeof(Word), last);
 }
 
 // n from N * B to 2 * N * B: N vectors from either end, N being 1, 2 or 4. Each by name: from
@@ -271,8 +245,8 @@ template <int B, int N>
 template <class Word>
 inline void fillTwoWords(Byte* dst, std::size_t n, std::uint64_t pattern) {
     const Word w = static_cast<Word>(pattern);
-    storeWord(dst, w);
-    storeWord(dst + n - sizeof(Word), w);
+    storeScalar<Word>(dst, w);
+    storeScalar<Word>(dst + n - sizeof(Word), w);
 }
 
 }  // namespace detail

@@ -4,7 +4,7 @@
 // one of the sources. Nothing outside the vectors is touched.
 #pragma once
 
-#include "frame/simd/vec.h"
+#include "frame/simd/tuning.h"
 
 namespace vlq {
 
@@ -107,7 +107,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     // The compiler may outline what ends the vector and hand it op by address. The loops have their
     // own, whose constants then stay in registers; captures by value keep them reachable.
     const Op hot = op;
-    constexpr int unroll = 4;
+    constexpr int unroll = kMapUnroll;
     while (len >= unroll * count) {
 #pragma GCC unroll 4
         for (int u = 0; u < unroll; ++u) {

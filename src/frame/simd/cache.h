@@ -7,13 +7,13 @@
 
 namespace vlq {
 
-// Bytes of the last-level cache, 0 where the processor does not tell. Asks the processor at each
-// call and keeps nothing: under a hypervisor each question takes a microsecond or two.
+// Bytes of the last-level cache, 0 where the processor does not report it. Executes CPUID at each
+// call and caches nothing: under a hypervisor that takes a microsecond or two each time.
 inline std::size_t cacheBytes() {
     unsigned a, b, c, d;
     __cpuid(0, a, b, c, d);
-    // The deterministic cache parameters, in one layout under a number of each vendor. A processor
-    // that lacks them answers with zeros: no cache of that index.
+    // The deterministic cache parameters: one layout, at a leaf number of each vendor's own. A
+    // processor without them returns zeros: no cache of that index.
     unsigned leaf = 0;
     if (b == signature_INTEL_ebx && c == signature_INTEL_ecx && d == signature_INTEL_edx && a >= 4)
         leaf = 4;
