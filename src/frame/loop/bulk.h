@@ -9,7 +9,7 @@
 #include "frame/simd/cache.h"
 #include "frame/simd/permute.h"
 #include "frame/simd/string.h"
-#include "frame/simd/vec.h"
+#include "frame/simd/tuning.h"
 
 namespace vlq {
 
@@ -24,18 +24,6 @@ namespace detail {
 template <int B>
 using Bytes = Vec<Byte, B>;
 
-// The C library moves and fills with the widest vectors that the processor has. The baseline build
-// has narrow ones alone and calls it for runs of middle length; the widest gains nothing by it.
-inline constexpr bool kCLibraryIsWider = kVecBytes == 16;
-// Copies of these lengths are the library's.
-inline constexpr std::size_t kLibraryCopiesFrom = kVecBytes == 16 ? 0 : 512;
-inline constexpr std::size_t kLibraryCopiesBelow = kVecBytes == 64 ? 0 : 4096;
-
-// From here on the string instruction copies. Where vectors are narrow it is soon the wider path;
-// wide ones lose to it when source and destination no longer fit the first cache.
-inline constexpr std::size_t kCopyByWords = kVecBytes == 16 ? 4096 : 24 << 10;
-// The same for a fill, which has the first and second caches to itself.
-inline constexpr std::size_t kFillByWords = kVecBytes == 16 ? 6 << 10 : 1 << 20;
 // Bytes from p to the next boundary of `Boundary` bytes, 1 to Boundary.
 template <std::size_t Boundary>
 inline std::size_t toNextBoundary(const Byte* p) {

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "frame/simd/cache.h"
-#include "frame/simd/vec.h"
+#include "frame/simd/tuning.h"
 
 namespace vlq {
 
@@ -128,7 +128,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     // The compiler may outline what ends the vector and hand it op by address. The loops have their
     // own, whose constants then stay in registers; captures by value keep them reachable.
     const Op hot = op;
-    constexpr int unroll = 4;
+    constexpr int unroll = kMapUnroll;
     if (detail::bypassesCache(dst, len, src...)) [[unlikely]]
         advance(detail::streamBlocks<count>(dst, len, hot, src...));
     for (D* const end = dst + len / (unroll * count) * (unroll * count); dst != end;
