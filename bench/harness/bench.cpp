@@ -1,3 +1,4 @@
+// Runs the rows with Google Benchmark and prints or appends the fastest repetition of each.
 #include "harness/bench.h"
 
 #include <benchmark/benchmark.h>

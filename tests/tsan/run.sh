@@ -9,8 +9,8 @@ repo=$(realpath "$1")
 mkdir -p "$2"
 build=$(realpath "$2")
 llvm=/usr/lib/llvm-14
-cc=${CLANG:-clang}
-cxx=${CLANGXX:-clang++}
+cc=clang-14
+cxx=clang++-14
 log=$build/tsan.log
 export OMP_TOOL_LIBRARIES=$llvm/lib/libarcher.so
 # Memory that the runtime itself touches is not instrumented.
