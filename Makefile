@@ -15,7 +15,7 @@ demo: ## Filters a voice recording, WAV=file for your own; results in build/demo
 	    "$$WAV" "build/demo/$$name-filtered.wav" "build/demo/$$name-spectrum.png"
 
 build_packages = build-essential cmake ninja-build pkg-config
-test_packages = $(build_packages) binutils clang-14 clang-format-14 libomp-14-dev libgtest-dev \
+test_packages = $(build_packages) binutils clang-14 clang-format-14 libgtest-dev \
     libsndfile1-dev libpng-dev alsa-utils
 peers = libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev gnuplot-nox
 

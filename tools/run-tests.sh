@@ -113,7 +113,6 @@ run_script() {  # run_script COMMAND...: counts its lines "[ PASS ] ..." and "[ 
 
 run_sanitized() {
     export ASAN_OPTIONS=allocator_may_return_null=1 UBSAN_OPTIONS=print_stacktrace=1
-    export LSAN_OPTIONS=suppressions=$repo/tests/harness/lsan.supp
     # The programs are not instrumented: the sanitizer's runtime comes first all the same.
     preload=$(gcc -print-file-name=libasan.so)
     export preload

@@ -7,6 +7,7 @@
 
 #include "harness/core_double.h"
 #include "harness/random.h"
+#include "harness/vector_state.h"
 #include "vlqs.h"
 
 namespace {
@@ -41,5 +42,6 @@ int main(int argc, char** argv) {
     std::printf("%s, seed %llu\n", vlqsGetLibVersion()->libraryName,
                 static_cast<unsigned long long>(runSeed));
     ::testing::UnitTest::GetInstance()->listeners().Append(new LeakCheck);
+    vlqtest::watchVectorState();
     return RUN_ALL_TESTS();
 }
