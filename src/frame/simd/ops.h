@@ -43,6 +43,18 @@ inline Double8 minimum(Double8 a, Double8 b) { return Double8(_mm512_min_pd(a.ra
 inline Double8 maximum(Double8 a, Double8 b) { return Double8(_mm512_max_pd(a.raw, b.raw)); }
 #endif
 
+// ---- square root --------------------------------------------------------------------------------
+inline Float4 squareRoot(Float4 v) { return Float4(_mm_sqrt_ps(v.raw)); }
+inline Double2 squareRoot(Double2 v) { return Double2(_mm_sqrt_pd(v.raw)); }
+#if VLQ_SIMD_BYTES >= 32
+inline Float8 squareRoot(Float8 v) { return Float8(_mm256_sqrt_ps(v.raw)); }
+inline Double4 squareRoot(Double4 v) { return Double4(_mm256_sqrt_pd(v.raw)); }
+#endif
+#if VLQ_SIMD_BYTES >= 64
+inline Float16 squareRoot(Float16 v) { return Float16(_mm512_sqrt_ps(v.raw)); }
+inline Double8 squareRoot(Double8 v) { return Double8(_mm512_sqrt_pd(v.raw)); }
+#endif
+
 // ---- fused where the build has it ---------------------------------------------------------------
 // a * b + c: one rounding in the builds with FMA, two without. For results whose last bit the
 // manual leaves open.
