@@ -18,7 +18,7 @@ build_packages = build-essential cmake ninja-build pkg-config
 peers = libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev gnuplot-nox
 
 test: ## Builds and runs every test on every build; ends with "N passed, N failed".
-	@tools/install-packages.sh $(build_packages) binutils clang-14 libomp-14-dev llvm-14 libgtest-dev \
+	@tools/install-packages.sh $(build_packages) binutils clang-14 llvm-14 libgtest-dev \
 	    libsndfile1-dev libpng-dev alsa-utils
 	@tools/run-tests.sh
 

@@ -32,8 +32,7 @@ VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s 
 // 2^-scaleFactor in the range that matters. Below -30 any quotient but 0 leaves the range of its
 // type, which takes one bit more than -31 gives to 1 / 65535.
 float quotientScale(Vlq32s scaleFactor) {
-    return powerWithin<float>(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor,
-                              kFloatLimit);
+    return floatFactor(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor);
 }
 
 template <class T, class Round>
@@ -76,9 +75,8 @@ VlqStatus scaled32s(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s 
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    return divided(
-        Quotient32s{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))}, src1,
-        src2, dst, len);
+    return divided(Quotient32s{Vec<double>::broadcast(doubleFactor(scaleFactor))}, src1, src2, dst,
+                   len);
 }
 
 VlqStatus scaled16sc(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len,
@@ -86,8 +84,7 @@ VlqStatus scaled16sc(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    const ComplexQuotient16sc op{
-        Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))};
+    const ComplexQuotient16sc op{Vec<double>::broadcast(doubleFactor(scaleFactor))};
     return divided(
         [op](const auto& d, const auto& n) {
             return vlq::Block<Vlq32s, 1>{{op(d.part[0], n.part[0])}};
@@ -113,7 +110,7 @@ VlqStatus scaledByConstant16sc(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vl
     if (val.re == 0 && val.im == 0) return vlqStsZeroDivisor;
     const StandardFloatMode hold;
     const double re = val.re, im = val.im;
-    const double factor = powerWithin<double>(scaleFactor, kDoubleLimit) / (re * re + im * im);
+    const double factor = doubleFactor(scaleFactor) / (re * re + im * im);
     vlq::map(elements(dst), len,
              TimesReciprocal16sc{Vec<double>::broadcast(re * factor),
                                  Vec<double>::broadcast(-im * factor)},
@@ -173,9 +170,8 @@ VlqStatus vlq::vlqsDiv_32s16s_Sfs(const Vlq16s* src1, const Vlq32s* src2, Vlq16s
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    return divided(
-        Quotient32s{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))}, src1,
-        src2, dst, len);
+    return divided(Quotient32s{Vec<double>::broadcast(doubleFactor(scaleFactor))}, src1, src2, dst,
+                   len);
 }
 VlqStatus vlq::vlqsDiv_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len,
                                 Vlq32s scaleFactor) {

@@ -3,10 +3,11 @@
 // but for 0 / 0: the infinity of the others saturates by the sign of the numerator.
 #pragma once
 
-#include <bit>
+#include <algorithm>
 
 #include "frame/loop/any.h"
 #include "frame/loop/map.h"
+#include "frame/scale/power_of_two.h"
 #include "frame/scale/scale.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
@@ -14,19 +15,15 @@
 
 namespace vlq::divide {
 
-// 2^-scaleFactor, not above 2^limit nor below 2^-limit: quotients past these saturate or are 0.
-template <class T>
-inline T powerWithin(std::int32_t scaleFactor, std::int32_t limit) {
-    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
-    constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
-    const std::int32_t exponent = scaleFactor > limit    ? -limit
-                                  : scaleFactor < -limit ? limit
-                                                         : -scaleFactor;
-    return std::bit_cast<T>(static_cast<Bits>(exponent + bias)
-                            << (std::numeric_limits<T>::digits - 1));
+// 2^-scaleFactor as the factor of a quotient. Clamping keeps the factor normal, and beyond these
+// limits every quotient saturates or becomes 0 anyway: quotients of 16-bit integers lie between
+// 2^-17 and 2^17, those of 32-bit integers and of complex 16-bit integers between 2^-33 and 2^33.
+inline float floatFactor(std::int32_t scaleFactor) {
+    return scaleFactorPower<float>(std::clamp(scaleFactor, -60, 60));
 }
-inline constexpr std::int32_t kFloatLimit = 60;    // quotients of up to 17 bits either way
-inline constexpr std::int32_t kDoubleLimit = 120;  // of up to 33 bits
+inline double doubleFactor(std::int32_t scaleFactor) {
+    return scaleFactorPower<double>(std::clamp(scaleFactor, -120, 120));
+}
 
 // ---- rounding -----------------------------------------------------------------------------------
 struct Nearest {

@@ -41,7 +41,7 @@ VlqStatus toInteger(const From* src, To* dst, std::int64_t len, VlqRoundMode mod
     if (scaleFactor == 0)
         withScale(Unscaled<From>{});
     else
-        withScale(Times<From>{stepwisePower<From>(scaleFactor)});
+        withScale(Times<From>{vlq::scaleFactorPower<From>(scaleFactor)});
     return vlqStsOk;
 }
 
@@ -50,8 +50,9 @@ template <template <class> class Op, class T, class From>
 VlqStatus toScaled(const From* src, T* dst, Vlq32s len, Vlq32s scaleFactor, int lowest,
                    int highest) {
     if (scaleFactor == 0) return plain(src, dst, len, Op<Unscaled<T>>{});
-    return plain(src, dst, len,
-                 Op<Times<T>>{{normalPower<T>(std::clamp(scaleFactor, lowest, highest))}});
+    return plain(
+        src, dst, len,
+        Op<Times<T>>{{vlq::scaleFactorPower<T>(std::clamp(scaleFactor, lowest, highest))}});
 }
 
 }  // namespace

@@ -1,30 +1,15 @@
 // Conversions with a float on one side or both. A kernel that rounds runs under StandardFloatMode.
 #pragma once
 
-#include <bit>
 #include <limits>
 
 #include "frame/loop/map.h"
+#include "frame/scale/power_of_two.h"
 #include "frame/simd/convert.h"
 #include "frame/simd/int64.h"
 #include "frame/simd/ops.h"
 
 namespace vlq::convert {
-
-// 2^-scaleFactor as doubling or halving 1 step by step gives it: subnormal, zero or infinite past
-// the type's range.
-template <class T>
-T stepwisePower(std::int32_t scaleFactor) {
-    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
-    constexpr int fraction = std::numeric_limits<T>::digits - 1;
-    constexpr int top = std::numeric_limits<T>::max_exponent - 1;
-    const std::int64_t exponent = -std::int64_t{scaleFactor};
-    if (exponent > top) return std::numeric_limits<T>::infinity();
-    if (exponent > -top) return std::bit_cast<T>(static_cast<Bits>(exponent + top) << fraction);
-    if (exponent >= 1 - top - fraction)
-        return std::bit_cast<T>(Bits{1} << (exponent + top - 1 + fraction));
-    return T(0);
-}
 
 // With these scale factors a product rounds to the same integer whether subnormals are kept or
 // flushed, and however it is rounded where it is subnormal: all such products lie below one half.
@@ -127,15 +112,6 @@ using IntegerOf =
     std::conditional_t<sizeof(To) == 8, ToInteger64<Scale, Round>, ToInteger<To, Scale, Round>>;
 
 // ---- integers to floats -------------------------------------------------------------------------
-// 2^-scaleFactor as a normal number; the exponent has been brought into the type's range.
-template <class T>
-T normalPower(std::int32_t scaleFactor) {
-    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
-    constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
-    return std::bit_cast<T>(static_cast<Bits>(bias - scaleFactor)
-                            << (std::numeric_limits<T>::digits - 1));
-}
-
 template <class Scale>
 struct ToFloat {
     Scale scale;

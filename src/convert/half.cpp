@@ -52,7 +52,7 @@ VlqStatus vlq::vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len
         if (scaleFactor == 0) {
             vlq::mapBlocks(dst, len, HalfToInteger<Unscaled<float>, Round>{}, src);
         } else {
-            const Times<float> scale{stepwisePower<float>(scaleFactor)};
+            const Times<float> scale{vlq::scaleFactorPower<float>(scaleFactor)};
             vlq::mapBlocks(dst, len, HalfToInteger<Times<float>, Round>{{scale, {}}}, src);
         }
     });

@@ -40,7 +40,7 @@ VlqStatus floatToPacked(const Vlq32f* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleF
     if (scaleFactor == 0) {
         vlq::mapToPacked24(dst, src, len, ToPacked<FloatTo24<Unscaled<float>>>{{{}, low, high}});
     } else {
-        const Times<float> scale{stepwisePower<float>(scaleFactor)};
+        const Times<float> scale{vlq::scaleFactorPower<float>(scaleFactor)};
         vlq::mapToPacked24(dst, src, len, ToPacked<FloatTo24<Times<float>>>{{scale, low, high}});
     }
     return vlqStsOk;

@@ -2,11 +2,10 @@
 
 #include <cstring>
 
-#include "fourier/kernel/convolver_kernels.h"
+#include "fourier/convolver_kernels.h"
 #include "fourier/kernel/regimes.h"
 #include "fourier/plan/complex_plan.h"
 #include "fourier/plan/fft_passes.h"
-#include "fourier/plan/floating_specs.h"
 #include "vlqs/arith.h"
 
 namespace {
@@ -63,7 +62,7 @@ VlqStatus makeReal(T* response, T* filter, const Spec* spec, Vlq8u* buf) {
 template <class T, class Spec>
 VlqStatus applyReal(const T* src, T* dst, const T* filter, const Spec* spec, Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
-    if (spec->ident != kWord<Spec>) return vlqStsBadSpec;
+    if (spec->ident != kTag<Spec>) return vlqStsBadSpec;
     const int order = spec->order;
     if (!isOnePass<T>(order)) {
         const VlqStatus status = forwardPerm(src, dst, spec, buf);
@@ -92,7 +91,7 @@ VlqStatus applyReal(const T* src, T* dst, const T* filter, const Spec* spec, Vlq
 template <class T, class C, class Spec>
 VlqStatus applyComplex(const C* src, C* dst, const C* filter, const Spec* spec, Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
-    if (spec->ident != kWord<Spec>) return vlqStsBadSpec;
+    if (spec->ident != kTag<Spec>) return vlqStsBadSpec;
     const WorkBuffer work(buf, spec->workBytes);
     if (work.refused()) return vlqStsNoMemory;
     T* const values = reinterpret_cast<T*>(dst);

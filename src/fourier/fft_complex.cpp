@@ -1,6 +1,5 @@
 #include "fourier/kernel/complex_transform.h"
 #include "fourier/plan/complex_plan.h"
-#include "fourier/plan/floating_specs.h"
 #include "fourier/plan/lifecycle.h"
 
 namespace {
@@ -12,12 +11,11 @@ template <class SpecType, class T>
 struct ComplexKind {
     using Spec = SpecType;
     using Element = T;
-    static constexpr Vlq32s ident = kWord<SpecType>;
+    static constexpr Vlq32s ident = kTag<SpecType>;
     static constexpr int largestOrder = ComplexLimits<T>::largest;
     static PlanSizes sizes(int order) { return complexSizes<T>(order); }
-    static void build(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
-                      Cursor& cursor) {
-        buildComplexTables<T>(record, order, sine, cursor);
+    static void build(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cursor& cursor) {
+        buildComplexTables<T>(spec, order, sine, cursor);
     }
 };
 using C_32fc = ComplexKind<VlqsFFTSpec_C_32fc, Vlq32f>;

@@ -1,11 +1,11 @@
 // Transforms of 16-bit samples: short ones in integers, the others in floating point.
 #include "fourier/fixed_by_float.h"
 #include "fourier/kernel/fixed.h"
-#include "fourier/kernel/real_transform.h"
+#include "fourier/kernel/layouts.h"
 
-struct vlq::VlqsFFTSpec_C_16sc : vlq::fft::FixedRecord16<vlq::VlqsFFTSpec_C_32fc> {};
-struct vlq::VlqsFFTSpec_C_16s : vlq::fft::FixedRecord16<vlq::VlqsFFTSpec_C_32f> {};
-struct vlq::VlqsFFTSpec_R_16s : vlq::fft::FixedRecord16<vlq::VlqsFFTSpec_R_32f> {};
+struct vlq::VlqsFFTSpec_C_16sc : vlq::fft::FixedSpec16<vlq::VlqsFFTSpec_C_32fc> {};
+struct vlq::VlqsFFTSpec_C_16s : vlq::fft::FixedSpec16<vlq::VlqsFFTSpec_C_32f> {};
+struct vlq::VlqsFFTSpec_R_16s : vlq::fft::FixedSpec16<vlq::VlqsFFTSpec_R_32f> {};
 
 namespace {
 
@@ -142,14 +142,14 @@ void realInIntegers(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s& spe
     const Vlq64s shift = shiftOf<direction>(spec, scaleFactor);
     auto* const x = reinterpret_cast<Fixed*>(work);
     for (int i = 0; i < n; ++i)
-        x[i] = widen(scalarAt(src + (forward ? i : placeOf<layout>(i, n))), order);
+        x[i] = widen(loadScalar(src + (forward ? i : placeOf<layout>(i, n))), order);
     fixedRealTransform<forward>(order, x);
     for (int i = 0; i < n; ++i) {
-        putScalar(dst + (forward ? placeOf<layout>(i, n) : i), narrow(halved(spec, x[i]), shift));
+        storeScalar(dst + (forward ? placeOf<layout>(i, n) : i), narrow(halved(spec, x[i]), shift));
     }
     if (forward && layout == Layout::ccs) {
-        putScalar<Vlq16s>(dst + 1, 0);
-        putScalar<Vlq16s>(dst + n + 1, 0);
+        storeScalar<Vlq16s>(dst + 1, 0);
+        storeScalar<Vlq16s>(dst + n + 1, 0);
     }
 }
 
@@ -161,8 +161,8 @@ VlqStatus real(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s* spec, Vl
     if (!src || !dst) return vlqStsNullPtr;
     constexpr bool forward = direction == Direction::forward;
     if (spec->order == 0) {
-        putScalar(dst, scaled(scalarAt(src), scaleFactor));
-        if (forward && layout == Layout::ccs) putScalar<Vlq16s>(dst + 1, 0);
+        storeScalar(dst, scaled(loadScalar(src), scaleFactor));
+        if (forward && layout == Layout::ccs) storeScalar<Vlq16s>(dst + 1, 0);
         return vlqStsOk;
     }
     const WorkBuffer work(buf, spec->workBytes);

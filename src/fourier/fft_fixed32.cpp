@@ -1,11 +1,11 @@
 // Transforms of 32-bit samples, and of 16-bit signals with 32-bit spectra.
 #include "fourier/fixed_by_float.h"
-#include "fourier/kernel/real_transform.h"
+#include "fourier/kernel/layouts.h"
 
-struct vlq::VlqsFFTSpec_C_32sc : vlq::fft::FixedRecord32<vlq::VlqsFFTSpec_C_64fc> {};
-struct vlq::VlqsFFTSpec_C_32s : vlq::fft::FixedRecord32<vlq::VlqsFFTSpec_C_64f> {};
-struct vlq::VlqsFFTSpec_R_32s : vlq::fft::FixedRecord32<vlq::VlqsFFTSpec_R_64f> {};
-struct vlq::VlqsFFTSpec_R_16s32s : vlq::fft::FixedRecord32<vlq::VlqsFFTSpec_R_32f> {};
+struct vlq::VlqsFFTSpec_C_32sc : vlq::fft::FixedSpec32<vlq::VlqsFFTSpec_C_64fc> {};
+struct vlq::VlqsFFTSpec_C_32s : vlq::fft::FixedSpec32<vlq::VlqsFFTSpec_C_64f> {};
+struct vlq::VlqsFFTSpec_R_32s : vlq::fft::FixedSpec32<vlq::VlqsFFTSpec_R_64f> {};
+struct vlq::VlqsFFTSpec_R_16s32s : vlq::fft::FixedSpec32<vlq::VlqsFFTSpec_R_32f> {};
 
 namespace {
 
@@ -262,7 +262,7 @@ VlqStatus vlq::vlqsFFTFwd_RToCCS_16s32s_Sfs(const Vlq16s* src, Vlq32s* dst,
     const Vlq32s n = Vlq32s{1} << spec->order;
     const VlqStatus status = throughFloats<R_16s32s>(src, n, dst, n, *spec, scaleFactor,
                                                      work.data(), vlq::vlqsFFTFwd_RToPerm_32f_I);
-    if (status == vlqStsOk) fft::detail::permToLayout<Layout::ccs>(dst, n);
+    if (status == vlqStsOk) permToLayout<Layout::ccs>(dst, n);
     return status;
 }
 VlqStatus vlq::vlqsFFTInv_CCSToR_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst,

@@ -2,6 +2,8 @@
 // own work area, which thereby stays aligned, and behind it the values.
 #pragma once
 
+#include "fourier/kernel/complex_transform.h"
+#include "fourier/kernel/layouts.h"
 #include "fourier/plan/fixed_plan.h"
 #include "vlqs/convert.h"
 #include "vlqs/fft.h"
@@ -83,7 +85,7 @@ VlqStatus throughFloats(const From* src, Vlq32s srcLen, To* dst, Vlq32s dstLen,
     auto* const values = valuesIn<Kind>(spec, work);
     toFloat(src, values, srcLen);
     const VlqStatus status =
-        call(reinterpret_cast<typename Kind::Value*>(values), spec.floatRecord, work);
+        call(reinterpret_cast<typename Kind::Value*>(values), spec.floatSpec, work);
     if (status == vlqStsOk) toFixed(values, dst, dstLen, scaleFactor);
     return status;
 }
@@ -96,7 +98,7 @@ VlqStatus splitThroughFloats(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
     auto* const im = re + n;
     toFloat(srcRe, re, n);
     toFloat(srcIm, im, n);
-    const VlqStatus status = call(re, im, spec.floatRecord, work);
+    const VlqStatus status = call(re, im, spec.floatSpec, work);
     if (status != vlqStsOk) return status;
     toFixed(re, dstRe, n, scaleFactor);
     toFixed(im, dstIm, n, scaleFactor);

@@ -1,5 +1,5 @@
-// Records of the fixed-point transforms: a header, and behind it the record of the floating
-// transform that does the work.
+// Specs of the fixed-point transforms: a header, followed by the spec of the floating transform that
+// does the work.
 #pragma once
 
 #include <new>
@@ -8,33 +8,33 @@
 
 namespace vlq::fft {
 
-// 16-bit samples. Orders 0 to 3 may run in integers and then have no floating record.
+// 16-bit samples. Orders 0 to 3 may run in integers and then have no floating spec.
 template <class Inner>
-struct FixedRecord16 {
+struct FixedSpec16 {
     Vlq32s ident;
     Vlq32s order;
-    Vlq32s fwdShift;  // what normalisation shifts right in integers
+    Vlq32s fwdShift;  // normalization of the integer path: shift to the right ...
     Vlq32s invShift;
-    Vlq32s halfStep;  // and whether it multiplies by 1/sqrt(2) besides
+    Vlq32s halfStep;  // ... and 1 when it also multiplies by 1/sqrt(2)
     Vlq32s hint;
     Vlq32s workBytes;
-    Vlq32s useFloat;  // runs on floatRecord
+    Vlq32s useFloat;  // runs on floatSpec
     Vlq32s owned;
-    RelPtr<Vlq32s> bitRevTable;  // of the integer path, whose constants stand in its code: null
+    RelPtr<Vlq32s> bitRevTable;  // null: the constants of the integer path are in its code
     RelPtr<Vlq16s> twiddleTable;
     RelPtr<Vlq16s> realTwiddle;
-    RelPtr<Inner> floatRecord;
+    RelPtr<Inner> floatSpec;
 };
 
-// 32-bit results: always in floating point, which also normalises.
+// 32-bit spectra: always in floating point, which also normalizes.
 template <class Inner>
-struct FixedRecord32 {
+struct FixedSpec32 {
     Vlq32s ident;
     Vlq32s order;
     Vlq32s hint;
     Vlq32s workBytes;
     Vlq32s owned;
-    RelPtr<Inner> floatRecord;
+    RelPtr<Inner> floatSpec;
 };
 
 // The integer path of the 16-bit kinds.
@@ -45,9 +45,9 @@ constexpr bool runsInIntegers(int order, VlqHint hint) {
 
 inline constexpr Vlq64s kFixedHeader = 128;  // a header and its alignment
 
-// A fixed-point Kind gives its Spec, ident, Float with the calls of the floating kind, dataBytes()
-// of the floating values in the work buffer, is16; a 16-bit one also integerWork(). Sizes that do
-// not fit, at the largest orders, wrap.
+// A fixed-point Kind names its Spec, ident, is16, Float with the calls of the floating kind, and
+// dataBytes(), the size of the floating values in the work buffer; a 16-bit one also integerWork().
+// Sizes that do not fit 32 bits, at the largest orders, wrap.
 template <class Kind>
 VlqStatus fixedGetSize(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
                        Vlq32s* initBytes, Vlq32s* workBytes) {
@@ -63,7 +63,7 @@ VlqStatus fixedGetSize(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specByte
         if (order == 0) {
             sizes = {116, 0, 0};
         } else if (runsInIntegers(order, hint)) {
-            // What tables of twiddles and of a bit reversal for eight values would take.
+            // Sized for tables of twiddles and of a bit reversal, which it does not need.
             sizes = {64 * (Kind::isReal ? 3 : 2) + kFixedHeader, 128,
                      Kind::integerWork(order) + 64};
         }
@@ -97,7 +97,7 @@ VlqStatus fixedInit(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, Vl
     Spec* const spec = ::new (alignUp(specMem, kTableAlignment)) Spec{};
     spec->hint = hint;
     spec->order = order;
-    if (!isNormalisation(flag)) return vlqStsBadFlag;
+    if (!isNormalization(flag)) return vlqStsBadFlag;
     bool useFloat = true;
     if constexpr (Kind::is16) {
         setShifts(*spec, order, flag);
@@ -114,7 +114,7 @@ VlqStatus fixedInit(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, Vl
         if (status != vlqStsOk) return status;
         const Vlq64s innerWork = bytes > 0 ? bytes - 64 : 0;
         spec->workBytes = static_cast<Vlq32s>(innerWork + Kind::dataBytes(order));
-        spec->floatRecord = inner;
+        spec->floatSpec = inner;
     }
     spec->ident = Kind::ident;
     *outSpec = spec;

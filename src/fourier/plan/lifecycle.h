@@ -1,22 +1,36 @@
-// Planning calls of the floating transforms, the same for every kind. A Kind gives the record's
-// type, its element, its word, the largest order, and sizes() and build() of its tables.
+// Planning calls of the floating transforms, the same for every kind. A Kind names the type of the
+// spec, its element, its tag and the largest order, and provides sizes() and build() of its tables.
 #pragma once
 
-#include <cstring>
+#include <cmath>
 #include <new>
 
 #include "fourier/plan/fft_plan.h"
-#include "fourier/plan/normalization.h"
 #include "fourier/plan/twiddles.h"
 
 namespace vlq::fft {
+
+constexpr bool isNormalization(Vlq32s flag) {
+    return flag == vlqNormFwdByN || flag == vlqNormInvByN || flag == vlqNormBySqrtN ||
+           flag == vlqNormNone;
+}
+
+// Sets the fields of a cleared spec; flag is one of the four. The factors are exact but for
+// 1/sqrt(N) of an odd order.
+template <class T>
+void setNormalization(FloatSpec<T>& spec, int order, Vlq32s flag) {
+    const T n = static_cast<T>(powerOfTwo(order));
+    spec.doFwdScale = flag == vlqNormFwdByN || flag == vlqNormBySqrtN;
+    spec.doInvScale = flag == vlqNormInvByN || flag == vlqNormBySqrtN;
+    if (flag != vlqNormNone) spec.normFactor = T(1) / (flag == vlqNormBySqrtN ? std::sqrt(n) : n);
+}
 
 template <class Kind>
 VlqStatus getSize(Vlq32s order, Vlq32s flag, Vlq32s* specBytes, Vlq32s* initBytes,
                   Vlq32s* workBytes) {
     if (static_cast<Vlq32u>(order) > 30) return vlqStsBadOrder;
     if (!specBytes || !initBytes || !workBytes) return vlqStsNullPtr;
-    if (!isNormalisation(flag)) return vlqStsBadFlag;
+    if (!isNormalization(flag)) return vlqStsBadFlag;
     if (order > Kind::largestOrder) return vlqStsBadOrder;
     const PlanSizes sizes = Kind::sizes(order);
     *specBytes = static_cast<Vlq32s>(sizes.spec);
@@ -37,9 +51,9 @@ VlqStatus init(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint
     Spec* spec = ::new (cursor.take<Spec>(1, kTableAlignment)) Spec{};
     spec->hint = hint;
     spec->order = order;
-    if (!isNormalisation(flag)) return vlqStsBadFlag;
+    if (!isNormalization(flag)) return vlqStsBadFlag;
     if (order > kConstantSineOrder && !initBuf) return vlqStsNullPtr;
-    setNormalisation(*spec, order, flag);
+    setNormalization(*spec, order, flag);
     T* scratch = initBuf ? reinterpret_cast<T*>(alignUp(initBuf, kTableAlignment)) : nullptr;
     Kind::build(*spec, order, sineTable<T>(order, scratch), cursor);
     spec->ident = Kind::ident;
@@ -47,7 +61,7 @@ VlqStatus init(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint
     return vlqStsOk;
 }
 
-// A record in a block of its own, by the size query and the init call of its kind.
+// A spec in a block of its own, by the size query and the init call of its kind.
 template <class Spec, class GetSize, class Init>
 VlqStatus allocateAndInit(Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint,
                           GetSize getSizeOfKind, Init initOfKind) {

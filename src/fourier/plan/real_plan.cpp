@@ -1,13 +1,14 @@
+// Sizes and tables of the real transform.
 #include "fourier/plan/real_plan.h"
 
 #include "fourier/plan/complex_plan.h"
+#include "frame/simd/split.h"
 
 namespace vlq::fft {
 namespace {
 
-constexpr Vlq64s powerOfTwo(int exponent) { return Vlq64s{1} << exponent; }
-
-// factor(k, cosine, sine) sets the two parts of factor k = first to first + count - 1.
+// Fills groups of B bytes a part; factor(k, cosine, sine) sets both parts of factor k, for k from
+// `first` to first + count - 1.
 template <int B, class T, class Factor>
 void fillGroups(T* table, Vlq64s first, Vlq64s count, Factor factor) {
     constexpr int lanes = B / static_cast<int>(sizeof(T));
@@ -41,12 +42,11 @@ PlanSizes realSizes(int order) {
 }
 
 template <class T>
-void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
-                     Cursor& cursor) {
+void buildRealTables(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cursor& cursor) {
     using Limits = RealLimits<T>;
-    record.workBytes = 0;
+    spec.workBytes = 0;
     if (order <= Limits::straightLine) return;
-    if (order >= Limits::complexTables) buildComplexTables(record, order - 1, sine, cursor);
+    if (order >= Limits::complexTables) buildComplexTables(spec, order - 1, sine, cursor);
 
     const Vlq64s quarter = powerOfTwo(order - 2);
     const int stride = sine.order - order;
@@ -71,12 +71,12 @@ void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& s
             fillGroups<kVecBytes>(forward, 1, quarter, forwardFactor);
             fillGroups<kVecBytes>(inverse, 1, quarter, plainFactor);
         }
-        record.realTwiddleFwd = forward;
-        record.realTwiddleInv = inverse;
+        spec.realTwiddleFwd = forward;
+        spec.realTwiddleInv = inverse;
         return;
     }
 
-    // Fine factors in groups, then the coarse ones, interleaved.
+    // The fine factors in groups, then the coarse ones, interleaved.
     constexpr Vlq64s fine = powerOfTwo(Limits::fineOrder);
     const Vlq64s coarse = quarter / fine;
     auto build = [&] {
@@ -86,15 +86,13 @@ void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& s
             plainFactor(fine * b, table[2 * (fine + b)], table[2 * (fine + b) + 1]);
         return table;
     };
-    record.realTwiddleFwd = build();
-    record.realTwiddleInv = build();
+    spec.realTwiddleFwd = build();
+    spec.realTwiddleInv = build();
 }
 
 template PlanSizes realSizes<Vlq32f>(int);
 template PlanSizes realSizes<Vlq64f>(int);
-template void buildRealTables<Vlq32f>(FloatingRecord<Vlq32f>&, int, const SineTable<Vlq32f>&,
-                                      Cursor&);
-template void buildRealTables<Vlq64f>(FloatingRecord<Vlq64f>&, int, const SineTable<Vlq64f>&,
-                                      Cursor&);
+template void buildRealTables<Vlq32f>(FloatSpec<Vlq32f>&, int, const SineTable<Vlq32f>&, Cursor&);
+template void buildRealTables<Vlq64f>(FloatSpec<Vlq64f>&, int, const SineTable<Vlq64f>&, Cursor&);
 
 }  // namespace vlq::fft

@@ -1,5 +1,5 @@
-// Element-wise loops over complex vectors: an operation sees the parts of whole elements, real and
-// imaginary ones in neighbouring lanes.
+// Element-wise loops over interleaved complex vectors. Operations take and give vectors of the
+// parts, and no value is ever split over two of them.
 #pragma once
 
 #include "frame/loop/map.h"
@@ -15,25 +15,58 @@ concept ComplexSample = requires(C value) {
 template <ComplexSample C>
 using PartOf = decltype(C::re);
 
-namespace detail {
-// An element of two floats moves as one of 64 bits, so that no loop splits it; one of two doubles,
-// as a group of two.
-template <class C>
-using ElementOf = std::conditional_t<sizeof(C) == 8, std::int64_t, PartOf<C>>;
-}  // namespace detail
+// How the loop moves a complex value: two floats or 32-bit integers as one 64-bit element, two
+// doubles as a group of two elements.
+template <class Part>
+struct ComplexElement {
+    static_assert(sizeof(Part) == 4);
+    using Type = std::int64_t;
+    static constexpr int group = 1;
+};
+template <>
+struct ComplexElement<Vlq64f> {
+    using Type = double;
+    static constexpr int group = 2;
+};
 
-// dst[i] = op(src[i]...).
-template <ComplexSample C, class Op, class... Sources>
-inline void mapComplex(C* dst, std::ptrdiff_t len, Op op, const Sources*... src) {
-    using Part = PartOf<C>;
-    using Element = detail::ElementOf<C>;
-    constexpr int group = sizeof(C) / sizeof(Element);
-    mapBlocks<group>(
-        reinterpret_cast<Element*>(dst), len * group,
-        [op](const auto&... block) {
-            return Block<Element, 1>{{bitCast<Element>(op(bitCast<Part>(block.part[0])...))}};
+// An operation on vectors of parts as one on the loop's blocks of elements.
+template <class Part, class Op>
+struct OnParts {
+    using Element = typename ComplexElement<Part>::Type;
+    static constexpr bool kMarkUnused = marksUnused<Op>;
+    Op op;
+
+    template <class... B>
+    Block<Element, 1> operator()(const B&... blocks) const {
+        return {{bitCast<Element>(op(bitCast<Part>(blocks.part[0])...))}};
+    }
+};
+
+// dst[i] = op(src[i]...)
+template <class C, class Op, class... S>
+inline void mapComplex(C* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
+    using Part = decltype(C::re);
+    using Element = typename ComplexElement<Part>::Type;
+    constexpr int group = ComplexElement<Part>::group;
+    mapBlocks<group>(reinterpret_cast<Element*>(dst), len * group, OnParts<Part, Op>{op},
+                     reinterpret_cast<const Element*>(src)...);
+}
+
+// dst[i] = op(real[i], complex[i]); op sees each real value twice, once for either part.
+template <class C, class Op>
+inline void mapRealByComplex(C* dst, std::ptrdiff_t len, const Op& op, const decltype(C::re)* real,
+                             const C* complex) {
+    using Part = decltype(C::re);
+    using Element = typename ComplexElement<Part>::Type;
+    mapBlocks(
+        reinterpret_cast<Element*>(dst), len,
+        [op](const Block<Part, 1>& a, const Block<Element, 2>& b) {
+            const auto pairs = twice(a.part[0]);
+            return Block<Element, 2>{
+                {bitCast<Element>(op(pairs.part[0], bitCast<Part>(b.part[0]))),
+                 bitCast<Element>(op(pairs.part[1], bitCast<Part>(b.part[1])))}};
         },
-        reinterpret_cast<const Element*>(src)...);
+        real, reinterpret_cast<const Element*>(complex));
 }
 
 }  // namespace vlq

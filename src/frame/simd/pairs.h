@@ -1,7 +1,7 @@
-// Pairs of neighbouring 16-bit integers: sums of two products, and the way back from 32 bits.
+// Pairs of adjacent 16-bit integers: sums of two products, and narrowing back from 32 bits.
 #pragma once
 
-#include "frame/simd/vec.h"
+#include "frame/simd/horizontal.h"
 
 namespace vlq {
 
@@ -38,22 +38,7 @@ inline Vec<std::int16_t, 64> interleaveSat(Vec<std::int32_t, 64> even, Vec<std::
 // The pair at p in all lanes.
 template <int B = kVecBytes>
 inline Vec<std::int16_t, B> broadcastPair(const std::int16_t* p) {
-    std::int32_t pair;
-    std::memcpy(&pair, p, sizeof pair);
-    return bitCast<std::int16_t>(Vec<std::int32_t, B>::broadcast(pair));
-}
-
-// Sum of all lanes, wrapped.
-template <int B>
-inline std::int32_t laneSum(Vec<std::int32_t, B> v) {
-    if constexpr (B > 16) {
-        return laneSum(lowHalf(v) + highHalf(v));
-    } else {
-        const auto halves = v + fromRegister<std::int32_t>(_mm_shuffle_epi32(asInt(v), 0x4E));
-        const auto all =
-            halves + fromRegister<std::int32_t>(_mm_shuffle_epi32(asInt(halves), 0xB1));
-        return _mm_cvtsi128_si32(asInt(all));
-    }
+    return bitCast<std::int16_t>(Vec<std::int32_t, B>::broadcast(loadScalar<std::int32_t>(p)));
 }
 
 }  // namespace vlq

@@ -1,8 +1,8 @@
-// Vectors of the build's width. Operators mean what they mean on scalars, lane by lane; integer
-// addition, subtraction and multiplication wrap. Everything else has one name in this folder.
+// SIMD vectors of the build's width. Operators act lane by lane as on scalars; integer addition,
+// subtraction and multiplication wrap. Every other operation is a function of this folder.
 #pragma once
 
-// GCC 12's AVX-512 intrinsics pass undefined registers on purpose and are then warned of.
+// GCC 12 warns about its own AVX-512 intrinsics, which pass undefined registers on purpose.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wuninitialized"
 #if !defined(__clang__)
@@ -11,11 +11,13 @@
 #include <immintrin.h>
 #pragma GCC diagnostic pop
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 namespace vlq {
 
@@ -25,7 +27,7 @@ namespace vlq {
 
 inline constexpr int kVecBytes = VLQ_SIMD_BYTES;
 
-// A trait of its own: as a member typedef of a dependent class GCC drops the attribute.
+// A trait of its own: in a member typedef of a dependent class GCC drops the attribute.
 template <class T, int Bytes>
 struct Raw {
     typedef T type __attribute__((vector_size(Bytes)));
@@ -61,7 +63,7 @@ struct Vec {
     Vec() = default;
     explicit Vec(RawType r) : raw(r) {}
     static Vec broadcast(T value) {
-        // As integer lanes: a float keeps its bits, signalling not-a-numbers included.
+        // As integer lanes: a float keeps its bits, even those of a signalling NaN.
         return fromBits(std::bit_cast<BitsOf<T>>(value) - BitsRaw{});
     }
     static Vec zero() { return Vec(RawType{}); }
@@ -112,8 +114,8 @@ inline Vec<To, B> bitCast(Vec<T, B> v) {
     return Vec<To, B>((typename Vec<To, B>::RawType)v.raw);
 }
 
-// The same vector, of which the optimizer knows nothing: it neither takes it apart into words nor
-// makes a call of the clear out of stores of zeros.
+// The same vector, hidden from the optimizer: it neither splits the vector into general registers
+// nor replaces stores of zeros by a call of memset.
 template <class T, int B>
 inline Vec<T, B> opaque(Vec<T, B> v) {
     asm("" : "+v"(v.raw));
@@ -181,14 +183,19 @@ template <class T, int B>
 inline void store(T* p, Vec<T, B> v) {
     std::memcpy(p, &v.raw, B);
 }
-// One element, at any address.
-template <class T>
-inline T loadScalar(const T* p) {
-    T value;
-    std::memcpy(&value, p, sizeof(T));
+// One element at any address, as a value of another type where that is named:
+// loadScalar<std::uint32_t>(bytes).
+template <class As = void, class T>
+inline auto loadScalar(const T* p) {
+    std::conditional_t<std::is_void_v<As>, T, As> value;
+    std::memcpy(&value, p, sizeof value);
     return value;
 }
-// p stands on a boundary of the vector.
+template <class As = void, class T>
+inline void storeScalar(T* p, std::conditional_t<std::is_void_v<As>, T, As> value) {
+    std::memcpy(p, &value, sizeof value);
+}
+// p is a multiple of the vector's size.
 template <class T, int B = kVecBytes>
 inline Vec<T, B> loadAligned(const T* p) {
     return load<T, B>(static_cast<const T*>(__builtin_assume_aligned(p, B)));
@@ -197,7 +204,7 @@ template <class T, int B>
 inline void storeAligned(T* p, Vec<T, B> v) {
     store(static_cast<T*>(__builtin_assume_aligned(p, B)), v);
 }
-// Non-temporal store; p stands on a boundary of the vector. Close a run of them with streamFence.
+// Non-temporal store; p is a multiple of the vector's size. End a run of them with streamFence.
 template <class T, int B>
 inline void stream(T* p, Vec<T, B> v) {
     if constexpr (B == 16) _mm_stream_si128(reinterpret_cast<__m128i*>(p), asInt(v));
@@ -221,7 +228,7 @@ inline __m128i loadBytes16(const void* p, int count) {
     auto gather = [](const char* from, int n) {
         std::uint64_t value = 0;
         if (n >= 4) {
-            // Two words that overlap in the middle cover 4 to 7 bytes.
+            // Two overlapping loads cover 4 to 7 bytes.
             std::uint32_t a, b;
             std::memcpy(&a, from, 4);
             std::memcpy(&b, from + n - 4, 4);
@@ -327,11 +334,71 @@ inline void storePartial(T* p, Vec<T, B> v, int count) {
 #endif
 }
 
+// ---- lanes and masks ----------------------------------------------------------------------------
+// 0, 1, 2 ... in the lanes.
+template <class T, int B = kVecBytes>
+inline Vec<T, B> laneIndices() {
+    return []<std::size_t... i>(std::index_sequence<i...>) {
+        return Vec<T, B>(typename Vec<T, B>::RawType{static_cast<T>(i)...});
+    }
+    (std::make_index_sequence<Vec<T, B>::lanes>());
+}
+
+namespace detail {
+inline constexpr auto kRunOfOnes = [] {
+    std::array<std::uint8_t, 2 * kVecBytes> bytes{};
+    for (int i = 0; i < kVecBytes; ++i) bytes[static_cast<std::size_t>(i)] = 0xFF;
+    return bytes;
+}();
+}  // namespace detail
+
+// The mask of the first `count` lanes (0 to lanes).
+template <class T, int B = kVecBytes>
+inline Vec<BitsOf<T>, B> firstLanes(int count) {
+    const std::uint8_t* end = detail::kRunOfOnes.data() + kVecBytes;
+    return bitCast<BitsOf<T>>(load<std::uint8_t, B>(end - count * static_cast<int>(sizeof(T))));
+}
+
 // ---- selection ----------------------------------------------------------------------------------
 // Lane by lane `yes` where the mask is set (all bits), else `no`.
 template <class T, int B>
 inline Vec<T, B> select(Vec<BitsOf<T>, B> mask, Vec<T, B> yes, Vec<T, B> no) {
     return Vec<T, B>::fromBits((mask.raw & yes.bits()) | (~mask.raw & no.bits()));
+}
+
+// The mask as bits: bit i is lane i.
+template <class T, int B>
+inline std::uint64_t maskBits(Vec<T, B> mask) {
+    constexpr int size = static_cast<int>(sizeof(T));
+    [[maybe_unused]] const auto x = asInt(mask);
+    if constexpr (B == 16) {
+        if constexpr (size == 1) return static_cast<unsigned>(_mm_movemask_epi8(x));
+        if constexpr (size == 2)
+            return static_cast<unsigned>(
+                _mm_movemask_epi8(_mm_packs_epi16(x, _mm_setzero_si128())));
+        if constexpr (size == 4) return static_cast<unsigned>(_mm_movemask_ps(_mm_castsi128_ps(x)));
+        if constexpr (size == 8) return static_cast<unsigned>(_mm_movemask_pd(_mm_castsi128_pd(x)));
+    }
+#if VLQ_SIMD_BYTES >= 32
+    if constexpr (B == 32) {
+        if constexpr (size == 1) return static_cast<unsigned>(_mm256_movemask_epi8(x));
+        if constexpr (size == 2)
+            return static_cast<unsigned>(_mm_movemask_epi8(
+                _mm_packs_epi16(_mm256_castsi256_si128(x), _mm256_extracti128_si256(x, 1))));
+        if constexpr (size == 4)
+            return static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(x)));
+        if constexpr (size == 8)
+            return static_cast<unsigned>(_mm256_movemask_pd(_mm256_castsi256_pd(x)));
+    }
+#endif
+#if VLQ_SIMD_BYTES >= 64
+    if constexpr (B == 64) {
+        if constexpr (size == 1) return _mm512_movepi8_mask(x);
+        if constexpr (size == 2) return _mm512_movepi16_mask(x);
+        if constexpr (size == 4) return _mm512_movepi32_mask(x);
+        if constexpr (size == 8) return _mm512_movepi64_mask(x);
+    }
+#endif
 }
 
 // True when any lane of the mask is set.
