@@ -76,10 +76,10 @@ VlqStatus reverseDifference16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32
 }
 
 // ---- floats -------------------------------------------------------------------------------------
-template <class Op, Stores stores = Stores::Ordinary, class T, class C>
+template <class Op, class T, class C>
 void runExact(const T* src, C val, T* dst, std::ptrdiff_t len) {
     const Vec<T> constant = bitCast<T>(repeated(val));
-    map<unit<T, C>, stores>(
+    map<unit<T, C>>(
         dst, len * unit<T, C>, [constant](Vec<T> x) { return Op::exact(x, constant); }, src);
 }
 
@@ -208,10 +208,6 @@ VlqStatus vlq::vlqsAddC_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len) {
     return exact<Sum>(srcDst, val, srcDst, len);
 }
 VlqStatus vlq::vlqsAddC_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len) {
-    if (len > 8192 && src && dst && standsOn16(dst)) {
-        runExact<Sum, Stores::Streaming>(reals(src), val, reals(dst), len);
-        return vlqStsOk;
-    }
     return exactComplex<Sum>(src, val, dst, len);
 }
 VlqStatus vlq::vlqsAddC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len) {

@@ -41,8 +41,8 @@ VlqStatus vlq::vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRo
     return vlqStsOk;
 }
 
-VlqStatus vlq::vlqsJoinScaled_32f16s_D2L(const Vlq32f* const* srcRows, Vlq32s channels,
-                                         Vlq32s frames, Vlq16s* dst) {
+VlqStatus vlq::vlqsJoinScaled_32f16s_D2L(Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames,
+                                         Vlq16s* dst) {
     if (const VlqStatus status = check(dst, srcRows, channels, frames); status != vlqStsOk)
         return status;
     const StandardFloatMode hold;
@@ -52,8 +52,8 @@ VlqStatus vlq::vlqsJoinScaled_32f16s_D2L(const Vlq32f* const* srcRows, Vlq32s ch
         join<2>(srcRows, channels, frames, dst);
     return vlqStsOk;
 }
-VlqStatus vlq::vlqsJoinScaled_32f24s_D2L(const Vlq32f* const* srcRows, Vlq32s channels,
-                                         Vlq32s frames, Vlq8u* dst) {
+VlqStatus vlq::vlqsJoinScaled_32f24s_D2L(Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames,
+                                         Vlq8u* dst) {
     if (const VlqStatus status = check(dst, srcRows, channels, frames); status != vlqStsOk)
         return status;
     const StandardFloatMode hold;

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "frame/simd/vec.h"
+#include "vlqs/types.h"
 
 namespace vlq::fir {
 

@@ -4,6 +4,7 @@
 
 #include "filter/common/element.h"
 #include "frame/simd/vec.h"
+#include "vlqs/types.h"
 
 namespace vlq::fir {
 

@@ -9,7 +9,7 @@
 #include "frame/simd/cache.h"
 #include "frame/simd/permute.h"
 #include "frame/simd/string.h"
-#include "frame/simd/vec.h"
+#include "frame/simd/tuning.h"
 
 namespace vlq {
 
@@ -23,33 +23,6 @@ namespace detail {
 
 template <int B>
 using Bytes = Vec<Byte, B>;
-
-// The C library moves and fills with the widest vectors that the processor has. The baseline build
-// has narrow ones alone and calls it for runs of middle length; the widest gains nothing by it.
-inline constexpr bool kCLibraryIsWider = kVecBytes == 16;
-// Copies of these lengths are the library's.
-inline constexpr std::size_t kLibraryCopiesFrom = kVecBytes == 16 ? 0 : 512;
-inline constexpr std::size_t kLibraryCopiesBelow = kVecBytes == 64 ? 0 : 4096;
-
-// From here on the string instruction copies. Where vectors are narrow it is soon the wider path;
-// wide ones lose to it when source and destination no longer fit the first cache.
-inline constexpr std::size_t kCopyByWords = kVecBytes == 16 ? 4096 : 24 << 10;
-// The same for a fill, which has the first and second caches to itself.
-inline constexpr std::size_t kFillByWords = kVecBytes == 16 ? 6 << 10 : 1 << 20;
-// From here on the processor is asked for its cache, which may take microseconds.
-inline constexpr std::size_t kAskFrom = std::size_t{8} << 20;
-
-// Source and destination of a copy, together half as large again as the cache.
-inline bool copySweepsCache(std::size_t n) {
-    if (n < kAskFrom) return false;
-    const std::size_t cache = cacheBytes();
-    return cache != 0 && n >= cache / 4 * 3;
-}
-inline bool fillSweepsCache(std::size_t n) {
-    if (n < kAskFrom) return false;
-    const std::size_t cache = cacheBytes();
-    return cache != 0 && n >= cache / 2 * 3;
-}
 
 // Bytes from p to the next boundary of `Boundary` bytes, 1 to Boundary.
 template <std::size_t Boundary>
@@ -221,7 +194,7 @@ inline void copyLong(Byte* dst, const Byte* src, std::size_t n) {
         std::memcpy(dst, src, n);
     } else if (n < kCopyByWords) {
         copyUpwards(dst, src, n);
-    } else if (copySweepsCache(n)) {
+    } else if (exceedsCache(2 * n)) {
         copyStreaming(dst, src, n);
     } else {
         copyByWords(dst, src, n);
@@ -339,7 +312,7 @@ inline void fillLong(Byte* dst, std::size_t n, Vec<Byte> pattern) {
         const std::size_t words = static_cast<std::size_t>(end - start) / 8;
         fillWords(start, firstWord(pattern), words);
         store(end - B, pattern);
-    } else if (Period > 8 && fillSweepsCache(n)) {
+    } else if (Period > 8 && exceedsCache(n)) {
         fillVectors(start, end, pattern, kPastCache);
         streamFence();
     } else {

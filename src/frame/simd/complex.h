@@ -6,7 +6,7 @@
 namespace vlq {
 
 // realParts (re, re), imaginaryParts (im, im), swapParts (im, re) of each value;
-// subtractAdd: a - b in the even lanes, a + b in the odd.
+// subtractAdd: a - b in the even lanes, a + b in the odd; addSubtract the other way round.
 #if VLQ_SIMD_BYTES == 16
 inline Vec<float> realParts(Vec<float> v) { return Vec<float>(_mm_shuffle_ps(v.raw, v.raw, 0xA0)); }
 inline Vec<float> imaginaryParts(Vec<float> v) {
@@ -43,7 +43,7 @@ inline Vec<double> subtractAdd(Vec<double> a, Vec<double> b) {
 inline Vec<float> realParts(Vec<float> v) { return Vec<float>(_mm512_moveldup_ps(v.raw)); }
 inline Vec<float> imaginaryParts(Vec<float> v) { return Vec<float>(_mm512_movehdup_ps(v.raw)); }
 inline Vec<float> swapParts(Vec<float> v) { return Vec<float>(_mm512_permute_ps(v.raw, 0xB1)); }
-// This width lacks the plain instruction; a product with one rounds nothing.
+// AVX-512 has no addsub; the fused one with a factor of one rounds once, as a sum does.
 inline Vec<float> subtractAdd(Vec<float> a, Vec<float> b) {
     return Vec<float>(_mm512_fmaddsub_ps(a.raw, _mm512_set1_ps(1.0f), b.raw));
 }
@@ -57,6 +57,11 @@ inline Vec<double> subtractAdd(Vec<double> a, Vec<double> b) {
 }
 #endif
 
+template <class T>
+inline Vec<T> addSubtract(Vec<T> a, Vec<T> b) {
+    return subtractAdd(a, -b);
+}
+
 // One value in all pairs of lanes.
 template <class T>
 inline Vec<T> broadcastPair(T re, T im) {
@@ -68,7 +73,7 @@ inline Vec<T> broadcastPair(T re, T im) {
     return load(pairs);
 }
 
-// The 16 bytes at p, which stand on a boundary of 16, over the whole vector.
+// The 16 bytes at p, a multiple of 16, repeated over the whole vector.
 template <class T>
 inline Vec<T> repeatAligned16(const T* p) {
     const __m128i v = asInt(loadAligned<T, 16>(p));
@@ -81,7 +86,7 @@ inline Vec<T> repeatAligned16(const T* p) {
 #endif
 }
 
-// Each value twice, in memory order: a vector of reals meets one of complex values.
+// Each value twice, in memory order: to combine reals with interleaved complex values.
 #if VLQ_SIMD_BYTES == 16
 inline Block<float, 2> twice(Vec<float> v) {
     return {{Vec<float>(_mm_shuffle_ps(v.raw, v.raw, 0x50)),

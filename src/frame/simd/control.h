@@ -1,12 +1,12 @@
-// The processor's floating-point control word: rounding direction, flushing of subnormals.
+// The processor's floating-point control register: rounding mode, flushing of subnormals.
 #pragma once
 
 #include <xmmintrin.h>
 
 namespace vlq {
 
-// While in scope, floats round to nearest and subnormals are kept, whatever the caller has set. A
-// caller who has set nothing pays for one addition.
+// While in scope, floats round to nearest and subnormals are kept, whatever mode the caller has
+// set. In the default mode it costs one addition.
 class StandardFloatMode {
 public:
     explicit StandardFloatMode(bool wanted = true) {
@@ -24,9 +24,9 @@ public:
 private:
     static constexpr unsigned kStandard = 0x1F80;
 
-    // Asks the arithmetic itself, since reading the control word takes some twenty cycles. Lane 0
-    // comes out greater where sums round up, lane 1 smaller where they round down or to zero, and
-    // lane 2 is zero where subnormal operands are taken for zero.
+    // Tests the arithmetic itself, since reading the register takes some twenty cycles. Lane 0
+    // is greater where sums round up, lane 1 smaller where they round down or to zero, and lane 2
+    // zero where subnormal operands are treated as zero.
     static bool holds() {
         __m128 a = _mm_setr_ps(1.0f, 1.0f, 0x1p-149f, 0.0f);
         asm volatile("" : "+x"(a));
@@ -36,8 +36,8 @@ private:
         return _mm_movemask_epi8(_mm_cmpeq_epi32(_mm_castps_si128(sum), expected)) == 0xFFFF;
     }
 
-    // The compiler knows no dependence between arithmetic and the control word; what keeps the
-    // two in order is that vectors are read and written between these accesses.
+    // The compiler sees no dependence between arithmetic and this register; what keeps the two in
+    // order is that vectors are loaded and stored between these accesses.
     static unsigned read() {
         unsigned word;
         asm volatile("stmxcsr %0" : "=m"(word) : : "memory");

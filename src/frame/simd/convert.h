@@ -109,7 +109,8 @@ inline Block<std::uint32_t, 4> widenTwice(Vec<std::uint8_t> v) {
 
 // ---- integers to integers of half the width, saturating -----------------------------------------
 namespace detail {
-// The packs of the wider builds work in lanes of 16 bytes; this puts their 8-byte pieces in order.
+// The pack instructions of the wider builds work within lanes of 16 bytes; this puts the 8-byte
+// parts of their result in memory order.
 #if VLQ_SIMD_BYTES == 16
 inline __m128i inOrder(__m128i packed) { return packed; }
 inline __m128i packWords(__m128i a, __m128i b) { return _mm_packs_epi32(a, b); }
@@ -122,7 +123,7 @@ inline __m128i packUnsignedWords(__m128i a, __m128i b) {
     b = _mm_sub_epi32(_mm_andnot_si128(_mm_srai_epi32(b, 31), b), half);
     return _mm_xor_si128(_mm_packs_epi32(a, b), _mm_set1_epi16(static_cast<short>(0x8000)));
 }
-// Bytes that were packed from words that were packed from integers.
+// The same for 8-bit lanes packed twice from 32-bit lanes.
 inline __m128i inOrderTwice(__m128i packed) { return packed; }
 #elif VLQ_SIMD_BYTES == 32
 inline __m256i inOrder(__m256i packed) {
@@ -177,7 +178,7 @@ requires(sizeof(To) == 1) inline Vec<To> narrowSat(Block<std::int32_t, 4> v) {
 }
 
 // ---- 32-bit integers and floats -----------------------------------------------------------------
-// Rounding of float results is the control word's.
+// Float results are rounded in the current rounding mode.
 #if VLQ_SIMD_BYTES == 16
 inline Vec<float> toFloat(Vec<std::int32_t> v) { return Vec<float>(_mm_cvtepi32_ps(asInt(v))); }
 inline Block<double, 2> toDouble(Vec<std::int32_t> v) {
@@ -223,10 +224,9 @@ inline Vec<float> toFloat(Block<double, 2> v) {
 #endif
 
 // ---- floats to integers -------------------------------------------------------------------------
-// Out of range, and not a number: the most negative integer. toZero drops the fraction; toNearest
-// takes the even one of two equally near; toNearestAway the one farther from zero. The latter two
-// rest on nearest rounding in the control word, except where the build writes the rounding into
-// the instruction.
+// Out of range, and of NaN: the most negative integer. toZero drops the fraction; toNearest takes the
+// even one of two equally near; toNearestAway the one farther from zero. The latter two rely on the
+// default rounding mode, except where the instruction carries its own.
 inline constexpr bool kRoundingInInstruction = VLQ_SIMD_BYTES == 64;
 
 #if VLQ_SIMD_BYTES == 16

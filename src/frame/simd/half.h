@@ -1,5 +1,5 @@
-// Binary16 numbers, as bits in 16-bit lanes, against 32-bit floats, by IEEE 754. A not-a-number
-// keeps its sign and the top bits of its payload and becomes quiet.
+// Conversions between IEEE 754 binary16 (as bits in 16-bit lanes) and binary32. A NaN keeps its
+// sign and the top bits of its payload and becomes quiet.
 #pragma once
 
 #include "frame/simd/convert.h"
@@ -8,7 +8,7 @@
 namespace vlq {
 
 #if VLQ_SIMD_BYTES == 16
-// Without instructions for them. Rounding to nearest rests on the control word here.
+// SSE2 has no instructions for them. Rounding to nearest relies on the current rounding mode.
 inline constexpr bool kHalfUsesControlWord = true;
 
 namespace detail {
@@ -19,12 +19,12 @@ inline Vec<float> upperHalfToFloat(Vec<std::int32_t> half) {
     const I sign = half & I::broadcast(std::numeric_limits<std::int32_t>::min());
     const I magnitude = shiftRight(half ^ sign, 3);
     const I rebias = I::broadcast((127 - 15) << 23);
-    // Exponent 31 stands for infinity and not-a-number: it becomes 255, and the latter quiet.
+    // Exponent 31, infinity or NaN, becomes 255, and a NaN quiet.
     const I isSpecial = magnitude > I::broadcast(0x0F7FFFFF);
     const I isNaN = magnitude > I::broadcast(0x0F800000);
     const I normal =
         (magnitude + rebias + (isSpecial & rebias)) | (isNaN & I::broadcast(0x00400000));
-    // A subnormal's fraction goes below the leading one of 2^-14, which is then taken off: exact.
+    // A subnormal's fraction goes below the leading one of 2^-14, which is then subtracted: exact.
     const I isSmall = magnitude < I::broadcast(1 << 23);
     const Vec<float> least = Vec<float>::broadcast(0x1p-14f);
     const I small = bitCast<std::int32_t>(
@@ -38,10 +38,10 @@ inline Vec<std::int32_t> floatToLowerHalf(Vec<float> v) {
     using I = Vec<std::int32_t>;
     const Vec<float> a = absolute(v);
     const I magnitude = bitCast<std::int32_t>(a);
-    // What is too large becomes 2^16, the bits of infinity once rebiased, or the largest half.
+    // A value too large becomes 2^16, infinity once rebiased, or the largest half.
     const Vec<float> top = Vec<float>::broadcast(kNearest ? 65536.0f : 65504.0f);
     I normal = bitCast<std::int32_t>(minimum(a, top)) - I::broadcast((127 - 15) << 23);
-    // Thirteen bits go; a carry runs on into the exponent.
+    // Thirteen bits are dropped; a carry propagates into the exponent.
     if (kNearest)
         normal = normal + I::broadcast(0xFFF) + (shiftRight(normal, 13) & I::broadcast(1));
     normal = shiftRight(normal, 13);

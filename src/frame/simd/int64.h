@@ -1,4 +1,4 @@
-// Conversions of 64-bit integers, which only the widest build has as instructions.
+// Conversions of 64-bit integers, which only AVX-512 has as instructions.
 #pragma once
 
 #include "frame/simd/convert.h"
@@ -34,26 +34,25 @@ inline Vec<std::int32_t> narrowSat(Block<std::int64_t, 2> v) {
 #endif
 }
 
-// Rounded as the control word says.
+// Rounded in the current rounding mode.
 inline Vec<double> toDouble(Vec<std::int64_t> v) {
 #if VLQ_SIMD_BYTES == 64
     return Vec<double>(_mm512_cvtepi64_pd(asInt(v)));
 #else
-    // The low word in the fraction of 2^52, the high word, moved up by 2^31, in that of 2^84. The
-    // difference is exact, so one rounding remains.
+    // The low 32 bits in the significand of 2^52, the high 32, offset by 2^31, in that of 2^84. The
+    // difference is exact, so there is one rounding.
     using I = Vec<std::int64_t>;
     const I low = (v & I::broadcast(0xFFFFFFFF)) | I::broadcast(0x4330000000000000);
     const I high = bitCast<std::int64_t>(shiftRight(bitCast<std::uint64_t>(v), 32)) ^
                    I::broadcast(0x4530000080000000);
     const Vec<double> sum = bitCast<double>(high) -
                             Vec<double>::broadcast(0x1p84 + 0x1p63 + 0x1p52) + bitCast<double>(low);
-    // Rounding down makes -0 of 0: the sign is the integer's.
+    // In the round-down mode 0 comes out as -0: the sign is the integer's.
     return sum & bitCast<double>(v | I::broadcast(std::numeric_limits<std::int64_t>::max()));
 #endif
 }
 
-// Doubles to 64-bit integers; out of range and not a number as in the 32-bit conversions, and the
-// same demand on the control word.
+// Doubles to 64-bit integers: out of range, NaN and the rounding mode as in the 32-bit conversions.
 #if VLQ_SIMD_BYTES == 64
 inline Vec<std::int64_t> toNearest64(Vec<double> v) {
     return fromRegister<std::int64_t>(_mm512_cvt_roundpd_epi64(v.raw, detail::kNearest));
@@ -62,7 +61,7 @@ inline Vec<std::int64_t> toZero64(Vec<double> v) {
     return fromRegister<std::int64_t>(_mm512_cvttpd_epi64(v.raw));
 }
 #else
-// One lane at a time: as fast as splitting a double into words.
+// One lane at a time: as fast as bit manipulation in vectors.
 inline Vec<std::int64_t> toNearest64(Vec<double> v) {
     Vec<std::int64_t> result;
     for (int i = 0; i < Vec<double>::lanes; ++i) result.raw[i] = _mm_cvtsd_si64(_mm_set_sd(v[i]));

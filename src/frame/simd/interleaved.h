@@ -1,12 +1,12 @@
-// Vectors of interleaved complex values (re, im, re, im ...), where that is shorter than to take
-// the parts asunder.
+// Vectors of interleaved complex values (re, im, re, im ...), where that is cheaper than
+// de-interleaving them.
 #pragma once
 
 #include "frame/simd/transpose.h"
 
 namespace vlq {
 
-// (im, re) for each value. The integer shuffle spares a copy: it does not overwrite its operand.
+// (im, re) for each value. The integer shuffle of SSE2 does not overwrite its operand.
 inline Vec<float, 16> exchangeParts(Vec<float, 16> v) {
     return fromRegister<float>(_mm_shuffle_epi32(asInt(v), 0xB1));
 }
@@ -30,8 +30,8 @@ inline Vec<double, 64> exchangeParts(Vec<double, 64> v) {
 }
 #endif
 
-// The first value of `next`, then those of v from its last to its second: where v and next are
-// neighbours in a sequence, its values from next[0] backwards.
+// The first value of `next`, then those of v from its last to its second: where next follows v in
+// memory, the values from next[0] backwards.
 inline Vec<double, 16> valuesBackwardAcross(Vec<double, 16>, Vec<double, 16> next) { return next; }
 #if VLQ_SIMD_BYTES >= 32
 inline Vec<double, 32> valuesBackwardAcross(Vec<double, 32> v, Vec<double, 32> next) {

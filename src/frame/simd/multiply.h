@@ -15,8 +15,8 @@ namespace vlq {
 #endif
 
 // ---- lane order ---------------------------------------------------------------------------------
-// The order in which a 16-byte unpack leaves widened elements; a pack of the two parts undoes it.
-// It costs no moves between 16-byte lanes.
+// The order in which unpack instructions leave widened elements; a pack of both parts undoes it. It
+// needs no moves across 16-byte lanes.
 namespace detail {
 template <class Wide, class Register>
 inline Block<Wide, 2> unpackBytes(Register low, Register high) {
@@ -47,13 +47,13 @@ inline Block<T, 2> inMemoryOrder(Block<T, 2> v) {
 #endif
 }
 
-// ---- products by words --------------------------------------------------------------------------
-// The products' upper words; the lower ones are a * b.
+// ---- halves of products -------------------------------------------------------------------------
+// The upper 16 bits of the products; the lower ones are a * b.
 inline Vec<std::int16_t> productUpper(Vec<std::int16_t> a, Vec<std::int16_t> b) {
     return fromRegister<std::int16_t>(VLQ_INTRINSIC(mulhi_epi16)(asInt(a), asInt(b)));
 }
 inline Vec<std::int16_t> productUpper(Vec<std::uint16_t> a, Vec<std::int16_t> b) {
-    // As unsigned a negative b is 2^16 too much, and the upper word of the product is a too much.
+    // As unsigned, a negative b is 2^16 too large, and the upper half of the product a too large.
     const auto excess = a & bitCast<std::uint16_t>(shiftRight(b, 15));
     return bitCast<std::int16_t>(
         fromRegister<std::uint16_t>(VLQ_INTRINSIC(mulhi_epu16)(asInt(a), asInt(b))) - excess);
@@ -121,7 +121,7 @@ inline Vec<To> narrowLanes(Block<std::uint16_t, 2> v) {
     return fromRegister<To>(VLQ_INTRINSIC(packus_epi16)(asInt(v.part[0]), asInt(v.part[1])));
 }
 
-// ---- products that stop at the top of their range -----------------------------------------------
+// ---- saturating products ------------------------------------------------------------------------
 inline Vec<std::uint16_t> productSat(Vec<std::uint16_t> a, Vec<std::uint16_t> b) {
     const auto upper = fromRegister<std::uint16_t>(VLQ_INTRINSIC(mulhi_epu16)(asInt(a), asInt(b)));
     return (a * b) | ~bitCast<std::uint16_t>(upper == Vec<std::uint16_t>::zero());
@@ -134,11 +134,11 @@ inline Vec<std::uint8_t> productSat(Vec<std::uint8_t> a, Vec<std::uint8_t> b) {
 }
 
 // ---- complex products of 16-bit parts -----------------------------------------------------------
-// Real and imaginary parts of each value of a lane: ac - bd and ad + bc. The one part that has no
-// room is 2^31, of four times -2^15; it is given as 2^31 - 1, which scales and saturates alike.
+// Real and imaginary parts, ac - bd and ad + bc, of each lane's value. The one part that does not
+// fit is 2^31, of four times -2^15; 2^31 - 1 takes its place, which scales and saturates alike.
 inline Block<std::int32_t, 2> productParts(Vec<std::int32_t> x, Vec<std::int32_t> y) {
     using V = Vec<std::int32_t>;
-    // -d may have no room either: ac + b(-1 - d), and b on top.
+    // -d may not fit either: ac + b(-1 - d) + b.
     const V notIm = y ^ V::broadcast(static_cast<std::int32_t>(0xFFFF0000u));
     const V swapped =
         shiftLeft(y, 16) | bitCast<std::int32_t>(shiftRight(bitCast<std::uint32_t>(y), 16));
@@ -155,7 +155,7 @@ inline Vec<std::int32_t> joinParts(Block<std::int32_t, 2> v) {
 }
 
 // ---- products of 32 bits ------------------------------------------------------------------------
-// Of the even lanes and of the odd lanes: lane pairs become one lane.
+// Of the even lanes and of the odd lanes, in lanes of twice the width.
 inline Vec<std::uint64_t> productEven(Vec<std::uint32_t> a, Vec<std::uint32_t> b) {
     return fromRegister<std::uint64_t>(VLQ_INTRINSIC(mul_epu32)(asInt(a), asInt(b)));
 }
@@ -165,12 +165,12 @@ inline Vec<std::uint64_t> productOdd(Vec<std::uint32_t> a, Vec<std::uint32_t> b)
     return fromRegister<std::uint64_t>(VLQ_INTRINSIC(mul_epu32)(asInt(x), asInt(y)));
 }
 #if VLQ_SIMD_BYTES >= 32
-// Of the lower words of each lane, as signed integers; the narrow build has no instruction for it.
+// Of the lower 32 bits of each lane, signed; SSE2 has no instruction for it.
 inline Vec<std::int64_t> productLower(Vec<std::int64_t> a, Vec<std::int64_t> b) {
     return fromRegister<std::int64_t>(VLQ_INTRINSIC(mul_epi32)(asInt(a), asInt(b)));
 }
 #endif
-// The low words of both, back in place.
+// The low 32 bits of both, back in their lanes.
 inline Vec<std::uint32_t> joinEvenOdd(Vec<std::uint64_t> even, Vec<std::uint64_t> odd) {
     const auto low = even & Vec<std::uint64_t>::broadcast(0xFFFFFFFF);
     return bitCast<std::uint32_t>(low | shiftLeft(odd, 32));

@@ -1,5 +1,5 @@
-// Integers of three bytes, least significant first and without gaps, against 32-bit lanes. Exactly
-// the bytes of the lanes' elements are read and written.
+// Packed three-byte integers, least significant byte first, to and from 32-bit lanes. Exactly the
+// bytes of the lanes' elements are read and written.
 #pragma once
 
 #include "frame/simd/ops.h"
@@ -11,11 +11,11 @@ inline constexpr int kPacked24Count = 2 * Vec<std::int32_t>::lanes;
 
 namespace detail {
 
-// Each element in the upper three bytes of its lane; the lowest byte means nothing.
+// Each element in the upper three bytes of its lane; the lowest byte is unspecified.
 #if VLQ_SIMD_BYTES == 16
 inline Packed24 unpack24Upper(const std::uint8_t* p) {
-    // One load ends its first lane with the element that it is for, and its last lane with the
-    // fourth element after that: 12 bytes lie between both.
+    // Each load has its first element in the upper bytes of its first lane and the fourth element
+    // after that in those of its last lane, 12 bytes on.
     const __m128 first = _mm_castsi128_ps(_mm_slli_si128(asInt(load<std::uint8_t>(p)), 1));
     const __m128 second = _mm_castsi128_ps(asInt(load<std::uint8_t>(p + 2)));
     const __m128 third = _mm_castsi128_ps(asInt(load<std::uint8_t>(p + 5)));
@@ -27,7 +27,7 @@ inline Packed24 unpack24Upper(const std::uint8_t* p) {
 }
 #elif VLQ_SIMD_BYTES == 32
 inline Packed24 unpack24Upper(const std::uint8_t* p) {
-    // The upper lane is loaded from 4 bytes before its elements: so no byte past them is read.
+    // The upper lane is loaded from 4 bytes before its elements: no byte beyond them is read.
     const __m256i spread =
         _mm256_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1, 4, 5, 6, -1, 7,
                          8, 9, -1, 10, 11, 12, -1, 13, 14, 15);
@@ -74,7 +74,7 @@ inline void pack24(std::uint8_t* p, Packed24 v) {
             _mm_and_si128(_mm_srli_epi64(x, 8), _mm_set1_epi64x(0x0000FFFFFF000000)));
     };
     const __m128i low = pairs(v.part[0]), high = pairs(v.part[1]);
-    // Each store is ended by the next one; the last is filled up in front instead.
+    // Each store overlaps the one before it; the last carries bytes of its predecessor in front.
     const __m128i tail =
         _mm_or_si128(_mm_slli_epi64(high, 16), _mm_srli_epi64(_mm_slli_si128(high, 8), 32));
     _mm_storel_epi64(reinterpret_cast<__m128i_u*>(p), low);

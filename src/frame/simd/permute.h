@@ -7,11 +7,11 @@ namespace vlq {
 
 namespace detail {
 
-// Both halves of each 16-bit word change places.
+// Swaps the bytes of each 16-bit lane.
 inline __m128i swapWordBytes(__m128i v) {
     return _mm_or_si128(_mm_slli_epi16(v, 8), _mm_srli_epi16(v, 8));
 }
-// The four 16-bit words of each half in reverse.
+// The four 16-bit lanes of each half in reverse.
 inline __m128i reverseWordsOfHalves(__m128i v) {
     return _mm_shufflehi_epi16(_mm_shufflelo_epi16(v, 0x1B), 0x1B);
 }
@@ -92,8 +92,8 @@ inline __m512i reverse64(__m512i v) {
 
 }  // namespace detail
 
-// The first To bytes of a vector, and its first eight as a word. Opaque, as a word that is
-// known as a lane makes GCC 12 hold the whole vector in words.
+// The first To bytes of a vector, and its first eight as an integer. Opaque: GCC 12 otherwise keeps
+// the whole vector in general registers.
 template <int To, class T, int B>
 inline Vec<T, To> firstBytes(Vec<T, B> v) {
     if constexpr (To == B)
@@ -106,7 +106,7 @@ inline std::uint64_t firstWord(Vec<T, B> v) {
     return static_cast<std::uint64_t>(_mm_cvtsi128_si64(asInt(opaque(firstBytes<16>(v)))));
 }
 
-// The two values in turn.
+// The two values in alternating lanes.
 inline Vec<std::int64_t> alternating(std::int64_t even, std::int64_t odd) {
     const __m128i pair = _mm_set_epi64x(odd, even);
 #if VLQ_SIMD_BYTES == 16

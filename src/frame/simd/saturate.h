@@ -1,5 +1,4 @@
-// Integers that stop at the ends of their range instead of wrapping: the widths and the shifts
-// that have no instruction of their own.
+// Saturating integer arithmetic for the widths and shifts that have no instruction.
 #pragma once
 
 #include "frame/simd/ops.h"
@@ -16,7 +15,7 @@ template <SignedInteger T, int B>
 inline Vec<T, B> signMask(Vec<T, B> v) {
 #if !defined(__AVX512VL__)
     if constexpr (sizeof(T) == 8) {
-        // The upper word's sign, in both words.
+        // The sign of the upper 32 bits, in both halves.
         const auto words = shiftRight(bitCast<std::int32_t>(v), 31);
         if constexpr (B == 16) return fromRegister<T>(_mm_shuffle_epi32(asInt(words), 0xF5));
 #if VLQ_SIMD_BYTES >= 32
@@ -94,7 +93,7 @@ inline Vec<T, B> addSat(Vec<T, B> a, Vec<T, B> b) {
 }
 
 // ---- means --------------------------------------------------------------------------------------
-// (a + b) / 2 without the carry getting lost, a half rounded up.
+// (a + b) / 2 without losing the carry, a half rounded up.
 template <class T, int B>
 requires std::is_integral_v<T>
 inline Vec<T, B> meanUp(Vec<T, B> a, Vec<T, B> b) { return (a | b) - shiftRight(a ^ b, 1); }
@@ -122,7 +121,7 @@ inline Vec<std::uint16_t, 64> meanUp(Vec<std::uint16_t, 64> a, Vec<std::uint16_t
 #endif
 
 // ---- left shifts --------------------------------------------------------------------------------
-// v * 2^count, stopped at the ends of the range; 1 <= count <= value bits of T.
+// v * 2^count, saturated; 1 <= count <= value bits of T.
 template <SignedInteger T, int B>
 inline Vec<T, B> shiftLeftSat(Vec<T, B> v, int count) {
     constexpr T highest = std::numeric_limits<T>::max();
@@ -149,7 +148,7 @@ inline Vec<T, B> shiftLeftSat(Vec<T, B> v, int count) {
     }
 }
 
-// The same for a value of one bit more than T: its lower bits, and its sign in the sign bit.
+// The same for a value of one bit more than T, given by its lower bits and its sign.
 template <SignedInteger T, int B>
 inline Vec<T, B> shiftLeftSat(Vec<T, B> lower, Vec<T, B> signBit, int count) {
     const auto sign = signMask(signBit);

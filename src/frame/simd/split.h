@@ -1,5 +1,5 @@
-// Interleaved complex values as vectors of real and of imaginary parts. Which value of a run lies
-// in which lane is the build's choice (splitLane): the one that needs the fewest shuffles.
+// De-interleaved complex values: vectors of real and of imaginary parts. Which value of a run is in
+// which lane (splitLane) depends on the build: the order that needs the fewest shuffles.
 #pragma once
 
 #include "frame/simd/vec.h"
@@ -114,7 +114,7 @@ inline void join(Split<double, 64> v, D8& a, D8& b) {
     a = D8(_mm512_unpacklo_pd(v.re.raw, v.im.raw));
     b = D8(_mm512_unpackhi_pd(v.re.raw, v.im.raw));
 }
-// One two-source permutation takes the parts apart and turns their order; bit 4 (3) of an index
+// One two-source permutation separates the parts and reverses their order; bit 4 (3) of an index
 // selects the second source.
 inline Split<float, 64> splitBackward(F16 a, F16 b) {
     const __m512i re = _mm512_setr_epi32(30, 28, 14, 12, 26, 24, 10, 8, 22, 20, 6, 4, 18, 16, 2, 0);
@@ -160,7 +160,7 @@ inline void storeSplit(T* p, Split<T, B> v) {
     store(p + Vec<T, B>::lanes, b);
 }
 // Lanes of two 16-byte vectors: the first of `next`, then those of v from its last to its second.
-// Where v and next are neighbours in a sequence, these are its lanes from next[0] backwards.
+// Where next follows v in memory, these are the lanes from next[0] backwards.
 inline Vec<float, 16> backwardAcross(Vec<float, 16> v, Vec<float, 16> next) {
     return Vec<float, 16>(
         _mm_move_ss(_mm_shuffle_ps(v.raw, v.raw, _MM_SHUFFLE(1, 2, 3, 0)), next.raw));
@@ -176,7 +176,7 @@ inline Vec<double, 16> withFirst(Vec<double, 16> v, Vec<double, 16> other) {
     return Vec<double, 16>(_mm_move_sd(v.raw, other.raw));
 }
 
-// Of two neighbouring runs, both as loadSplit has them, the run that begins one value later.
+// Of two adjacent runs, both as loadSplit loads them, the run that begins one value later.
 inline Vec<float, 16> laterRun(Vec<float, 16> v, Vec<float, 16> next) {
     const __m128 mixed = withFirst(v, next).raw;
     return Vec<float, 16>(_mm_shuffle_ps(mixed, mixed, _MM_SHUFFLE(0, 3, 2, 1)));
@@ -257,7 +257,7 @@ inline Vec<double, 64> reverseRun(Vec<double, 64> v) {
 }
 #endif
 
-// The run from its last value to its first: lanes meet those of a forward run mirrored.
+// The run from its last value to its first: lane by lane the mirror image of a forward run.
 template <class T, int B = kVecBytes>
 inline Split<T, B> loadSplitBackward(const T* p) {
     return detail::splitBackward(load<T, B>(p), load<T, B>(p + Vec<T, B>::lanes));
@@ -271,7 +271,7 @@ inline void storeSplitBackward(T* p, Split<T, B> v) {
 }
 
 // ---- lanes --------------------------------------------------------------------------------------
-// From memory order to splitLane order and back, for parts that come in arrays of their own.
+// From memory order to splitLane order and back, for parts in separate arrays.
 template <class T>
 inline Vec<T, 16> toSplitLanes(Vec<T, 16> v) {
     return v;

@@ -1,6 +1,5 @@
-// The processor's string instructions on 8-byte words. They start slowly (some ten nanoseconds) and
-// then move whole cache lines, on all processors of the last decades; on a recent one they do so
-// without reading the lines that they write.
+// The processor's string instructions on 8-byte words. They take some ten nanoseconds to start and
+// then move whole cache lines, on recent processors without reading the lines that they write.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +7,7 @@
 
 namespace vlq {
 
-// The regions are apart.
+// The regions do not overlap.
 inline void copyWords(void* dst, const void* src, std::size_t count) {
     asm volatile("rep movsq" : "+D"(dst), "+S"(src), "+c"(count) : : "memory");
 }
