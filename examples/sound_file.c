@@ -1,3 +1,4 @@
+/* Opens sound files of 16-bit samples with libsndfile. */
 #include "sound_file.h"
 
 #include <errno.h>
