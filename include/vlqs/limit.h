@@ -9,7 +9,16 @@
 
 VLQS_BEGIN_DECLS
 
-/** @name Limits
+/**
+ * @defgroup vlqs_limit Thresholds, normalization, companding
+ *
+ * All of these work element by element. In place, `srcDst` is both vectors.
+ */
+
+/**
+ * @defgroup vlqs_threshold Limits
+ * @ingroup vlqs_limit
+ *
  * An element beyond a level becomes the level. Real elements are compared by value, complex ones by
  * magnitude: a complex element that is beyond the level keeps its direction and gets the magnitude
  * @p level; zero below a positive level becomes (level, 0).
@@ -20,245 +29,263 @@ VLQS_BEGIN_DECLS
  *
  * **Shapes.** All vectors have @p len elements and any alignment; @p dst may be @p src.
  *
- * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
- * #vlqStsBadArg for a @p relOp other than #vlqCmpLess and #vlqCmpGreater,
+ * **Errors,** in the order tested: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len
+ * below 1, #vlqStsBadArg for a @p relOp other than #vlqCmpLess and #vlqCmpGreater,
  * #vlqStsThresholdNegative for a negative @p level of a complex vector.
  *
- * **Memory.** None.
- *  @{ */
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+ * **Memory.** Allocates nothing.
+ *
+ * @{
+ */
+
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s level,
                             VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_16s_I(Vlq16s* srcDst, Vlq32s len, Vlq16s level, VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f level,
                             VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f level, VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f level,
                             VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f level, VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_16sc(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, Vlq16s level,
                              VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_16sc_I(Vlq16sc* srcDst, Vlq32s len, Vlq16s level, VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, Vlq32f level,
                              VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_32fc_I(Vlq32fc* srcDst, Vlq32s len, Vlq32f level, VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, Vlq64f level,
                              VlqCmpOp relOp);
-/** `relOp` 0: as `_LT`; 4: as `_GT`. */
+/** As _LT for relOp 0 (less), as _GT for relOp 4 (greater). */
 VlqStatus vlqsThreshold_64fc_I(Vlq64fc* srcDst, Vlq32s len, Vlq64f level, VlqCmpOp relOp);
-/** `dst[i] = x < level ? level : x`, x = src[i]. */
+/** dst = src < level ? level : src. */
 VlqStatus vlqsThreshold_LT_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s level);
-/** `srcDst[i] = x < level ? level : x`, x = srcDst[i]. */
+/** srcDst = srcDst < level ? level : srcDst. */
 VlqStatus vlqsThreshold_LT_16s_I(Vlq16s* srcDst, Vlq32s len, Vlq16s level);
-/** `dst[i] = x < level ? level : x`, x = src[i]. */
+/** dst = src < level ? level : src. */
 VlqStatus vlqsThreshold_LT_32s(const Vlq32s* src, Vlq32s* dst, Vlq32s len, Vlq32s level);
-/** `srcDst[i] = x < level ? level : x`, x = srcDst[i]. */
+/** srcDst = srcDst < level ? level : srcDst. */
 VlqStatus vlqsThreshold_LT_32s_I(Vlq32s* srcDst, Vlq32s len, Vlq32s level);
-/** `dst[i] = x < level ? level : x`, x = src[i]. */
+/** dst = src < level ? level : src. */
 VlqStatus vlqsThreshold_LT_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f level);
-/** `srcDst[i] = x < level ? level : x`, x = srcDst[i]. */
+/** srcDst = srcDst < level ? level : srcDst. */
 VlqStatus vlqsThreshold_LT_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f level);
-/** `dst[i] = x < level ? level : x`, x = src[i]. */
+/** dst = src < level ? level : src. */
 VlqStatus vlqsThreshold_LT_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f level);
-/** `srcDst[i] = x < level ? level : x`, x = srcDst[i]. */
+/** srcDst = srcDst < level ? level : srcDst. */
 VlqStatus vlqsThreshold_LT_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f level);
-/** `dst[i] = |x| < level ? x * (level / |x|) : x`, x = src[i]. */
+/** dst = |src| < level ? src * (level / |src|) : src. */
 VlqStatus vlqsThreshold_LT_16sc(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, Vlq16s level);
-/** `srcDst[i] = |x| < level ? x * (level / |x|) : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? srcDst * (level / |srcDst|) : srcDst. */
 VlqStatus vlqsThreshold_LT_16sc_I(Vlq16sc* srcDst, Vlq32s len, Vlq16s level);
-/** `dst[i] = |x| < level ? x * (level / |x|) : x`, x = src[i]. */
+/** dst = |src| < level ? src * (level / |src|) : src. */
 VlqStatus vlqsThreshold_LT_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, Vlq32f level);
-/** `srcDst[i] = |x| < level ? x * (level / |x|) : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? srcDst * (level / |srcDst|) : srcDst. */
 VlqStatus vlqsThreshold_LT_32fc_I(Vlq32fc* srcDst, Vlq32s len, Vlq32f level);
-/** `dst[i] = |x| < level ? x * (level / |x|) : x`, x = src[i]. */
+/** dst = |src| < level ? src * (level / |src|) : src. */
 VlqStatus vlqsThreshold_LT_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, Vlq64f level);
-/** `srcDst[i] = |x| < level ? x * (level / |x|) : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? srcDst * (level / |srcDst|) : srcDst. */
 VlqStatus vlqsThreshold_LT_64fc_I(Vlq64fc* srcDst, Vlq32s len, Vlq64f level);
-/** `dst[i] = x > level ? level : x`, x = src[i]. */
+/** dst = src > level ? level : src. */
 VlqStatus vlqsThreshold_GT_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s level);
-/** `srcDst[i] = x > level ? level : x`, x = srcDst[i]. */
+/** srcDst = srcDst > level ? level : srcDst. */
 VlqStatus vlqsThreshold_GT_16s_I(Vlq16s* srcDst, Vlq32s len, Vlq16s level);
-/** `dst[i] = x > level ? level : x`, x = src[i]. */
+/** dst = src > level ? level : src. */
 VlqStatus vlqsThreshold_GT_32s(const Vlq32s* src, Vlq32s* dst, Vlq32s len, Vlq32s level);
-/** `srcDst[i] = x > level ? level : x`, x = srcDst[i]. */
+/** srcDst = srcDst > level ? level : srcDst. */
 VlqStatus vlqsThreshold_GT_32s_I(Vlq32s* srcDst, Vlq32s len, Vlq32s level);
-/** `dst[i] = x > level ? level : x`, x = src[i]. */
+/** dst = src > level ? level : src. */
 VlqStatus vlqsThreshold_GT_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f level);
-/** `srcDst[i] = x > level ? level : x`, x = srcDst[i]. */
+/** srcDst = srcDst > level ? level : srcDst. */
 VlqStatus vlqsThreshold_GT_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f level);
-/** `dst[i] = x > level ? level : x`, x = src[i]. */
+/** dst = src > level ? level : src. */
 VlqStatus vlqsThreshold_GT_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f level);
-/** `srcDst[i] = x > level ? level : x`, x = srcDst[i]. */
+/** srcDst = srcDst > level ? level : srcDst. */
 VlqStatus vlqsThreshold_GT_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f level);
-/** `dst[i] = |x| > level ? x * (level / |x|) : x`, x = src[i]. */
+/** dst = |src| > level ? src * (level / |src|) : src. */
 VlqStatus vlqsThreshold_GT_16sc(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, Vlq16s level);
-/** `srcDst[i] = |x| > level ? x * (level / |x|) : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? srcDst * (level / |srcDst|) : srcDst. */
 VlqStatus vlqsThreshold_GT_16sc_I(Vlq16sc* srcDst, Vlq32s len, Vlq16s level);
-/** `dst[i] = |x| > level ? x * (level / |x|) : x`, x = src[i]. */
+/** dst = |src| > level ? src * (level / |src|) : src. */
 VlqStatus vlqsThreshold_GT_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, Vlq32f level);
-/** `srcDst[i] = |x| > level ? x * (level / |x|) : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? srcDst * (level / |srcDst|) : srcDst. */
 VlqStatus vlqsThreshold_GT_32fc_I(Vlq32fc* srcDst, Vlq32s len, Vlq32f level);
-/** `dst[i] = |x| > level ? x * (level / |x|) : x`, x = src[i]. */
+/** dst = |src| > level ? src * (level / |src|) : src. */
 VlqStatus vlqsThreshold_GT_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, Vlq64f level);
-/** `srcDst[i] = |x| > level ? x * (level / |x|) : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? srcDst * (level / |srcDst|) : srcDst. */
 VlqStatus vlqsThreshold_GT_64fc_I(Vlq64fc* srcDst, Vlq32s len, Vlq64f level);
 /** @} */
 
-/** @name Limits of magnitudes
+/**
+ * @defgroup vlqs_threshold_abs Limits of magnitudes
+ * @ingroup vlqs_limit
+ *
  * The magnitude of an element is limited, its sign stays; zero counts as positive in integers. The
  * least integer is replaced only by `_GTAbs`, whose results are never beyond @p level in magnitude.
  * NaN stays as it is.
  *
  * **Shapes.** All vectors have @p len elements and any alignment; @p dst may be @p src.
  *
- * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
- * #vlqStsThresholdNegative for a negative @p level.
+ * **Errors,** in the order tested: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len
+ * below 1, #vlqStsThresholdNegative for a negative @p level.
  *
- * **Memory.** None.
- *  @{ */
-/** `dst[i] = |x| < level ? sign(x) * level : x`, x = src[i]. */
+ * **Memory.** Allocates nothing.
+ *
+ * @{
+ */
+
+/** dst = |src| < level ? sign(src) * level : src. */
 VlqStatus vlqsThreshold_LTAbs_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s level);
-/** `srcDst[i] = |x| < level ? sign(x) * level : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? sign(srcDst) * level : srcDst. */
 VlqStatus vlqsThreshold_LTAbs_16s_I(Vlq16s* srcDst, Vlq32s len, Vlq16s level);
-/** `dst[i] = |x| < level ? sign(x) * level : x`, x = src[i]. */
+/** dst = |src| < level ? sign(src) * level : src. */
 VlqStatus vlqsThreshold_LTAbs_32s(const Vlq32s* src, Vlq32s* dst, Vlq32s len, Vlq32s level);
-/** `srcDst[i] = |x| < level ? sign(x) * level : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? sign(srcDst) * level : srcDst. */
 VlqStatus vlqsThreshold_LTAbs_32s_I(Vlq32s* srcDst, Vlq32s len, Vlq32s level);
-/** `dst[i] = |x| < level ? sign(x) * level : x`, x = src[i]. */
+/** dst = |src| < level ? sign(src) * level : src. */
 VlqStatus vlqsThreshold_LTAbs_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f level);
-/** `srcDst[i] = |x| < level ? sign(x) * level : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? sign(srcDst) * level : srcDst. */
 VlqStatus vlqsThreshold_LTAbs_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f level);
-/** `dst[i] = |x| < level ? sign(x) * level : x`, x = src[i]. */
+/** dst = |src| < level ? sign(src) * level : src. */
 VlqStatus vlqsThreshold_LTAbs_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f level);
-/** `srcDst[i] = |x| < level ? sign(x) * level : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? sign(srcDst) * level : srcDst. */
 VlqStatus vlqsThreshold_LTAbs_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f level);
-/** `dst[i] = |x| > level ? sign(x) * level : x`, x = src[i]. */
+/** dst = |src| > level ? sign(src) * level : src. */
 VlqStatus vlqsThreshold_GTAbs_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s level);
-/** `srcDst[i] = |x| > level ? sign(x) * level : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? sign(srcDst) * level : srcDst. */
 VlqStatus vlqsThreshold_GTAbs_16s_I(Vlq16s* srcDst, Vlq32s len, Vlq16s level);
-/** `dst[i] = |x| > level ? sign(x) * level : x`, x = src[i]. */
+/** dst = |src| > level ? sign(src) * level : src. */
 VlqStatus vlqsThreshold_GTAbs_32s(const Vlq32s* src, Vlq32s* dst, Vlq32s len, Vlq32s level);
-/** `srcDst[i] = |x| > level ? sign(x) * level : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? sign(srcDst) * level : srcDst. */
 VlqStatus vlqsThreshold_GTAbs_32s_I(Vlq32s* srcDst, Vlq32s len, Vlq32s level);
-/** `dst[i] = |x| > level ? sign(x) * level : x`, x = src[i]. */
+/** dst = |src| > level ? sign(src) * level : src. */
 VlqStatus vlqsThreshold_GTAbs_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f level);
-/** `srcDst[i] = |x| > level ? sign(x) * level : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? sign(srcDst) * level : srcDst. */
 VlqStatus vlqsThreshold_GTAbs_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f level);
-/** `dst[i] = |x| > level ? sign(x) * level : x`, x = src[i]. */
+/** dst = |src| > level ? sign(src) * level : src. */
 VlqStatus vlqsThreshold_GTAbs_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f level);
-/** `srcDst[i] = |x| > level ? sign(x) * level : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? sign(srcDst) * level : srcDst. */
 VlqStatus vlqsThreshold_GTAbs_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f level);
 /** @} */
 
-/** @name Replacement beyond a level
+/**
+ * @defgroup vlqs_threshold_val Replacement beyond a level
+ * @ingroup vlqs_limit
+ *
  * An element beyond a level becomes @p value. Complex elements are compared by magnitude. NaN is
  * never beyond a level.
  *
  * **Shapes.** All vectors have @p len elements and any alignment; @p dst may be @p src.
  *
- * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
- * #vlqStsThresholdNegative for a negative @p level of a complex vector, #vlqStsThresholdRange for
- * @p levelLT above @p levelGT.
+ * **Errors,** in the order tested: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len
+ * below 1, #vlqStsThresholdNegative for a negative @p level of a complex vector,
+ * #vlqStsThresholdRange for @p levelLT above @p levelGT.
  *
- * **Memory.** None.
- *  @{ */
-/** `dst[i] = x < level ? value : x`, x = src[i]. */
+ * **Memory.** Allocates nothing.
+ *
+ * @{
+ */
+
+/** dst = src < level ? value : src. */
 VlqStatus vlqsThreshold_LTVal_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s level,
                                   Vlq16s value);
-/** `srcDst[i] = x < level ? value : x`, x = srcDst[i]. */
+/** srcDst = srcDst < level ? value : srcDst. */
 VlqStatus vlqsThreshold_LTVal_16s_I(Vlq16s* srcDst, Vlq32s len, Vlq16s level, Vlq16s value);
-/** `dst[i] = x < level ? value : x`, x = src[i]. */
+/** dst = src < level ? value : src. */
 VlqStatus vlqsThreshold_LTVal_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f level,
                                   Vlq32f value);
-/** `srcDst[i] = x < level ? value : x`, x = srcDst[i]. */
+/** srcDst = srcDst < level ? value : srcDst. */
 VlqStatus vlqsThreshold_LTVal_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f level, Vlq32f value);
-/** `dst[i] = x < level ? value : x`, x = src[i]. */
+/** dst = src < level ? value : src. */
 VlqStatus vlqsThreshold_LTVal_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f level,
                                   Vlq64f value);
-/** `srcDst[i] = x < level ? value : x`, x = srcDst[i]. */
+/** srcDst = srcDst < level ? value : srcDst. */
 VlqStatus vlqsThreshold_LTVal_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f level, Vlq64f value);
-/** `dst[i] = |x| < level ? value : x`, x = src[i]. */
+/** dst = |src| < level ? value : src. */
 VlqStatus vlqsThreshold_LTVal_16sc(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, Vlq16s level,
                                    Vlq16sc value);
-/** `srcDst[i] = |x| < level ? value : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? value : srcDst. */
 VlqStatus vlqsThreshold_LTVal_16sc_I(Vlq16sc* srcDst, Vlq32s len, Vlq16s level, Vlq16sc value);
-/** `dst[i] = |x| < level ? value : x`, x = src[i]. */
+/** dst = |src| < level ? value : src. */
 VlqStatus vlqsThreshold_LTVal_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, Vlq32f level,
                                    Vlq32fc value);
-/** `srcDst[i] = |x| < level ? value : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? value : srcDst. */
 VlqStatus vlqsThreshold_LTVal_32fc_I(Vlq32fc* srcDst, Vlq32s len, Vlq32f level, Vlq32fc value);
-/** `dst[i] = |x| < level ? value : x`, x = src[i]. */
+/** dst = |src| < level ? value : src. */
 VlqStatus vlqsThreshold_LTVal_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, Vlq64f level,
                                    Vlq64fc value);
-/** `srcDst[i] = |x| < level ? value : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| < level ? value : srcDst. */
 VlqStatus vlqsThreshold_LTVal_64fc_I(Vlq64fc* srcDst, Vlq32s len, Vlq64f level, Vlq64fc value);
-/** `dst[i] = x > level ? value : x`, x = src[i]. */
+/** dst = src > level ? value : src. */
 VlqStatus vlqsThreshold_GTVal_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s level,
                                   Vlq16s value);
-/** `srcDst[i] = x > level ? value : x`, x = srcDst[i]. */
+/** srcDst = srcDst > level ? value : srcDst. */
 VlqStatus vlqsThreshold_GTVal_16s_I(Vlq16s* srcDst, Vlq32s len, Vlq16s level, Vlq16s value);
-/** `dst[i] = x > level ? value : x`, x = src[i]. */
+/** dst = src > level ? value : src. */
 VlqStatus vlqsThreshold_GTVal_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f level,
                                   Vlq32f value);
-/** `srcDst[i] = x > level ? value : x`, x = srcDst[i]. */
+/** srcDst = srcDst > level ? value : srcDst. */
 VlqStatus vlqsThreshold_GTVal_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f level, Vlq32f value);
-/** `dst[i] = x > level ? value : x`, x = src[i]. */
+/** dst = src > level ? value : src. */
 VlqStatus vlqsThreshold_GTVal_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f level,
                                   Vlq64f value);
-/** `srcDst[i] = x > level ? value : x`, x = srcDst[i]. */
+/** srcDst = srcDst > level ? value : srcDst. */
 VlqStatus vlqsThreshold_GTVal_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f level, Vlq64f value);
-/** `dst[i] = |x| > level ? value : x`, x = src[i]. */
+/** dst = |src| > level ? value : src. */
 VlqStatus vlqsThreshold_GTVal_16sc(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, Vlq16s level,
                                    Vlq16sc value);
-/** `srcDst[i] = |x| > level ? value : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? value : srcDst. */
 VlqStatus vlqsThreshold_GTVal_16sc_I(Vlq16sc* srcDst, Vlq32s len, Vlq16s level, Vlq16sc value);
-/** `dst[i] = |x| > level ? value : x`, x = src[i]. */
+/** dst = |src| > level ? value : src. */
 VlqStatus vlqsThreshold_GTVal_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, Vlq32f level,
                                    Vlq32fc value);
-/** `srcDst[i] = |x| > level ? value : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? value : srcDst. */
 VlqStatus vlqsThreshold_GTVal_32fc_I(Vlq32fc* srcDst, Vlq32s len, Vlq32f level, Vlq32fc value);
-/** `dst[i] = |x| > level ? value : x`, x = src[i]. */
+/** dst = |src| > level ? value : src. */
 VlqStatus vlqsThreshold_GTVal_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, Vlq64f level,
                                    Vlq64fc value);
-/** `srcDst[i] = |x| > level ? value : x`, x = srcDst[i]. */
+/** srcDst = |srcDst| > level ? value : srcDst. */
 VlqStatus vlqsThreshold_GTVal_64fc_I(Vlq64fc* srcDst, Vlq32s len, Vlq64f level, Vlq64fc value);
-/** `dst[i] = x < levelLT ? valueLT : x > levelGT ? valueGT : x`, x = src[i]. */
+/** dst = src < levelLT ? valueLT : src > levelGT ? valueGT : src. */
 VlqStatus vlqsThreshold_LTValGTVal_16s(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s levelLT,
                                        Vlq16s valueLT, Vlq16s levelGT, Vlq16s valueGT);
-/** `srcDst[i] = x < levelLT ? valueLT : x > levelGT ? valueGT : x`, x = srcDst[i]. */
+/** srcDst = srcDst < levelLT ? valueLT : srcDst > levelGT ? valueGT : srcDst. */
 VlqStatus vlqsThreshold_LTValGTVal_16s_I(Vlq16s* srcDst, Vlq32s len, Vlq16s levelLT, Vlq16s valueLT,
                                          Vlq16s levelGT, Vlq16s valueGT);
-/** `dst[i] = x < levelLT ? valueLT : x > levelGT ? valueGT : x`, x = src[i]. */
+/** dst = src < levelLT ? valueLT : src > levelGT ? valueGT : src. */
 VlqStatus vlqsThreshold_LTValGTVal_32s(const Vlq32s* src, Vlq32s* dst, Vlq32s len, Vlq32s levelLT,
                                        Vlq32s valueLT, Vlq32s levelGT, Vlq32s valueGT);
-/** `srcDst[i] = x < levelLT ? valueLT : x > levelGT ? valueGT : x`, x = srcDst[i]. */
+/** srcDst = srcDst < levelLT ? valueLT : srcDst > levelGT ? valueGT : srcDst. */
 VlqStatus vlqsThreshold_LTValGTVal_32s_I(Vlq32s* srcDst, Vlq32s len, Vlq32s levelLT, Vlq32s valueLT,
                                          Vlq32s levelGT, Vlq32s valueGT);
-/** `dst[i] = x < levelLT ? valueLT : x > levelGT ? valueGT : x`, x = src[i]. */
+/** dst = src < levelLT ? valueLT : src > levelGT ? valueGT : src. */
 VlqStatus vlqsThreshold_LTValGTVal_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f levelLT,
                                        Vlq32f valueLT, Vlq32f levelGT, Vlq32f valueGT);
-/** `srcDst[i] = x < levelLT ? valueLT : x > levelGT ? valueGT : x`, x = srcDst[i]. */
+/** srcDst = srcDst < levelLT ? valueLT : srcDst > levelGT ? valueGT : srcDst. */
 VlqStatus vlqsThreshold_LTValGTVal_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f levelLT, Vlq32f valueLT,
                                          Vlq32f levelGT, Vlq32f valueGT);
-/** `dst[i] = x < levelLT ? valueLT : x > levelGT ? valueGT : x`, x = src[i]. */
+/** dst = src < levelLT ? valueLT : src > levelGT ? valueGT : src. */
 VlqStatus vlqsThreshold_LTValGTVal_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f levelLT,
                                        Vlq64f valueLT, Vlq64f levelGT, Vlq64f valueGT);
-/** `srcDst[i] = x < levelLT ? valueLT : x > levelGT ? valueGT : x`, x = srcDst[i]. */
+/** srcDst = srcDst < levelLT ? valueLT : srcDst > levelGT ? valueGT : srcDst. */
 VlqStatus vlqsThreshold_LTValGTVal_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f levelLT, Vlq64f valueLT,
                                          Vlq64f levelGT, Vlq64f valueGT);
 /** @} */
 
-/** @name Inverses with a least magnitude
+/**
+ * @defgroup vlqs_threshold_inv Inverses with a least magnitude
+ * @ingroup vlqs_limit
+ *
  * The inverse of an element whose magnitude is raised to @p level first; zero counts as (level, 0),
  * or as level with the sign of the zero where it is real. Quotients are true divisions, the same on
  * every processor; complex inverses are within 3 ulp of the larger part.
@@ -268,30 +295,36 @@ VlqStatus vlqsThreshold_LTValGTVal_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f leve
  *
  * **Shapes.** All vectors have @p len elements and any alignment; @p dst may be @p src.
  *
- * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
- * #vlqStsThresholdNegative for a negative @p level. **Warning:** #vlqStsWarnInvZero.
+ * **Errors,** in the order tested: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len
+ * below 1, #vlqStsThresholdNegative for a negative @p level. **Warning:** #vlqStsWarnInvZero.
  *
- * **Memory.** None.
- *  @{ */
-/** `dst[i] = 1 / x`, with |x| raised to `level` first, x = src[i]. */
+ * **Memory.** Allocates nothing.
+ *
+ * @{
+ */
+
+/** dst = 1 / src, with |src| raised to level first. */
 VlqStatus vlqsThreshold_LTInv_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f level);
-/** `srcDst[i] = 1 / x`, with |x| raised to `level` first, x = srcDst[i]. */
+/** srcDst = 1 / srcDst, with |srcDst| raised to level first. */
 VlqStatus vlqsThreshold_LTInv_32f_I(Vlq32f* srcDst, Vlq32s len, Vlq32f level);
-/** `dst[i] = 1 / x`, with |x| raised to `level` first, x = src[i]. */
+/** dst = 1 / src, with |src| raised to level first. */
 VlqStatus vlqsThreshold_LTInv_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f level);
-/** `srcDst[i] = 1 / x`, with |x| raised to `level` first, x = srcDst[i]. */
+/** srcDst = 1 / srcDst, with |srcDst| raised to level first. */
 VlqStatus vlqsThreshold_LTInv_64f_I(Vlq64f* srcDst, Vlq32s len, Vlq64f level);
-/** `dst[i] = 1 / x`, with |x| raised to `level` first, x = src[i]. */
+/** dst = 1 / src, with |src| raised to level first. */
 VlqStatus vlqsThreshold_LTInv_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, Vlq32f level);
-/** `srcDst[i] = 1 / x`, with |x| raised to `level` first, x = srcDst[i]. */
+/** srcDst = 1 / srcDst, with |srcDst| raised to level first. */
 VlqStatus vlqsThreshold_LTInv_32fc_I(Vlq32fc* srcDst, Vlq32s len, Vlq32f level);
-/** `dst[i] = 1 / x`, with |x| raised to `level` first, x = src[i]. */
+/** dst = 1 / src, with |src| raised to level first. */
 VlqStatus vlqsThreshold_LTInv_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, Vlq64f level);
-/** `srcDst[i] = 1 / x`, with |x| raised to `level` first, x = srcDst[i]. */
+/** srcDst = 1 / srcDst, with |srcDst| raised to level first. */
 VlqStatus vlqsThreshold_LTInv_64fc_I(Vlq64fc* srcDst, Vlq32s len, Vlq64f level);
 /** @} */
 
-/** @name Normalization
+/**
+ * @defgroup vlqs_normalize Normalization
+ * @ingroup vlqs_limit
+ *
  * A constant is subtracted and the difference divided by another: offset and scale of a signal. The
  * reciprocal of @p vDiv is formed once in the precision of the samples, and multiplies, so the last
  * bit may differ from that of a division. The divisor of complex vectors is real.
@@ -302,34 +335,39 @@ VlqStatus vlqsThreshold_LTInv_64fc_I(Vlq64fc* srcDst, Vlq32s len, Vlq64f level);
  *
  * **Shapes.** All vectors have @p len elements and any alignment; @p dst may be @p src.
  *
- * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1,
- * #vlqStsZeroDivisor for a @p vDiv below 2^-126 in magnitude (floats, doubles too) or of 0
+ * **Errors,** in the order tested: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len
+ * below 1, #vlqStsZeroDivisor for a @p vDiv below 2^-126 in magnitude (floats, doubles too) or of 0
  * (integers).
  *
- * **Memory.** None.
- *  @{ */
-/** `dst[i] = (src[i] - vSub) * (1 / vDiv)`. */
+ * **Memory.** Allocates nothing.
+ *
+ * @{
+ */
+
+/** dst = (src - vSub) * (1 / vDiv). */
 VlqStatus vlqsNormalize_32f(const Vlq32f* src, Vlq32f* dst, Vlq32s len, Vlq32f vSub, Vlq32f vDiv);
-/** `dst[i] = (src[i] - vSub) * (1 / vDiv)`. */
+/** dst = (src - vSub) * (1 / vDiv). */
 VlqStatus vlqsNormalize_64f(const Vlq64f* src, Vlq64f* dst, Vlq32s len, Vlq64f vSub, Vlq64f vDiv);
-/** `dst[i] = (src[i] - vSub) * (1 / vDiv)`. */
+/** dst = (src - vSub) * (1 / vDiv). */
 VlqStatus vlqsNormalize_32fc(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len, Vlq32fc vSub,
                              Vlq32f vDiv);
-/** `dst[i] = (src[i] - vSub) * (1 / vDiv)`. */
+/** dst = (src - vSub) * (1 / vDiv). */
 VlqStatus vlqsNormalize_64fc(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len, Vlq64fc vSub,
                              Vlq64f vDiv);
-/** `dst[i] = sat(round((src[i] - vSub) / vDiv * 2^-scaleFactor))`, ties to even. */
+/** dst = sat(round((src - vSub) / vDiv * 2^-scaleFactor)), ties to even. */
 VlqStatus vlqsNormalize_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq16s vSub,
                                 Vlq32s vDiv, Vlq32s scaleFactor);
-/** `dst[i] = sat(round((src[i] - vSub) / vDiv * 2^-scaleFactor))`, ties to even. */
+/** dst = sat(round((src - vSub) / vDiv * 2^-scaleFactor)), ties to even. */
 VlqStatus vlqsNormalize_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, Vlq16sc vSub,
                                  Vlq32s vDiv, Vlq32s scaleFactor);
 /** @} */
 
-/** @name G.711 companding
- * Linear samples and the two 8-bit logarithmic codes of telephony. A code carries a sign, a segment
- * and a mantissa, in transmission order of the standard: mu-law codes inverted, A-law codes with the
- * even bits inverted.
+/**
+ * @defgroup vlqs_compand G.711 companding
+ * @ingroup vlqs_limit
+ *
+ * Linear samples and the two 8-bit logarithmic codes of telephony. A code holds a sign, a segment
+ * and a mantissa; as transmitted, mu-law codes are inverted, A-law codes in every other bit.
  *
  * Decoded samples use the whole range of 16 bits: the 14-bit values of mu-law times 4, the 13-bit
  * values of A-law times 8. Coding drops the bits below; a negative sample is coded by its one's
@@ -343,31 +381,35 @@ VlqStatus vlqsNormalize_16sc_Sfs(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len, V
  * **Shapes.** All vectors have @p len elements and any alignment. Only the forms between the two
  * laws may work in place.
  *
- * **Errors,** in this order: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len below 1.
+ * **Errors,** in the order tested: #vlqStsNullPtr for a null vector, #vlqStsBadSize for @p len
+ * below 1.
  *
- * **Memory.** None.
+ * **Memory.** Allocates nothing.
  *
  * **Source.** ITU-T Recommendation G.711, Pulse code modulation (PCM) of voice frequencies.
- *  @{ */
-/** `dst[i]`: the 16-bit sample of A-law code `src[i]`. */
+ *
+ * @{
+ */
+
+/** dst: the 16-bit sample of A-law code src. */
 VlqStatus vlqsALawToLin_8u16s(const Vlq8u* src, Vlq16s* dst, Vlq32s len);
-/** `dst[i]`: the sample of A-law code `src[i]`, divided by 32768. */
+/** dst: the sample of A-law code src, divided by 32768. */
 VlqStatus vlqsALawToLin_8u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
-/** `dst[i]`: the 16-bit sample of mu-law code `src[i]`. */
+/** dst: the 16-bit sample of mu-law code src. */
 VlqStatus vlqsMuLawToLin_8u16s(const Vlq8u* src, Vlq16s* dst, Vlq32s len);
-/** `dst[i]`: the sample of mu-law code `src[i]`, divided by 32768. */
+/** dst: the sample of mu-law code src, divided by 32768. */
 VlqStatus vlqsMuLawToLin_8u32f(const Vlq8u* src, Vlq32f* dst, Vlq32s len);
-/** `dst[i]`: the A-law code of 16-bit sample `src[i]`. */
+/** dst: the A-law code of 16-bit sample src. */
 VlqStatus vlqsLinToALaw_16s8u(const Vlq16s* src, Vlq8u* dst, Vlq32s len);
-/** `dst[i]`: the A-law code of `sat(round(32768 * src[i]))`. */
+/** dst: the A-law code of sat(round(32768 * src)). */
 VlqStatus vlqsLinToALaw_32f8u(const Vlq32f* src, Vlq8u* dst, Vlq32s len);
-/** `dst[i]`: the mu-law code of 16-bit sample `src[i]`. */
+/** dst: the mu-law code of 16-bit sample src. */
 VlqStatus vlqsLinToMuLaw_16s8u(const Vlq16s* src, Vlq8u* dst, Vlq32s len);
-/** `dst[i]`: the mu-law code of `sat(round(32768 * src[i]))`. */
+/** dst: the mu-law code of sat(round(32768 * src)). */
 VlqStatus vlqsLinToMuLaw_32f8u(const Vlq32f* src, Vlq8u* dst, Vlq32s len);
-/** `dst[i]`: the mu-law code paired with A-law code `src[i]`. */
+/** dst: the mu-law code paired with A-law code src. */
 VlqStatus vlqsALawToMuLaw_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
-/** `dst[i]`: the A-law code paired with mu-law code `src[i]`. */
+/** dst: the A-law code paired with mu-law code src. */
 VlqStatus vlqsMuLawToALaw_8u(const Vlq8u* src, Vlq8u* dst, Vlq32s len);
 /** @} */
 

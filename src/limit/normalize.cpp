@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 #include "frame/loop/map_complex.h"
 #include "frame/simd/control.h"
 #include "vlqs/limit.h"

@@ -2,7 +2,7 @@
 #include "limit/threshold_kernels.h"
 
 #include "frame/loop/any.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 #include "frame/loop/map_complex.h"
 #include "frame/simd/control.h"
 #include "vlqs/limit.h"

@@ -2,6 +2,7 @@
 // a real NaN stays as it is.
 #pragma once
 
+#include <cmath>
 #include <limits>
 
 #include "frame/loop/map.h"
@@ -46,8 +47,9 @@ struct ClampMagnitude {
     T level;
     Vec<T> operator()(Vec<T> x) const {
         if constexpr (std::is_floating_point_v<T>) {
+            // A level of -0 is allowed; its sign must not get into the results.
             const auto sign = x & Vec<T>::broadcast(T(-0.0));
-            return Clamp<side, T>{level}(absolute(x)) | sign;
+            return Clamp<side, T>{std::abs(level)}(absolute(x)) | sign;
         } else if constexpr (side == Side::Above) {
             const auto limit = Vec<T>::broadcast(level);
             return minimum(maximum(x, Vec<T>::zero() - limit), limit);
