@@ -9,4 +9,6 @@ if(VLQS_SANITIZE)
   target_compile_options(vlqs_flags INTERFACE
     -fsanitize=${VLQS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -g)
   target_link_options(vlqs_flags INTERFACE -fsanitize=${VLQS_SANITIZE})
+  # Blocks of any length go to a team, see src/frame/team.h.
+  target_compile_definitions(vlqs_flags INTERFACE VLQS_EAGER_TEAMS)
 endif()

@@ -1,3 +1,4 @@
+// Features of the processor that the process may use.
 #include "vlqs/core.h"
 
 Vlq64u vlqGetEnabledCpuFeatures() {

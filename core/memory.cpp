@@ -1,3 +1,4 @@
+// Memory aligned to 64 bytes.
 #include <cstdint>
 #include <cstdlib>
 

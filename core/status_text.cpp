@@ -1,3 +1,4 @@
+// One sentence for each status.
 #include "vlqs/core.h"
 
 const char* vlqGetStatusString(VlqStatus status) {

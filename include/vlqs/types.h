@@ -2,15 +2,16 @@
  * @file types.h
  * @brief Sample types, enumerations and status codes: the vocabulary of every call.
  *
- * Vectors are contiguous arrays of elements, little-endian. Lengths count elements (complex
- * elements of a complex vector), never bytes, and are signed 32-bit unless a function says so.
+ * C99 or later, C++11 or later. Vectors are contiguous arrays of little-endian elements. Lengths
+ * count elements (of a complex vector, complex elements), never bytes, and are signed 32-bit
+ * integers unless a function says otherwise.
  */
 #ifndef VLQS_TYPES_H
 #define VLQS_TYPES_H
 
 #include <stdint.h>
 
-/* The library's own sources see these declarations inside a namespace: there a public name is the
+/* The library's own sources see these declarations in a namespace: there a public name is the
  * function's body, while the exported symbol of that name is a stub that jumps to it. */
 #if defined(VLQS_BUILDING)
 #define VLQS_BEGIN_DECLS namespace vlq {
@@ -23,7 +24,10 @@
 #define VLQS_END_DECLS
 #endif
 
-/** @name Scalar samples
+/** @defgroup vlqs_types Types and status codes */
+
+/** @defgroup vlqs_types_scalar Scalar samples
+ *  @ingroup vlqs_types
  *  @{ */
 typedef uint8_t Vlq8u;   /**< 8-bit unsigned */
 typedef int8_t Vlq8s;    /**< 8-bit signed */
@@ -38,10 +42,13 @@ typedef float Vlq32f;    /**< IEEE 754 binary32 */
 typedef double Vlq64f;   /**< IEEE 754 binary64 */
 /** @} */
 
-/* Complex samples: real part first, imaginary part next, no gap. A vector of n complex elements
- * lies in memory as 2 n scalars. */
+/** @defgroup vlqs_types_complex Complex samples
+ *  @ingroup vlqs_types
+ *  The real part first, the imaginary part next, without a gap: a vector of n complex elements has
+ *  the memory layout of a vector of 2 n scalars.
+ *  @{ */
 
-/** Complex sample of two 8-bit signed parts; only the allocator knows it. */
+/** Complex sample of two 8-bit signed parts; only vlqsMalloc_8sc() uses it. */
 typedef struct {
     Vlq8s re; /**< real part */
     Vlq8s im; /**< imaginary part */
@@ -77,12 +84,22 @@ typedef struct {
     Vlq64f im; /**< imaginary part */
 } Vlq64fc;
 
-/** Rounding of a value that lies between two integers. */
+/** @} */
+
+/** @defgroup vlqs_types_enums Modes and statuses
+ *  @ingroup vlqs_types
+ *
+ *  All of these are plain 32-bit integers, so the compiler does not notice when two neighboring
+ *  arguments are exchanged: a rounding mode and a scale factor, or the flag and the hint of a
+ *  transform.
+ *  @{ */
+
+/** How a value is rounded to an integer. */
 typedef Vlq32s VlqRoundMode;
 enum {
     vlqRndZero = 0,     /**< towards zero */
-    vlqRndNear = 1,     /**< to the nearest, ties to the even one */
-    vlqRndFinancial = 2 /**< to the nearest, ties away from zero */
+    vlqRndNear = 1,     /**< to nearest, ties to even */
+    vlqRndFinancial = 2 /**< to nearest, ties away from zero */
 };
 
 /** Comparison that a threshold applies. */
@@ -92,7 +109,7 @@ enum {
     vlqCmpGreater = 4 /**< elements above the level are replaced */
 };
 
-/** Wish for speed or for accuracy, where a family has a choice. */
+/** Preference for speed or for accuracy, where a family has a choice. */
 typedef Vlq32s VlqHint;
 enum {
     vlqHintNone = 0,    /**< no preference */
@@ -100,7 +117,7 @@ enum {
     vlqHintAccurate = 2 /**< accuracy */
 };
 
-/** Normalisation of a transform of length N: which direction is multiplied, and by what. */
+/** Normalization flags of a transform of length N: which direction is multiplied, and by what. */
 enum {
     vlqNormFwdByN = 1,  /**< forward by 1/N */
     vlqNormInvByN = 2,  /**< inverse by 1/N */
@@ -109,32 +126,34 @@ enum {
 };
 
 /**
- * Outcome of a call. Zero is success. A negative value is an error: nothing was written. A positive
- * value is a warning: all results were written, and a singular element got its substitute.
+ * Outcome of a call: 0 for success, negative for an error, positive for a warning. After an error
+ * of a check nothing has been written. After a warning all results have been written, with a
+ * substitute where an element has no result of its own.
  */
 typedef Vlq32s VlqStatus;
 enum {
-    vlqStsWarnBitWidth = 27,       /**< a bit width was brought into 0 to 32 */
-    vlqStsWarnNaN = 9,             /**< a sample is not a number */
-    vlqStsWarnLnNegative = 8,      /**< logarithm of a negative sample */
-    vlqStsWarnLnZero = 7,          /**< logarithm of a zero sample */
-    vlqStsWarnDivByZero = 6,       /**< a sample was divided by zero */
-    vlqStsWarnEvenMask = 5,        /**< an even median mask was shortened by one */
-    vlqStsWarnInvZero = 4,         /**< a zero sample was to be inverted */
-    vlqStsWarnSqrtNegArg = 3,      /**< square root of a negative sample */
-    vlqStsOk = 0,                  /**< success */
-    vlqStsBadArg = -5,             /**< a mode or parameter is outside its set */
-    vlqStsBadSize = -6,            /**< a length, size or count is too small */
-    vlqStsBadSelector = -7,        /**< a selector is outside its enumeration */
-    vlqStsNullPtr = -8,            /**< a required pointer is null */
-    vlqStsNoMemory = -9,           /**< memory was refused */
-    vlqStsZeroDivisor = -10,       /**< a constant divisor is zero or too small */
-    vlqStsBadCauchyParam = -11,    /**< the Cauchy parameter is not positive */
-    vlqStsBadScale = -13,          /**< the scale stored with the taps is negative */
-    vlqStsBadOrder = -15,          /**< a transform order is out of range */
-    vlqStsBadFlag = -16,           /**< a normalisation flag is outside its set */
-    vlqStsBadSpec = -17,           /**< the record is dead or of another kind */
-    vlqStsThresholdRange = -18,    /**< the low threshold lies above the high one */
+    vlqStsWarnBitWidth = 27,    /**< a bit width was clamped to 0 to 32 */
+    vlqStsWarnNaN = 9,          /**< a sample is NaN */
+    vlqStsWarnLnNegative = 8,   /**< logarithm of a negative sample */
+    vlqStsWarnLnZero = 7,       /**< logarithm of a zero sample */
+    vlqStsWarnDivByZero = 6,    /**< a sample was divided by zero */
+    vlqStsWarnEvenMask = 5,     /**< an even median mask was shortened by one */
+    vlqStsWarnInvZero = 4,      /**< a zero sample was to be inverted */
+    vlqStsWarnSqrtNegArg = 3,   /**< square root of a negative sample */
+    vlqStsOk = 0,               /**< success */
+    vlqStsBadArg = -5,          /**< a mode or parameter is outside its set */
+    vlqStsBadSize = -6,         /**< a length, size or count is too small */
+    vlqStsBadSelector = -7,     /**< a selector is outside its enumeration */
+    vlqStsNullPtr = -8,         /**< a required pointer is null */
+    vlqStsNoMemory = -9,        /**< out of memory */
+    vlqStsZeroDivisor = -10,    /**< a constant divisor is zero or too small */
+    vlqStsBadCauchyParam = -11, /**< the Cauchy parameter is not positive */
+    vlqStsBadScale = -13,       /**< the scale stored with the taps is negative */
+    vlqStsBadOrder = -15,       /**< a transform order is out of range */
+    vlqStsBadFlag = -16,        /**< a normalization flag is outside its set */
+    vlqStsBadSpec =
+        -17, /**< the spec or state is not initialized, was freed, or is of another kind */
+    vlqStsThresholdRange = -18,    /**< the low threshold is above the high one */
     vlqStsThresholdNegative = -19, /**< a threshold on magnitudes is negative */
     vlqStsBadDlyIndex = -24,       /**< a delay-line index is out of range */
     vlqStsBadFilterOrder = -25,    /**< an IIR order is out of range */
@@ -165,5 +184,6 @@ enum {
     vlqStsBadIIRGenRipple = -209,  /**< the ripple is outside (0, 29] */
     vlqStsBadRoundMode = -213      /**< the function has no such rounding mode */
 };
+/** @} */
 
 #endif

@@ -1,7 +1,7 @@
 // Sums and differences of two vectors. A difference is second minus first: src2 - src1, and
 // srcDst - src in place.
 #include "arith/add_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 namespace {
 
@@ -35,20 +35,6 @@ VlqStatus unscaled(const A* a, const B* b, D* dst, Vlq32s len, Op op) {
         map(dst, len, op, a, b);
     else
         mapBlocks(dst, len, op, a, b);
-    return vlqStsOk;
-}
-
-// Out of place, a long float sum goes past the cache. Differences and sums in place do not.
-template <class T>
-VlqStatus streamedSum(const T* src1, const T* src2, T* dst, Vlq32s len) {
-    if (!src1 || !src2 || !dst) return vlqStsNullPtr;
-    if (len < 1) return vlqStsBadSize;
-    constexpr int mostCachedBlocks = 5461, block = 32 / sizeof(T);
-    if (len / block > mostCachedBlocks && standsOn16(dst)) {
-        map<1, Stores::Streaming>(dst, len, Exact<Sum>{}, src1, src2);
-    } else {
-        map(dst, len, Exact<Sum>{}, src1, src2);
-    }
     return vlqStsOk;
 }
 
@@ -129,7 +115,7 @@ VlqStatus vlq::vlqsAdd_64s_Sfs(const Vlq64s* src1, const Vlq64s* src2, Vlq64s* d
     return scaled<Sum>(src1, src2, dst, len, scaleFactor);
 }
 VlqStatus vlq::vlqsAdd_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len) {
-    return streamedSum(src1, src2, dst, len);
+    return unscaled(src1, src2, dst, len, Exact<Sum>{});
 }
 VlqStatus vlq::vlqsAdd_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len) {
     return unscaled(srcDst, src, srcDst, len, Exact<Sum>{});
@@ -143,7 +129,7 @@ VlqStatus vlq::vlqsAdd_32fc_I(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len) {
     return vlqsAdd_32f_I(reals(src), reals(srcDst), twice(len));
 }
 VlqStatus vlq::vlqsAdd_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* dst, Vlq32s len) {
-    return streamedSum(src1, src2, dst, len);
+    return unscaled(src1, src2, dst, len, Exact<Sum>{});
 }
 VlqStatus vlq::vlqsAdd_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len) {
     return unscaled(srcDst, src, srcDst, len, Exact<Sum>{});

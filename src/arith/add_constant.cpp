@@ -2,7 +2,7 @@
 // before a kernel is chosen, and handed over to the body that copies, fills or clears.
 #include "arith/add_constant_kernels.h"
 #include "frame/loop/bulk.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 namespace {
 
@@ -76,10 +76,10 @@ VlqStatus reverseDifference16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32
 }
 
 // ---- floats -------------------------------------------------------------------------------------
-template <class Op, Stores stores = Stores::Ordinary, class T, class C>
+template <class Op, class T, class C>
 void runExact(const T* src, C val, T* dst, std::ptrdiff_t len) {
     const Vec<T> constant = bitCast<T>(repeated(val));
-    map<unit<T, C>, stores>(
+    map<unit<T, C>>(
         dst, len * unit<T, C>, [constant](Vec<T> x) { return Op::exact(x, constant); }, src);
 }
 
@@ -101,11 +101,6 @@ VlqStatus exactComplex(const C* src, C val, C* dst, Vlq32s len) {
 }
 
 // ---- 64-bit integers ----------------------------------------------------------------------------
-Rounding roundingOf(VlqRoundMode mode) {
-    if (mode == vlqRndZero) return Rounding::ToZero;
-    return mode == vlqRndNear ? Rounding::TiesToEven : Rounding::TiesAway;
-}
-
 template <class T>
 VlqStatus sum64(const T* src, T val, T* dst, Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode) {
     if (!src || !dst) return vlqStsNullPtr;
@@ -115,7 +110,7 @@ VlqStatus sum64(const T* src, T val, T* dst, Vlq32u len, Vlq32s scaleFactor, Vlq
                             static_cast<Vlq32s>(len));
     }
     const Vec<T> constant = Vec<T>::broadcast(val);
-    withScaleAndRounding<T>(scaleFactor, roundingOf(rndMode), [&](auto op) {
+    withScaleAndRounding<T>(scaleFactor, rndMode, [&](auto op) {
         map(
             dst, static_cast<std::ptrdiff_t>(len),
             [op, constant](Vec<T> x) { return op(x, constant); }, src);
@@ -208,10 +203,6 @@ VlqStatus vlq::vlqsAddC_64f_I(Vlq64f val, Vlq64f* srcDst, Vlq32s len) {
     return exact<Sum>(srcDst, val, srcDst, len);
 }
 VlqStatus vlq::vlqsAddC_64fc(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32s len) {
-    if (len > 8192 && src && dst && standsOn16(dst)) {
-        runExact<Sum, Stores::Streaming>(reals(src), val, reals(dst), len);
-        return vlqStsOk;
-    }
     return exactComplex<Sum>(src, val, dst, len);
 }
 VlqStatus vlq::vlqsAddC_64fc_I(Vlq64fc val, Vlq64fc* srcDst, Vlq32s len) {

@@ -160,9 +160,6 @@ struct WidenedToSum {
     }
 };
 
-// A destination on a 16-byte boundary may be stored past the cache.
-inline bool standsOn16(const void* dst) { return reinterpret_cast<std::uintptr_t>(dst) % 16 == 0; }
-
 // ---- with a scale factor ------------------------------------------------------------------------
 // The scale factor that leaves an unsigned sum nothing but its carry: 1 where a + b lies above
 // the carry's weight, which is the tie.

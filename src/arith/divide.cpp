@@ -1,7 +1,7 @@
 // Quotients of integers. The second vector is divided by the first.
 #include "arith/divide_kernels.h"
 #include "arith/divide_wide_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 #include <algorithm>
 
@@ -12,6 +12,7 @@ namespace {
 using namespace vlq::divide;
 using vlq::clear;
 using vlq::elements;
+using vlq::Rounding;
 using vlq::StandardFloatMode;
 using vlq::Vec;
 
@@ -32,23 +33,21 @@ VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s 
 // 2^-scaleFactor in the range that matters. Below -30 any quotient but 0 leaves the range of its
 // type, which takes one bit more than -31 gives to 1 / 65535.
 float quotientScale(Vlq32s scaleFactor) {
-    return powerWithin<float>(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor,
-                              kFloatLimit);
+    return floatFactor(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor);
 }
 
-template <class T, class Round>
-VlqStatus divided(Round round, const T* divisors, const T* numerators, T* dst, Vlq32s len,
-                  Vlq32s scaleFactor) {
+template <Rounding rounding, class T>
+VlqStatus divided(const T* divisors, const T* numerators, T* dst, Vlq32s len, Vlq32s scaleFactor) {
     const StandardFloatMode hold;
     const auto factor = Vec<float>::broadcast(quotientScale(scaleFactor));
-    return divided(Quotient<T, Round>{factor, round}, divisors, numerators, dst, len);
+    return divided(Quotient<T, rounding>{factor}, divisors, numerators, dst, len);
 }
 
 template <class T>
 VlqStatus scaled(const T* src1, const T* src2, T* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    return divided(Nearest{}, src1, src2, dst, len, scaleFactor);
+    return divided<Rounding::TiesToEven>(src1, src2, dst, len, scaleFactor);
 }
 
 template <class T>
@@ -64,11 +63,11 @@ VlqStatus roundedByMode(const T* src1, const T* src2, T* dst, Vlq32s len, VlqRou
         clear(dst, len);
         return status;
     }
-    switch (rndMode) {
-        case vlqRndZero: return divided(TowardsZero{}, src1, src2, dst, len, scaleFactor);
-        case vlqRndNear: return divided(Nearest{}, src1, src2, dst, len, scaleFactor);
-        default: return divided(NearestAway{}, src1, src2, dst, len, scaleFactor);
-    }
+    VlqStatus status = vlqStsOk;
+    vlq::withRounding(rndMode, [&](auto rounding) {
+        status = divided<rounding()>(src1, src2, dst, len, scaleFactor);
+    });
+    return status;
 }
 
 VlqStatus scaled32s(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len,
@@ -76,9 +75,8 @@ VlqStatus scaled32s(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s 
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    return divided(
-        Quotient32s{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))}, src1,
-        src2, dst, len);
+    return divided(Quotient32s{Vec<double>::broadcast(doubleFactor(scaleFactor))}, src1, src2, dst,
+                   len);
 }
 
 VlqStatus scaled16sc(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len,
@@ -86,8 +84,7 @@ VlqStatus scaled16sc(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    const ComplexQuotient16sc op{
-        Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))};
+    const ComplexQuotient16sc op{Vec<double>::broadcast(doubleFactor(scaleFactor))};
     return divided(
         [op](const auto& d, const auto& n) {
             return vlq::Block<Vlq32s, 1>{{op(d.part[0], n.part[0])}};
@@ -113,7 +110,7 @@ VlqStatus scaledByConstant16sc(const Vlq16sc* src, Vlq16sc val, Vlq16sc* dst, Vl
     if (val.re == 0 && val.im == 0) return vlqStsZeroDivisor;
     const StandardFloatMode hold;
     const double re = val.re, im = val.im;
-    const double factor = powerWithin<double>(scaleFactor, kDoubleLimit) / (re * re + im * im);
+    const double factor = doubleFactor(scaleFactor) / (re * re + im * im);
     vlq::map(elements(dst), len,
              TimesReciprocal16sc{Vec<double>::broadcast(re * factor),
                                  Vec<double>::broadcast(-im * factor)},
@@ -130,7 +127,7 @@ VlqStatus constantBy16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len) 
         return status;
     }
     const StandardFloatMode hold;
-    const Quotient<Vlq16u, Nearest> op{Vec<float>::broadcast(1.0f), {}};
+    const Quotient<Vlq16u, Rounding::TiesToEven> op{Vec<float>::broadcast(1.0f)};
     const vlq::Block<Vlq16u, 1> numerators{{Vec<Vlq16u>::broadcast(val)}};
     vlq::mapBlocks(
         dst, len, [op, numerators](const auto& divisors) { return op(divisors, numerators); }, src);
@@ -173,9 +170,8 @@ VlqStatus vlq::vlqsDiv_32s16s_Sfs(const Vlq16s* src1, const Vlq32s* src2, Vlq16s
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    return divided(
-        Quotient32s{Vec<double>::broadcast(powerWithin<double>(scaleFactor, kDoubleLimit))}, src1,
-        src2, dst, len);
+    return divided(Quotient32s{Vec<double>::broadcast(doubleFactor(scaleFactor))}, src1, src2, dst,
+                   len);
 }
 VlqStatus vlq::vlqsDiv_16sc_Sfs(const Vlq16sc* src1, const Vlq16sc* src2, Vlq16sc* dst, Vlq32s len,
                                 Vlq32s scaleFactor) {

@@ -8,11 +8,21 @@ namespace {
 using namespace vlq::divide;
 using vlq::Vec;
 
-template <class T, class Op>
-VlqStatus divided(const T* divisors, const T* numerators, T* dst, Vlq32s len, Op op) {
+template <class T>
+VlqStatus divided(const T* divisors, const T* numerators, T* dst, Vlq32s len) {
     if (!divisors || !numerators || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    return mapQuotients(dst, len, op, divisors, numerators) ? vlqStsWarnDivByZero : vlqStsOk;
+    const bool zeroFound = mapQuotients(dst, len, RealQuotient{}, divisors, numerators);
+    return zeroFound ? vlqStsWarnDivByZero : vlqStsOk;
+}
+
+template <class Quotient, class T>
+VlqStatus dividedComplex(const T* divisors, const T* numerators, T* dst, Vlq32s len) {
+    if (!divisors || !numerators || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    bool zeroFound = false;
+    vlq::mapComplex(dst, len, Quotient{&zeroFound}, divisors, numerators);
+    return zeroFound ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
 VlqStatus constantByVector(const Vlq32f* src, Vlq32f val, Vlq32f* dst, Vlq32s len) {
@@ -49,7 +59,7 @@ VlqStatus byComplexConstant(const Vlq32fc* src, Vlq32fc val, Vlq32fc* dst, Vlq32
     if (val.re == 0 && val.im == 0) return vlqStsZeroDivisor;
     const double re = static_cast<double>(val.re), im = static_cast<double>(val.im),
                  size = re * re + im * im;
-    mapValues(dst, len, TimesReciprocal32fc{vlq::broadcastPair(re / size, -im / size)}, src);
+    vlq::mapComplex(dst, len, TimesReciprocal32fc{vlq::broadcastPair(re / size, -im / size)}, src);
     return vlqStsOk;
 }
 
@@ -60,14 +70,13 @@ VlqStatus byComplexConstant(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32
     const double larger = std::max(std::abs(val.re), std::abs(val.im));
     if (larger >= 0x1p-500 && larger <= 0x1p500) {
         const double size = (val.re * val.re + val.im * val.im) * 4;
-        mapValues(dst, len, TimesReciprocal64fc{vlq::broadcastPair(val.re / size, -val.im / size)},
-                  src);
+        vlq::mapComplex(
+            dst, len, TimesReciprocal64fc{vlq::broadcastPair(val.re / size, -val.im / size)}, src);
     } else {
         // The square leaves the range, or the reciprocal does.
         const auto constant = vlq::broadcastPair(val.re, val.im);
-        mapValues(
-            dst, len, [constant](Vec<double> n) { return ComplexQuotient64fc{}(constant, n); },
-            src);
+        vlq::mapComplex(
+            dst, len, [constant](Vec<double> n) { return ScaledQuotient64fc{}(constant, n); }, src);
     }
     return vlqStsOk;
 }
@@ -76,28 +85,28 @@ VlqStatus byComplexConstant(const Vlq64fc* src, Vlq64fc val, Vlq64fc* dst, Vlq32
 
 // ---- two vectors --------------------------------------------------------------------------------
 VlqStatus vlq::vlqsDiv_32f(const Vlq32f* src1, const Vlq32f* src2, Vlq32f* dst, Vlq32s len) {
-    return divided(src1, src2, dst, len, RealQuotient{});
+    return divided(src1, src2, dst, len);
 }
 VlqStatus vlq::vlqsDiv_32f_I(const Vlq32f* src, Vlq32f* srcDst, Vlq32s len) {
-    return divided(src, srcDst, srcDst, len, RealQuotient{});
+    return divided(src, srcDst, srcDst, len);
 }
 VlqStatus vlq::vlqsDiv_64f(const Vlq64f* src1, const Vlq64f* src2, Vlq64f* dst, Vlq32s len) {
-    return divided(src1, src2, dst, len, RealQuotient{});
+    return divided(src1, src2, dst, len);
 }
 VlqStatus vlq::vlqsDiv_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s len) {
-    return divided(src, srcDst, srcDst, len, RealQuotient{});
+    return divided(src, srcDst, srcDst, len);
 }
 VlqStatus vlq::vlqsDiv_32fc(const Vlq32fc* src1, const Vlq32fc* src2, Vlq32fc* dst, Vlq32s len) {
-    return divided(src1, src2, dst, len, ComplexQuotient32fc{});
+    return dividedComplex<ComplexQuotient32fc>(src1, src2, dst, len);
 }
 VlqStatus vlq::vlqsDiv_32fc_I(const Vlq32fc* src, Vlq32fc* srcDst, Vlq32s len) {
-    return divided(src, srcDst, srcDst, len, ComplexQuotient32fc{});
+    return dividedComplex<ComplexQuotient32fc>(src, srcDst, srcDst, len);
 }
 VlqStatus vlq::vlqsDiv_64fc(const Vlq64fc* src1, const Vlq64fc* src2, Vlq64fc* dst, Vlq32s len) {
-    return divided(src1, src2, dst, len, ComplexQuotient64fc{});
+    return dividedComplex<ComplexQuotient64fc>(src1, src2, dst, len);
 }
 VlqStatus vlq::vlqsDiv_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len) {
-    return divided(src, srcDst, srcDst, len, ComplexQuotient64fc{});
+    return dividedComplex<ComplexQuotient64fc>(src, srcDst, srcDst, len);
 }
 
 // ---- a constant ---------------------------------------------------------------------------------

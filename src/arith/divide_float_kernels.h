@@ -1,14 +1,14 @@
 // Quotients of floats.
 #pragma once
 
-#include <bit>
 #include <cmath>
 
 #include "frame/loop/any.h"
-#include "frame/loop/map.h"
+#include "frame/loop/map_complex.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
 #include "frame/simd/saturate.h"
+#include "frame/simd/split_convert.h"
 #include "vlqs/types.h"
 
 namespace vlq::divide {
@@ -20,50 +20,66 @@ struct RealQuotient {
     }
 };
 
-// x conj(y) and |y|^2 of interleaved values, the latter in both lanes of each.
-template <class T>
-inline Vec<T> timesConjugate(Vec<T> x, Vec<T> y) {
-    return subtractAdd(x * realParts(y), -(swapParts(x) * imaginaryParts(y)));
+// x * conj(y), interleaved.
+inline Vec<double> timesConjugate(Vec<double> x, Vec<double> y) {
+    return addSubtract(x * realParts(y), swapParts(x) * imaginaryParts(y));
 }
-template <class T>
-inline Vec<T> norm(Vec<T> y) {
+// |y|^2 in both lanes of a value.
+inline Vec<double> norm(Vec<double> y) {
     const auto squares = y * y;
     return squares + swapParts(squares);
 }
-// numerator / norm; where the divisor y is 0, the parts of x over its real part.
-template <class T>
-inline Vec<T> overNorm(Vec<T> numerator, Vec<T> divisorNorm, Vec<T> x, Vec<T> y) {
-    const auto is0 = divisorNorm == Vec<T>::zero();
-    return select(is0, x, numerator) / select(is0, realParts(y), divisorNorm);
-}
 
-// In double nothing overflows or vanishes, and the result is rounded once.
-inline Block<double, 2> quotients(Block<double, 2> x, Block<double, 2> y) {
-    Block<double, 2> result;
-    for (int i = 0; i < 2; ++i) {
-        const auto a = x.part[i], b = y.part[i];
-        result.part[i] = overNorm(timesConjugate(a, b), norm(b), a, b);
-    }
-    return result;
-}
+// The quotient of complex numbers x / y = x conj(y) / |y|^2. Where the divisor y is 0, both parts of
+// x are divided by its real part, which gives infinities of the right sign, or NaN for 0 / 0, and
+// `zeroFound` is set.
+//
+// Unused lanes hold NaN, so that they do not look like zero divisors.
+
+// In double: no square of a float overflows or underflows there.
 struct ComplexQuotient32fc {
+    static constexpr bool kMarkUnused = true;
+    bool* zeroFound;
+
     Vec<float> operator()(Vec<float> divisors, Vec<float> numerators) const {
-        return toFloat(quotients(toDouble(numerators), toDouble(divisors)));
+        using V = Vec<double>;
+        const Split<double> y = splitToDouble(divisors), x = splitToDouble(numerators);
+        const V norm = y.re * y.re + y.im * y.im;
+        const V re = x.re * y.re + x.im * y.im, im = x.im * y.re - x.re * y.im;
+        if (any(norm == V::zero())) [[unlikely]]
+            return joinToFloat(withZeros(y, x, norm, re, im));
+        // One division serves both parts. What the second rounding costs in double is far below the
+        // rounding to float.
+        const V reciprocal = V::broadcast(1) / norm;
+        return joinToFloat({re * reciprocal, im * reciprocal});
+    }
+
+private:
+    [[gnu::noinline]] Split<double> withZeros(const Split<double>& y, const Split<double>& x,
+                                              Vec<double> norm, Vec<double> re,
+                                              Vec<double> im) const {
+        *zeroFound = true;
+        const auto is0 = norm == Vec<double>::zero();
+        const auto reciprocal = Vec<double>::broadcast(1) / select(is0, y.re, norm);
+        return {select(is0, x.re, re) * reciprocal, select(is0, x.im, im) * reciprocal};
     }
 };
 
-// Each value brought to a magnitude of 2 to 4 by a power of two, which comes back at the end in two
-// steps, so that the way there stays in range where the result does.
-struct ComplexQuotient64fc {
+// Each value is brought to a magnitude of 2 to 4 by a power of two. The powers are undone at the end
+// in two steps, so that no intermediate result is out of range where the result is not.
+class ScaledQuotient64fc {
+public:
     using V = Vec<double>;
-    using Bits = Vec<std::uint64_t>;
 
     V operator()(V divisors, V numerators) const {
         const Bits e = exponents(divisors), f = exponents(numerators);
-        const V y = divisors * powerOfTwo(Bits::broadcast(kInfinity) - e),
-                x = numerators * powerOfTwo(Bits::broadcast(kInfinity) - f);
-        const V scaled = overNorm(timesConjugate(x, y), norm(y), x, divisors);
-        // 0 over 0 and the like have no magnitude, and a power of two changes nothing of theirs.
+        const V y = divisors * powerOfField(Bits::broadcast(kInfinity) - e),
+                x = numerators * powerOfField(Bits::broadcast(kInfinity) - f);
+        const V yNorm = norm(y);
+        const auto is0 = yNorm == V::zero();
+        const V quotient =
+            select(is0, x, timesConjugate(x, y)) / select(is0, realParts(divisors), yNorm);
+        // For 0 / 0 and the like the exponents mean nothing; no power of two changes the result.
         using Words = Vec<std::int32_t>;
         const Words limit = bitCast<std::int32_t>(Bits::broadcast(1100));
         Words distance = bitCast<std::int32_t>(f) - bitCast<std::int32_t>(e);
@@ -71,11 +87,12 @@ struct ComplexQuotient64fc {
         distance = select(distance < -limit, -limit, distance);
         const Words half = shiftRight(distance, 1),
                     bias = bitCast<std::int32_t>(Bits::broadcast(1023));
-        return scaled * powerOfTwo(bitCast<std::uint64_t>(half + bias)) *
-               powerOfTwo(bitCast<std::uint64_t>(distance - half + bias));
+        return quotient * powerOfField(bitCast<std::uint64_t>(half + bias)) *
+               powerOfField(bitCast<std::uint64_t>(distance - half + bias));
     }
 
 private:
+    using Bits = Vec<std::uint64_t>;
     static constexpr std::uint64_t kInfinity = 0x7FF;
     // Exponent field of the larger part, in both lanes; at least 1.
     static Bits exponents(V v) {
@@ -84,7 +101,33 @@ private:
         return shiftRight(bitCast<std::uint64_t>(maximum(maximum(size, swapParts(size)), smallest)),
                           52);
     }
-    static V powerOfTwo(Bits field) { return bitCast<double>(shiftLeft(field, 52)); }
+    static V powerOfField(Bits field) { return bitCast<double>(shiftLeft(field, 52)); }
+};
+
+// Directly where neither products nor quotients can leave the range of normal numbers, else scaled.
+// Scaling by powers of two is exact, so both ways give the same result.
+struct ComplexQuotient64fc {
+    static constexpr bool kMarkUnused = true;
+    using V = Vec<double>;
+    bool* zeroFound;
+
+    V operator()(V divisors, V numerators) const {
+        const V y = absolute(divisors), x = absolute(numerators);
+        // With all parts within 2^-240 to 2^240 even a difference of products that almost cancel is
+        // above 2^-540, and its quotient by the norm above 2^-1022.
+        const auto extreme =
+            (maximum(x, y) > V::broadcast(0x1p240)) | (minimum(x, y) < V::broadcast(0x1p-240));
+        if (any(extreme)) [[unlikely]]
+            return scaled(divisors, numerators);
+        return timesConjugate(numerators, divisors) / norm(divisors);
+    }
+
+private:
+    [[gnu::noinline]] V scaled(V divisors, V numerators) const {
+        const auto isZero = bitCast<double>(divisors == V::zero());
+        if (any(isZero & swapParts(isZero))) *zeroFound = true;
+        return ScaledQuotient64fc{}(divisors, numerators);
+    }
 };
 
 // ---- complex reciprocals ------------------------------------------------------------------------
@@ -111,75 +154,17 @@ struct TimesReciprocal64fc {
     }
 };
 
-// ---- loops over complex values ------------------------------------------------------------------
-// 32fc moves as one 64-bit element, 64fc as a group of two doubles: a loop never splits a value.
-template <class Op, class... S>
-inline void mapValues(Vlq32fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
-    map(
-        reinterpret_cast<std::int64_t*>(dst), len,
-        [op](auto... v) { return bitCast<std::int64_t>(op(bitCast<float>(v)...)); },
-        reinterpret_cast<const std::int64_t*>(src)...);
-}
-template <class Op, class... S>
-inline void mapValues(Vlq64fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
-    mapBlocks<2>(
-        reinterpret_cast<double*>(dst), 2 * len,
-        [op](const auto&... v) { return Block<double, 1>{{op(v.part[0]...)}}; },
-        reinterpret_cast<const double*>(src)...);
-}
-
-// ---- zero divisors ------------------------------------------------------------------------------
-// The lanes of a vector, as the loop sees it, that hold a zero divisor; both lanes of a complex
-// one.
-struct IsZero {
-    template <class T>
-    auto operator()(Vec<T> v) const {
-        return v == Vec<T>::zero();
-    }
-};
-struct IsZero32fc {
-    Vec<std::int64_t> operator()(Vec<std::int64_t> v) const {
-        const auto is0 = bitCast<float>(bitCast<float>(v) == Vec<float>::zero());
-        return bitCast<std::int64_t>(is0 & swapParts(is0));
-    }
-};
-struct IsZero64fc {
-    Vec<std::int64_t> operator()(Vec<double> v) const {
-        const auto is0 = bitCast<double>(v == Vec<double>::zero());
-        return bitCast<std::int64_t>(is0 & swapParts(is0));
-    }
-};
-
-template <int group, class Element, class Condition, class Op, class... S>
-inline bool mapWatched(Element* dst, std::ptrdiff_t len, Condition condition, Op op,
-                       const S*... src) {
-    auto found = Vec<BitsOf<Element>>::zero();
-    mapBlocks<group>(dst, len, Watching<Op, Condition, decltype(found)>{op, condition, &found},
-                     src...);
-    return any(found);
-}
-
-// dst[i] = op(divisor[i], ...): is any divisor 0?
-template <class Op, class... S>
-inline bool mapQuotients(Vlq32fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
-    const auto elements = [op](const auto&... v) {
-        return Block<std::int64_t, 1>{{bitCast<std::int64_t>(op(bitCast<float>(v.part[0])...))}};
-    };
-    return mapWatched<1>(reinterpret_cast<std::int64_t*>(dst), len, IsZero32fc{}, elements,
-                         reinterpret_cast<const std::int64_t*>(src)...);
-}
-template <class Op, class... S>
-inline bool mapQuotients(Vlq64fc* dst, std::ptrdiff_t len, Op op, const S*... src) {
-    const auto parts = [op](const auto&... v) { return Block<double, 1>{{op(v.part[0]...)}}; };
-    return mapWatched<2>(reinterpret_cast<double*>(dst), 2 * len, IsZero64fc{}, parts,
-                         reinterpret_cast<const double*>(src)...);
-}
+// ---- zero divisors of real quotients --------------------------------------------------------------
+// dst[i] = op(divisor[i], ...). Returns whether any divisor is 0.
 template <class T, class Op, class... S>
-requires std::is_floating_point_v<T>
 inline bool mapQuotients(T* dst, std::ptrdiff_t len, Op op, const S*... src) {
-    return mapWatched<1>(
-        dst, len, IsZero{}, [op](const auto&... v) { return Block<T, 1>{{op(v.part[0]...)}}; },
-        src...);
+    auto found = Vec<BitsOf<T>>::zero();
+    const auto isZero = [](Vec<T> v) { return v == Vec<T>::zero(); };
+    const auto blocks = [op](const auto&... v) { return Block<T, 1>{{op(v.part[0]...)}}; };
+    mapBlocks(dst, len,
+              Watching<decltype(blocks), decltype(isZero), decltype(found)>{blocks, isZero, &found},
+              src...);
+    return any(found);
 }
 
 }  // namespace vlq::divide

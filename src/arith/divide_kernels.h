@@ -3,50 +3,27 @@
 // but for 0 / 0: the infinity of the others saturates by the sign of the numerator.
 #pragma once
 
-#include <bit>
+#include <algorithm>
 
 #include "frame/loop/any.h"
 #include "frame/loop/map.h"
-#include "frame/scale/scale.h"
+#include "frame/scale/power_of_two.h"
+#include "frame/scale/rounding.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
 #include "vlqs/types.h"
 
 namespace vlq::divide {
 
-// 2^-scaleFactor, not above 2^limit nor below 2^-limit: quotients past these saturate or are 0.
-template <class T>
-inline T powerWithin(std::int32_t scaleFactor, std::int32_t limit) {
-    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
-    constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
-    const std::int32_t exponent = scaleFactor > limit    ? -limit
-                                  : scaleFactor < -limit ? limit
-                                                         : -scaleFactor;
-    return std::bit_cast<T>(static_cast<Bits>(exponent + bias)
-                            << (std::numeric_limits<T>::digits - 1));
+// 2^-scaleFactor as the factor of a quotient. Clamping keeps the factor normal, and beyond these
+// limits every quotient saturates or becomes 0 anyway: quotients of 16-bit integers lie between
+// 2^-17 and 2^17, those of 32-bit integers and of complex 16-bit integers between 2^-33 and 2^33.
+inline float floatFactor(std::int32_t scaleFactor) {
+    return scaleFactorPower<float>(std::clamp(scaleFactor, -60, 60));
 }
-inline constexpr std::int32_t kFloatLimit = 60;    // quotients of up to 17 bits either way
-inline constexpr std::int32_t kDoubleLimit = 120;  // of up to 33 bits
-
-// ---- rounding -----------------------------------------------------------------------------------
-struct Nearest {
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toNearest(v);
-    }
-};
-struct TowardsZero {
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toZero(v);
-    }
-};
-struct NearestAway {
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toNearestAway(v);
-    }
-};
+inline double doubleFactor(std::int32_t scaleFactor) {
+    return scaleFactorPower<double>(std::clamp(scaleFactor, -120, 120));
+}
 
 // ---- in and out ---------------------------------------------------------------------------------
 // 8 and 16-bit elements as floats.
@@ -70,10 +47,10 @@ template <class To, class From>
 inline Vec<From> belowTop(Vec<From> v) {
     return minimum(v, Vec<From>::broadcast(static_cast<From>(std::numeric_limits<To>::max())));
 }
-template <class To, class Round, int parts>
-inline Block<To, 1> stored(Block<float, parts> v, Round round) {
+template <class To, Rounding rounding, int parts>
+inline Block<To, 1> stored(Block<float, parts> v) {
     Block<std::int32_t, parts> integers;
-    for (int i = 0; i < parts; ++i) integers.part[i] = round(belowTop<To>(v.part[i]));
+    for (int i = 0; i < parts; ++i) integers.part[i] = toInteger<rounding>(belowTop<To>(v.part[i]));
     return {{narrowSat<To>(integers)}};
 }
 template <class To>
@@ -89,16 +66,15 @@ inline Vec<T> quotient(Vec<T> numerator, Vec<T> divisor, Vec<T> factor) {
 }
 
 // ---- 8 and 16 bits ------------------------------------------------------------------------------
-template <class T, class Round>
+template <class T, Rounding rounding>
 struct Quotient {
     Vec<float> factor;
-    Round round;
     Block<T, 1> operator()(const Block<T, 1>& divisors, const Block<T, 1>& numerators) const {
         const auto d = floats(divisors.part[0]);
         auto n = floats(numerators.part[0]);
         constexpr int count = 4 / static_cast<int>(sizeof(T));
         for (int i = 0; i < count; ++i) n.part[i] = quotient(n.part[i], d.part[i], factor);
-        return stored<T>(n, round);
+        return stored<T, rounding>(n);
     }
 };
 
@@ -109,7 +85,7 @@ struct TimesReciprocal {
     Block<T, 1> operator()(const Block<T, 1>& numerators) const {
         auto n = floats(numerators.part[0]);
         for (Vec<float>& part : n.part) part *= reciprocal;
-        return stored<T>(n, Nearest{});
+        return stored<T, Rounding::TiesToEven>(n);
     }
 };
 

@@ -1,6 +1,6 @@
 // Products of 32 and 64-bit integers, and of floats stored as integers.
 #include "arith/multiply_wide_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 #include "frame/simd/control.h"
 
@@ -46,7 +46,7 @@ VlqStatus realByComplex(const Vlq32s* real, const Vlq32sc* complex, Vlq32sc* dst
     if (len < 1) return vlqStsBadSize;
     if (vanishes<Exact32s>(scaleFactor)) return clear(dst, len);
     const StandardFloatMode hold;
-    withScale32s(scaleFactor, [&](auto op) { mapRealByComplex32s(dst, len, op, real, complex); });
+    withScale32s(scaleFactor, [&](auto op) { vlq::mapRealByComplex(dst, len, op, real, complex); });
     return vlqStsOk;
 }
 
@@ -190,8 +190,10 @@ VlqStatus vlq::vlqsMulC_32f16s_Sfs(const Vlq32f* src, Vlq32f val, Vlq16s* dst, V
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const StandardFloatMode hold;
-    // The product of two floats is exact in double, and stays so under this scale.
-    const double factor = static_cast<double>(val) * powerWithin400(scaleFactor);
+    // The product of two floats is exact in double, and stays so under this scale. Beyond 2^400 and
+    // 2^-400 it saturates or is 0 anyway.
+    const double factor = static_cast<double>(val) *
+                          vlq::scaleFactorPower<double>(std::clamp(scaleFactor, -400, 400));
     mapBlocks(dst, len, ProductInDouble16s{Vec<double>::broadcast(factor)}, src);
     return vlqStsOk;
 }

@@ -1,10 +1,13 @@
 // Products of 32 and 64-bit integers, and of floats stored as integers, under the scale rule.
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 
-#include "frame/loop/map.h"
+#include "frame/loop/map_complex.h"
+#include "frame/scale/power_of_two.h"
+#include "frame/scale/scalar_scale.h"
 #include "frame/scale/scale.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
@@ -51,9 +54,7 @@ inline constexpr std::int32_t kLastInDouble = 21;
 
 // 2^-scaleFactor; from 2^31 on any value but 0 saturates.
 inline Vec<double> factorInDouble(std::int32_t scaleFactor) {
-    const std::int64_t exponent = scaleFactor < -31 ? 31 : -std::int64_t{scaleFactor};
-    return Vec<double>::broadcast(
-        std::bit_cast<double>(static_cast<std::uint64_t>(exponent + 1023) << 52));
+    return Vec<double>::broadcast(scaleFactorPower<double>(std::max(scaleFactor, -31)));
 }
 // Below the range the conversion itself gives the lower limit.
 inline Vec<std::int32_t> storedFromDouble(Block<double, 2> v) {
@@ -104,22 +105,6 @@ template <class Run>
 inline void withScale32s(std::int32_t scaleFactor, Run run) {
     if (scaleFactor <= kLastInDouble) return run(Product32sInDouble{factorInDouble(scaleFactor)});
     run(Product32s<RoundRight<std::uint64_t>>{RoundRight<std::uint64_t>(scaleFactor)});
-}
-
-// dst[i] = real[i] * complex[i], both parts.
-template <class Op>
-inline void mapRealByComplex32s(Vlq32sc* dst, std::ptrdiff_t len, Op op, const Vlq32s* real,
-                                const Vlq32sc* complex) {
-    using Element = std::int64_t;
-    mapBlocks(
-        reinterpret_cast<Element*>(dst), len,
-        [op](const Block<std::int32_t, 1>& a, const Block<Element, 2>& b) {
-            const auto factor = twice(a.part[0]);
-            return Block<Element, 2>{
-                {bitCast<Element>(op(factor.part[0], bitCast<std::int32_t>(b.part[0]))),
-                 bitCast<Element>(op(factor.part[1], bitCast<std::int32_t>(b.part[1])))}};
-        },
-        real, reinterpret_cast<const Element*>(complex));
 }
 
 // ---- one element at a time ----------------------------------------------------------------------
@@ -206,15 +191,6 @@ inline IntegerAndPower takeApart(double value) {
     const auto fraction = static_cast<std::int64_t>(bits & ((std::uint64_t{1} << 52) - 1));
     const std::int64_t size = exponent == 0 ? fraction : fraction + (std::int64_t{1} << 52);
     return {bits >> 63 ? -size : size, (exponent == 0 ? 1 : exponent) - 1075};
-}
-
-// 2^-scaleFactor, not above 2^400 nor below 2^-400: past these a product of two floats saturates
-// or is 0 all the same.
-inline double powerWithin400(std::int32_t scaleFactor) {
-    const std::int64_t exponent = scaleFactor > 400    ? -400
-                                  : scaleFactor < -400 ? 400
-                                                       : -std::int64_t{scaleFactor};
-    return std::bit_cast<double>(static_cast<std::uint64_t>(exponent + 1023) << 52);
 }
 
 // An infinite constant, or none that is a number: only signs matter.

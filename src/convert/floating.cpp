@@ -1,3 +1,4 @@
+// Conversions between integers and floats, and between floats of both widths.
 #include "convert/floating_kernels.h"
 
 #include <algorithm>
@@ -18,30 +19,22 @@ VlqStatus plain(const From* src, To* dst, std::int64_t len, Op op) {
     return vlqStsOk;
 }
 
-template <class Scale, class Round, class From, class To>
-void rounded(const From* src, To* dst, std::int64_t len, Scale scale, Round round,
-             bool flushingMatters) {
-    const StandardFloatMode hold(Round::usesControlWord || flushingMatters);
-    vlq::mapBlocks(dst, len, IntegerOf<To, Scale, Round>{scale, round}, src);
-}
-
 template <class From, class To>
-VlqStatus toInteger(const From* src, To* dst, std::int64_t len, VlqRoundMode mode,
-                    Vlq32s scaleFactor) {
+VlqStatus roundedToInteger(const From* src, To* dst, std::int64_t len, VlqRoundMode mode,
+                           Vlq32s scaleFactor) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const bool flushingMatters = !subnormalsVanish<From>(scaleFactor);
     auto withScale = [&](auto scale) {
-        switch (mode) {
-            case vlqRndZero: rounded(src, dst, len, scale, Zero{}, flushingMatters); break;
-            case vlqRndNear: rounded(src, dst, len, scale, Nearest{}, flushingMatters); break;
-            default: rounded(src, dst, len, scale, NearestAway{}, flushingMatters);
-        }
+        vlq::withRounding(mode, [&](auto rounding) {
+            const StandardFloatMode hold(vlq::usesControlRegister<rounding()> || flushingMatters);
+            vlq::mapBlocks(dst, len, IntegerOf<To, decltype(scale), rounding()>{scale}, src);
+        });
     };
     if (scaleFactor == 0)
         withScale(Unscaled<From>{});
     else
-        withScale(Times<From>{stepwisePower<From>(scaleFactor)});
+        withScale(Times<From>{vlq::scaleFactorPower<From>(scaleFactor)});
     return vlqStsOk;
 }
 
@@ -50,8 +43,9 @@ template <template <class> class Op, class T, class From>
 VlqStatus toScaled(const From* src, T* dst, Vlq32s len, Vlq32s scaleFactor, int lowest,
                    int highest) {
     if (scaleFactor == 0) return plain(src, dst, len, Op<Unscaled<T>>{});
-    return plain(src, dst, len,
-                 Op<Times<T>>{{normalPower<T>(std::clamp(scaleFactor, lowest, highest))}});
+    return plain(
+        src, dst, len,
+        Op<Times<T>>{{vlq::scaleFactorPower<T>(std::clamp(scaleFactor, lowest, highest))}});
 }
 
 }  // namespace
@@ -101,35 +95,35 @@ VlqStatus vlq::vlqsConvert_32s64f_Sfs(const Vlq32s* src, Vlq64f* dst, Vlq32s len
 // ---- floats to integers -------------------------------------------------------------------------
 VlqStatus vlq::vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len,
                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_32f8u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len,
                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_32f16s_Sfs(const Vlq32f* src, Vlq16s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_32f16u_Sfs(const Vlq32f* src, Vlq16u* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_32f32s_Sfs(const Vlq32f* src, Vlq32s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_64f16s_Sfs(const Vlq64f* src, Vlq16s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 
 // ---- floats to floats ---------------------------------------------------------------------------

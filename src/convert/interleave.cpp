@@ -1,3 +1,4 @@
+// Interleaved integer samples to one float vector per channel, and back.
 #include "convert/interleave_kernels.h"
 
 #include "frame/simd/control.h"
@@ -41,8 +42,8 @@ VlqStatus vlq::vlqsSplitScaled_24s32f_D2L(const Vlq8u* src, Vlq32f* const* dstRo
     return vlqStsOk;
 }
 
-VlqStatus vlq::vlqsJoinScaled_32f16s_D2L(const Vlq32f* const* srcRows, Vlq32s channels,
-                                         Vlq32s frames, Vlq16s* dst) {
+VlqStatus vlq::vlqsJoinScaled_32f16s_D2L(Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames,
+                                         Vlq16s* dst) {
     if (const VlqStatus status = check(dst, srcRows, channels, frames); status != vlqStsOk)
         return status;
     const StandardFloatMode hold;
@@ -52,8 +53,8 @@ VlqStatus vlq::vlqsJoinScaled_32f16s_D2L(const Vlq32f* const* srcRows, Vlq32s ch
         join<2>(srcRows, channels, frames, dst);
     return vlqStsOk;
 }
-VlqStatus vlq::vlqsJoinScaled_32f24s_D2L(const Vlq32f* const* srcRows, Vlq32s channels,
-                                         Vlq32s frames, Vlq8u* dst) {
+VlqStatus vlq::vlqsJoinScaled_32f24s_D2L(Vlq32f* const* srcRows, Vlq32s channels, Vlq32s frames,
+                                         Vlq8u* dst) {
     if (const VlqStatus status = check(dst, srcRows, channels, frames); status != vlqStsOk)
         return status;
     const StandardFloatMode hold;

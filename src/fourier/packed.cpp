@@ -1,3 +1,4 @@
+// Products and expansion of packed spectra: the exported functions.
 #include "fourier/packed_kernels.h"
 
 #include "vlqs/fft.h"
@@ -27,6 +28,21 @@ VlqStatus productPackConjugate(const T* src, T* srcDst, Vlq32s len) {
     if (!src || !srcDst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     multiplyPack(src, srcDst, srcDst, len, ProductConjugate{});
+    return vlqStsOk;
+}
+
+// The real terms are the first element and, of an even length, element `second`; the pairs begin at
+// element `pairs`.
+VlqStatus productScaled(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len,
+                        Vlq32s scaleFactor, bool perm) {
+    if (!srcA || !srcB || !dst) return vlqStsNullPtr;
+    if (len < 1) return vlqStsBadSize;
+    const ProductScale scale(scaleFactor);
+    const bool even = len % 2 == 0;
+    const Vlq32s second = perm ? 1 : len - 1, pairs = perm && even ? 2 : 1;
+    multiplyReal(srcA, srcB, dst, scale);
+    if (even) multiplyReal(srcA + second, srcB + second, dst + second, scale);
+    multiplyPairs(srcA + pairs, srcB + pairs, dst + pairs, (len - 1) / 2, scale);
     return vlqStsOk;
 }
 
@@ -73,6 +89,23 @@ VlqStatus vlq::vlqsMulPackConj_64f_I(const Vlq64f* src, Vlq64f* srcDst, Vlq32s l
     return productPackConjugate(src, srcDst, len);
 }
 
+VlqStatus vlq::vlqsMulPack_16s_Sfs(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len,
+                                   Vlq32s scaleFactor) {
+    return productScaled(srcA, srcB, dst, len, scaleFactor, false);
+}
+VlqStatus vlq::vlqsMulPack_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len,
+                                    Vlq32s scaleFactor) {
+    return productScaled(src, srcDst, srcDst, len, scaleFactor, false);
+}
+VlqStatus vlq::vlqsMulPerm_16s_Sfs(const Vlq16s* srcA, const Vlq16s* srcB, Vlq16s* dst, Vlq32s len,
+                                   Vlq32s scaleFactor) {
+    return productScaled(srcA, srcB, dst, len, scaleFactor, true);
+}
+VlqStatus vlq::vlqsMulPerm_16s_ISfs(const Vlq16s* src, Vlq16s* srcDst, Vlq32s len,
+                                    Vlq32s scaleFactor) {
+    return productScaled(src, srcDst, srcDst, len, scaleFactor, true);
+}
+
 VlqStatus vlq::vlqsConjPack_32fc(const Vlq32f* src, Vlq32fc* dst, Vlq32s len) {
     return expand(src, dst, len, expandPack<Vlq32f>);
 }
@@ -108,4 +141,23 @@ VlqStatus vlq::vlqsConjCcs_64fc(const Vlq64f* src, Vlq64fc* dst, Vlq32s len) {
 }
 VlqStatus vlq::vlqsConjCcs_64fc_I(Vlq64fc* srcDst, Vlq32s len) {
     return expand(reinterpret_cast<const Vlq64f*>(srcDst), srcDst, len, expandCcs<Vlq64f>);
+}
+
+VlqStatus vlq::vlqsConjCcs_16sc(const Vlq16s* src, Vlq16sc* dst, Vlq32s len) {
+    return expand(src, dst, len, expandCcs<Vlq16s>);
+}
+VlqStatus vlq::vlqsConjCcs_16sc_I(Vlq16sc* srcDst, Vlq32s len) {
+    return expand(reinterpret_cast<const Vlq16s*>(srcDst), srcDst, len, expandCcs<Vlq16s>);
+}
+VlqStatus vlq::vlqsConjPack_16sc(const Vlq16s* src, Vlq16sc* dst, Vlq32s len) {
+    return expand(src, dst, len, expandPack<Vlq16s>);
+}
+VlqStatus vlq::vlqsConjPack_16sc_I(Vlq16sc* srcDst, Vlq32s len) {
+    return expand(reinterpret_cast<const Vlq16s*>(srcDst), srcDst, len, expandPack<Vlq16s>);
+}
+VlqStatus vlq::vlqsConjPerm_16sc(const Vlq16s* src, Vlq16sc* dst, Vlq32s len) {
+    return expand(src, dst, len, expandPerm<Vlq16s>);
+}
+VlqStatus vlq::vlqsConjPerm_16sc_I(Vlq16sc* srcDst, Vlq32s len) {
+    return expand(reinterpret_cast<const Vlq16s*>(srcDst), srcDst, len, expandPerm<Vlq16s>);
 }

@@ -1,18 +1,26 @@
-// Products and expansion of packed spectra.
+// Products of packed spectra, and their expansion to all complex values. A spectrum of len real
+// samples in Pack, Perm or CCS layout (kernel/layouts.h); odd lengths have no value at half the rate.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <limits>
 #include <type_traits>
 
+#include "frame/loop/map.h"
+#include "frame/scale/scale.h"
+#include "frame/simd/multiply.h"
 #include "frame/simd/ops.h"
 #include "frame/simd/permute.h"
 #include "frame/simd/saturate.h"
 #include "frame/simd/split.h"
+#include "vlqs/types.h"
 
 namespace vlq::packed {
 
-// (a re + i a im) (b re + i b im), the sums as they stand: equal in every build.
+// ---- products in floating point -----------------------------------------------------------------
+// a * b, each product and sum rounded: identical in every build.
 struct Product {
     template <class V>
     void operator()(V aRe, V aIm, V bRe, V bIm, V& re, V& im) const {
@@ -20,7 +28,7 @@ struct Product {
         im = aRe * bIm + aIm * bRe;
     }
 };
-// a times the conjugate of b.
+// a * conj(b)
 struct ProductConjugate {
     template <class V>
     void operator()(V aRe, V aIm, V bRe, V bIm, V& re, V& im) const {
@@ -31,11 +39,7 @@ struct ProductConjugate {
 
 template <class T>
 inline void multiplyReal(const T* a, const T* b, T* dst) {
-    T x, y;
-    std::memcpy(&x, a, sizeof x);
-    std::memcpy(&y, b, sizeof y);
-    x *= y;
-    std::memcpy(dst, &x, sizeof x);
+    storeScalar(dst, loadScalar(a) * loadScalar(b));
 }
 
 template <int B, class T, class Op>
@@ -46,7 +50,7 @@ inline Split<T, B> multiplySplit(const T* a, const T* b, Op op) {
     return product;
 }
 
-// Whole vectors of B bytes each from pair i on; returns where they end.
+// As many whole vectors of B bytes as fit, from pair i on; returns the first pair left.
 template <int B, class T, class Op>
 inline std::ptrdiff_t multiplyVectors(const T* a, const T* b, T* dst, std::ptrdiff_t i,
                                       std::ptrdiff_t pairs, Op op) {
@@ -56,8 +60,8 @@ inline std::ptrdiff_t multiplyVectors(const T* a, const T* b, T* dst, std::ptrdi
     return i;
 }
 
-// `pairs` complex values, interleaved; dst may be a or b. In vectors to the last one: of scalars
-// GCC 12 makes a fused multiply-add-subtract, contraction or not.
+// `pairs` complex values, interleaved; dst may be a or b. In vectors to the last value: GCC 12 turns
+// the scalar code into a fused multiply-add-subtract in spite of -ffp-contract=off.
 template <class T, class Op>
 inline void multiplyPairs(const T* a, const T* b, T* dst, std::ptrdiff_t pairs, Op op) {
     constexpr int lanes = Split<T, 16>::lanes;
@@ -70,8 +74,7 @@ inline void multiplyPairs(const T* a, const T* b, T* dst, std::ptrdiff_t pairs, 
         std::memcpy(dst, product, bytes);
         return;
     }
-    // The last vector overlaps the one before; it is read before dst is written, which may be a
-    // source.
+    // The last vector overlaps the one before; it is read before dst, possibly a source, is written.
     const std::ptrdiff_t last = 2 * (pairs - lanes);
     const auto ending = multiplySplit<16>(a + last, b + last, op);
     std::ptrdiff_t i = multiplyVectors<kVecBytes>(a, b, dst, 0, pairs, op);
@@ -80,7 +83,7 @@ inline void multiplyPairs(const T* a, const T* b, T* dst, std::ptrdiff_t pairs, 
     if (i < pairs) storeSplit(dst + last, ending);
 }
 
-// A Pack spectrum of len values: a real term at the front, one at the end of an even length.
+// Pack: a real term first, and of an even length one last.
 template <class T, class Op>
 inline void multiplyPack(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op op) {
     multiplyReal(a, b, dst);
@@ -88,14 +91,14 @@ inline void multiplyPack(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
     multiplyPairs(a + 1, b + 1, dst + 1, (len - 1) / 2, op);
 }
 
-// A Perm spectrum: both real terms at the front.
+// Perm: both real terms first.
 template <class T, class Op>
 inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op op) {
     T real[2] = {};
     multiplyReal(a, b, &real[0]);
     if (len % 2 == 0) {
-        // The real terms go through the pairs' loop and are put right after it: so its vectors
-        // stand where a transform stored its own and reads the next, and none waits for two stores.
+        // The real terms go through the loop as a pair and are replaced after it: so its vectors have
+        // the boundaries of those that a transform has stored, and each load waits for one store.
         multiplyReal(a + 1, b + 1, &real[1]);
         multiplyPairs(a, b, dst, len / 2, op);
         std::memcpy(dst, real, sizeof real);
@@ -105,7 +108,48 @@ inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
     }
 }
 
-// -v, as the nearest value of the type.
+// ---- scaled products of 16-bit integers ---------------------------------------------------------
+constexpr Vlq16s clampTo16(Vlq32s v) { return static_cast<Vlq16s>(std::clamp(v, -32768, 32767)); }
+
+// Scales a product to 16 bits: shifts right without rounding, or saturates and then shifts left.
+struct ProductScale {
+    int right;
+    int left;
+    explicit ProductScale(Vlq32s scaleFactor)
+        : right(std::clamp(scaleFactor, 0, 31)),
+          left(scaleFactor < 0 ? -std::max(scaleFactor, -16) : 0) {}
+    Vlq16s operator()(Vlq32s product) const {
+        if (left == 0) return clampTo16(product >> right);
+        return clampTo16(clampTo16(product) * (Vlq32s{1} << left));
+    }
+};
+
+inline void multiplyReal(const Vlq16s* a, const Vlq16s* b, Vlq16s* dst, ProductScale scale) {
+    storeScalar(dst, scale(Vlq32s{loadScalar(a)} * loadScalar(b)));
+}
+
+// `pairs` complex values, interleaved; dst may be a or b. A complex value is a 32-bit lane.
+inline void multiplyPairs(const Vlq16s* a, const Vlq16s* b, Vlq16s* dst, std::ptrdiff_t pairs,
+                          ProductScale scale) {
+    using V = Vec<std::int32_t>;
+    const auto multiply = [=](auto op) {
+        map(reinterpret_cast<std::int32_t*>(dst), pairs, op,
+            reinterpret_cast<const std::int32_t*>(a), reinterpret_cast<const std::int32_t*>(b));
+    };
+    if (scale.left == 0) {
+        multiply([right = scale.right](V x, V y) {
+            const auto e = productParts(x, y);
+            return joinParts({{shiftRight(e.part[0], right), shiftRight(e.part[1], right)}});
+        });
+    } else {
+        multiply([left = ScaleLeft<Vlq16s>(-scale.left)](V x, V y) {
+            return bitCast<std::int32_t>(left(bitCast<Vlq16s>(joinParts(productParts(x, y)))));
+        });
+    }
+}
+
+// ---- expansion ----------------------------------------------------------------------------------
+// -v, saturated.
 template <class T>
 inline T negated(T v) {
     if constexpr (std::is_floating_point_v<T>)
@@ -115,7 +159,7 @@ inline T negated(T v) {
                                                   : static_cast<T>(-v);
 }
 
-// The same for the odd lanes, which are the imaginary parts.
+// The same for the odd lanes, the imaginary parts.
 template <class T>
 inline Vec<T> conjugated(Vec<T> values) {
     if constexpr (std::is_same_v<T, float>) {
@@ -129,8 +173,8 @@ inline Vec<T> conjugated(Vec<T> values) {
     }
 }
 
-// Spectrum value k, and its conjugate at len - k, for k = 1 to `pairs`; pair 1 stands at `src`.
-// From the top down, so that src may be the front of dst.
+// Values k and, conjugated, len - k for k = 1 to `pairs`; src points at value 1. From the end to the
+// front, so that src may be the front of dst.
 template <class T>
 inline void expandPairs(const T* src, T* dst, std::ptrdiff_t pairs, std::ptrdiff_t len) {
     constexpr int lanes = Vec<T>::lanes / 2;
@@ -141,7 +185,7 @@ inline void expandPairs(const T* src, T* dst, std::ptrdiff_t pairs, std::ptrdiff
         store(dst + 2 * (len - k + 1), reversed<2 * sizeof(T)>(conjugated(values)));
     }
     while (--k > 0) {
-        // Two scalars: a masked load waits for any store whose address looks alike.
+        // Two scalars: a masked load waits for stores to addresses of the same low bits.
         T value[2];
         std::memcpy(value, src + 2 * (k - 1), sizeof value);
         std::memcpy(dst + 2 * k, value, sizeof value);
@@ -157,8 +201,8 @@ inline void putReal(T* dst, std::ptrdiff_t k, const T* term) {
     std::memcpy(dst + 2 * k, value, sizeof value);
 }
 
-// All len values from a layout; src may be the front of dst. The term in the middle goes beyond
-// the input, the first value over the first pair.
+// All len values from each layout; src may be the front of dst. Of an even length the middle value is
+// written first, to an element beyond the input, and value 0 last, over the first pair.
 template <class T>
 inline void expandPack(const T* src, T* dst, std::ptrdiff_t len) {
     if (len % 2 == 0) putReal(dst, len / 2, src + len - 1);

@@ -1,3 +1,4 @@
+// What happens when the module is loaded.
 #include "vlqs/core.h"
 
 namespace {

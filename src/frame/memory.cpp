@@ -1,3 +1,4 @@
+// Vector memory, by way of the core library.
 #include "vlqs/core.h"
 #include "vlqs/frame.h"
 

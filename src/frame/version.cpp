@@ -1,3 +1,4 @@
+// The version record.
 #include <string_view>
 
 #include "vlqs/frame.h"

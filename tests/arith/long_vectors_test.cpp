@@ -7,6 +7,7 @@
 #include <climits>
 #include <cmath>
 
+#include "harness/effort.h"
 #include "harness/element.h"
 #include "vlqs/arith.h"
 #include "vlqs/convert.h"
@@ -17,11 +18,7 @@ namespace {
 using namespace vlqtest;
 
 // Instrumented code would take minutes.
-#ifdef VLQS_SANITIZED
-constexpr bool kTooSlow = true;
-#else
-constexpr bool kTooSlow = false;
-#endif
+const bool kTooSlow = sanitized() || effort() == Effort::quick;
 
 template <class T>
 class LongVector {

@@ -1,3 +1,4 @@
+// Interleaved samples to one vector per channel, and back.
 #include "convert/interleave_ref.h"
 
 #include <xmmintrin.h>
@@ -87,7 +88,7 @@ void checkJoin(Call call, int bits) {
             if (channels == 700 && frames > 9) continue;
             const std::size_t count =
                 static_cast<std::size_t>(channels) * static_cast<std::size_t>(frames);
-            Rows<const float> src(channels, frames, rng);
+            Rows<float> src(channels, frames, rng);
             std::vector<std::vector<float>> values;
             for (auto& row : src.rows) {
                 auto v = rng() % 2 ? extremeVector<float>(static_cast<std::size_t>(frames), rng)
@@ -162,7 +163,7 @@ TEST(SplitJoin, EndsOf24Bits) {
     EXPECT_NE(0.0f, row[2]);
     EXPECT_NE(0.0f, row[3]);
     float ends[] = {-1.0f, 1.0f, -2.0f, INFINITY, NAN, -INFINITY};
-    const float* sources[] = {ends};
+    float* sources[] = {ends};
     Vlq8u got[18];
     ASSERT_EQ(vlqStsOk, vlqsJoinScaled_32f24s_D2L(sources, 1, 6, got));
     const int want[] = {-8388608, 8388607, -8388608, 8388607, 8388607, -8388608};

@@ -1,8 +1,13 @@
 // The companion library itself, loaded apart from the test's own stand-in for it.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdlib>
+#include <filesystem>
 #include <set>
 #include <string>
 
@@ -50,16 +55,64 @@ TEST(Core, AlignPtrRoundsUp) {
     }
 }
 
+Vlq32s processors() {
+    cpu_set_t set;
+    return sched_getaffinity(0, sizeof set, &set) == 0 ? CPU_COUNT(&set) : 1;
+}
+
+// The count of a core library that is loaded now, and so reads the environment of now: a copy, since
+// the library itself is loaded already.
+Vlq32s countAtLoad() {
+    namespace fs = std::filesystem;
+    Dl_info info;
+    if (dladdr(reinterpret_cast<const void*>(CORE(ownGetNumThreads)), &info) == 0) return -1;
+    const std::string copy = testing::TempDir() + "vlqcore-" + std::to_string(getpid()) + ".so";
+    fs::copy_file(info.dli_fname, copy, fs::copy_options::overwrite_existing);
+    void* handle = dlopen(copy.c_str(), RTLD_NOW | RTLD_LOCAL);
+    fs::remove(copy);
+    if (!handle) return -2;
+    const auto get =
+        reinterpret_cast<decltype(&ownGetNumThreads)>(dlsym(handle, "ownGetNumThreads"));
+    const Vlq32s count = get ? get() : -3;
+    dlclose(handle);
+    return count;
+}
+Vlq32s countAtLoad(const char* environment) {
+    setenv("OMP_NUM_THREADS", environment, 1);
+    const Vlq32s count = countAtLoad();
+    unsetenv("OMP_NUM_THREADS");
+    return count;
+}
+
+TEST(Core, OneThreadUnlessMoreAreAllowed) {
+    unsetenv("OMP_NUM_THREADS");
+    EXPECT_EQ(1, countAtLoad());
+    for (const char* one : {"", "x", "0", "-4", "2x", "1"}) EXPECT_EQ(1, countAtLoad(one)) << one;
+    const Vlq32s two = std::min(2, processors());
+    for (const char* many : {"2", " 2 ", "2,3", "2,x"}) EXPECT_EQ(two, countAtLoad(many)) << many;
+    EXPECT_EQ(processors(), countAtLoad("99999999999999999999"));
+
+    cpu_set_t before, one;
+    ASSERT_EQ(0, sched_getaffinity(0, sizeof before, &before));
+    CPU_ZERO(&one);
+    CPU_SET(sched_getcpu(), &one);
+    ASSERT_EQ(0, sched_setaffinity(0, sizeof one, &one));
+    EXPECT_EQ(1, countAtLoad("2"));
+    ASSERT_EQ(0, sched_setaffinity(0, sizeof before, &before));
+}
+
 TEST(Core, ThreadCount) {
     auto* get = CORE(ownGetNumThreads);
     auto* set = CORE(vlqSetNumThreads);
     const Vlq32s standard = get();
     EXPECT_GE(standard, 1);
-    set(5);
-    EXPECT_EQ(5, get());
+    for (const Vlq32s count : {1, 2, 5, INT32_MAX}) {
+        set(count);
+        EXPECT_EQ(std::min(count, processors()), get());
+    }
     set(0);
     EXPECT_EQ(standard, get());
-    set(-3);
+    set(INT32_MIN);
     EXPECT_EQ(standard, get());
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <set>
@@ -12,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "harness/effort.h"
 #include "vlqs.h"
 
 namespace {
@@ -44,9 +46,10 @@ std::string libraryPath() {
     return info.dli_fname;
 }
 
-std::vector<std::string> linesOf(const std::string& tool) {
+std::vector<std::string> linesOf(const std::string& tool,
+                                 const std::string& library = libraryPath()) {
     std::vector<std::string> lines;
-    std::FILE* pipe = popen((tool + " " + libraryPath()).c_str(), "r");
+    std::FILE* pipe = popen((tool + " '" + library + "'").c_str(), "r");
     if (!pipe) return lines;
     char buffer[1024];
     while (std::fgets(buffer, sizeof buffer, pipe)) {
@@ -79,13 +82,81 @@ TEST(EntryTable, NamesStandInOrdinalOrder) {
         EXPECT_LT(exports[i - 1].name, exports[i].name);
 }
 
+// Lines `name@@version` of the functions that a library exports.
+std::set<std::string> exportedBy(const std::string& library) {
+    std::set<std::string> symbols;
+    for (const std::string& line : linesOf("nm -D --defined-only", library)) {
+        std::istringstream fields(line);
+        std::string address, type, symbol;
+        fields >> address >> type >> symbol;
+        if (type != "A") symbols.insert(symbol);  // A: the version itself
+    }
+    return symbols;
+}
+std::set<std::string> linesOfFile(const std::string& path) {
+    std::ifstream file(path);
+    std::set<std::string> lines;
+    for (std::string line; std::getline(file, line);) lines.insert(line);
+    return lines;
+}
+
 TEST(EntryTable, NothingElseIsExported) {
     std::set<std::string> want;
-    for (const Export& e : nameList()) want.insert(e.name);
-    std::set<std::string> got;
-    for (const std::string& line : linesOf("nm -D --defined-only"))
-        got.insert(line.substr(line.rfind(' ') + 1));
-    EXPECT_EQ(want, got);
+    for (const Export& e : nameList()) want.insert(e.name + "@@VLQS_7");
+    EXPECT_EQ(want, exportedBy(libraryPath()));
+}
+
+// What programs were linked with stays: a symbol leaves these files only with a new major version.
+TEST(EntryTable, SymbolsAreThoseOfTheSymbolsFiles) {
+    const auto source = std::filesystem::path(VLQS_NAMES_FILE).parent_path().parent_path();
+    const std::string folder = source.parent_path() / "cmake/";
+    EXPECT_EQ(linesOfFile(folder + "vlqs.symbols"), exportedBy(libraryPath()));
+    Dl_info info;
+    void* core = dlopen("libvlqcore.so.7", RTLD_NOW);
+    ASSERT_NE(nullptr, core);
+    ASSERT_NE(0, dladdr(dlsym(core, "vlqGetStatusString"), &info));
+    EXPECT_EQ(linesOfFile(folder + "vlqcore.symbols"), exportedBy(info.dli_fname));
+}
+
+// A sanitizer brings run-time libraries of its own.
+TEST(EntryTable, NeedsNoLibraryOfCpp) {
+    if (vlqtest::sanitized()) GTEST_SKIP();
+    std::set<std::string> needed;
+    for (const std::string& line : linesOf("readelf -d")) {
+        const auto name = line.find("Shared library: [");
+        if (name != std::string::npos)
+            needed.insert(line.substr(name + 17, line.find(']') - name - 17));
+        if (line.find("(FLAGS_1)") != std::string::npos)
+            needed.insert(line.substr(line.find("Flags:")));
+    }
+    EXPECT_EQ((std::set<std::string>{"libvlqcore.so.7", "libm.so.6", "libc.so.6", "Flags: NOW"}),
+              needed);
+}
+
+// The function that a line of a disassembly names between < and >, without an offset into it.
+std::string functionIn(const std::string& line) {
+    const auto open = line.find('<'), close = line.find('>');
+    return open < close ? line.substr(open + 1, close - open - 1) : "";
+}
+
+// A body that ends in a jump is in no backtrace of what it jumps to.
+TEST(EntryTable, TransformsAreInTheBacktraceOfTheirKernels) {
+    std::string body;
+    std::set<std::string> seen, jumping;
+    for (const std::string& line : linesOf("objdump -d --no-show-raw-insn")) {
+        if (line.empty()) continue;
+        if (line.back() == ':') body = functionIn(line);
+        const bool isTransform = body.find("vlqsFFTFwd") != std::string::npos ||
+                                 body.find("vlqsFFTInv") != std::string::npos;
+        if (!isTransform || body.rfind("_ZN3vlq", 0) != 0) continue;
+        seen.insert(body);
+        const std::string target = functionIn(line);
+        const bool leaves = line.find("\tjmp ") != std::string::npos && !target.empty() &&
+                            target.rfind(body, 0) != 0;
+        if (leaves) jumping.insert(body);
+    }
+    EXPECT_GT(seen.size(), 80u);
+    EXPECT_EQ(std::set<std::string>{}, jumping);
 }
 
 TEST(EntryTable, EachStubJumpsThroughItsOwnSlot) {
@@ -174,9 +245,7 @@ TEST(EntryTable, AliasRows) {
 }
 
 TEST(EntryTable, NothingIsWritableButTheSlotsAndTheLoadFlag) {
-#if defined(VLQS_SANITIZED)
-    GTEST_SKIP() << "a sanitizer keeps its own state in the module";
-#endif
+    if (vlqtest::sanitized()) GTEST_SKIP() << "a sanitizer keeps its own state in the module";
     std::set<std::string> writable;
     for (const std::string& line : linesOf("objdump -t")) {
         std::istringstream fields(line);

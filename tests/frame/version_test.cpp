@@ -1,4 +1,4 @@
-// The version record.
+// The version of the library and that of its headers.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -18,6 +18,14 @@ TEST(Version, OneConstantRecord) {
     EXPECT_EQ(36264, version->buildNumber);
     EXPECT_STREQ("7.1.0 (r36264)", version->versionText);
     EXPECT_STREQ("Jul 23 2012", version->buildDate);
+}
+
+TEST(Version, HeadersAreThoseOfTheLibrary) {
+    const VlqLibraryVersion* version = vlqsGetLibVersion();
+    EXPECT_EQ(version->versionMajor, VLQS_VERSION_MAJOR);
+    EXPECT_EQ(version->versionMinor, VLQS_VERSION_MINOR);
+    EXPECT_EQ(version->versionPatch, VLQS_VERSION_PATCH);
+    EXPECT_EQ(70100, VLQS_VERSION_NUMBER);
 }
 
 TEST(Version, TagIsThatOfTheName) {

@@ -1,3 +1,4 @@
+// A pool of page regions between protected pages.
 #include "harness/buffer.h"
 
 #include <sys/mman.h>
@@ -5,6 +6,12 @@
 
 #include <mutex>
 #include <new>
+
+// The address sanitizer's, when its runtime is loaded.
+extern "C" {
+[[gnu::weak]] void __asan_poison_memory_region(const volatile void* start, std::size_t bytes);
+[[gnu::weak]] void __asan_unpoison_memory_region(const volatile void* start, std::size_t bytes);
+}
 
 namespace vlqtest {
 namespace {
@@ -46,6 +53,7 @@ int acquire(std::size_t bytes) {
 
 GuardedPages::GuardedPages(std::size_t bytes) : slot_(acquire(bytes)) {}
 GuardedPages::~GuardedPages() {
+    allowOnly(begin(), end());
     const std::lock_guard<std::mutex> guard(poolLock);
     pool[static_cast<std::size_t>(slot_)].taken = false;
 }
@@ -56,6 +64,14 @@ std::byte* GuardedPages::begin() const {
 std::byte* GuardedPages::end() const {
     const std::lock_guard<std::mutex> guard(poolLock);
     return pool[static_cast<std::size_t>(slot_)].end;
+}
+void GuardedPages::allowOnly(const std::byte* first, const std::byte* last) const {
+    if (!__asan_poison_memory_region) return;
+    const auto length = [](const std::byte* from, const std::byte* to) {
+        return static_cast<std::size_t>(to - from);
+    };
+    __asan_poison_memory_region(begin(), length(begin(), end()));
+    __asan_unpoison_memory_region(first, length(first, last));
 }
 
 }  // namespace vlqtest

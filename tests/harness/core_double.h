@@ -1,5 +1,8 @@
 // The test programs bring their own core library: the dynamic linker binds vlqs to it. It counts
 // allocations, refuses the one it is told to, and reports any number of threads.
+//
+// Each test starts with counters at zero, nothing refused and one thread, and fails when a block
+// that it allocated is left at its end: no test need look for leaks or reset the core itself.
 #pragma once
 
 #include "vlqs/core.h"

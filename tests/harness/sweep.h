@@ -1,5 +1,6 @@
 // The sweep that every element-wise check runs through: each length up to two of the widest
 // unrolled blocks, each byte offset of each vector, every fourth case flush against a guard page.
+// A quick run (harness/effort.h) takes the shortest lengths and a choice of the others.
 #pragma once
 
 #include <functional>

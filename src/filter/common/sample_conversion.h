@@ -1,18 +1,18 @@
-// The rim of a FIR filter: samples go in and out of the type that the record computes in. One
-// overload a pair of types; where both are one type, a copy.
+// Sample conversion of filters: between the caller's samples and the type that the filter computes
+// in. One overload for each pair of types; where both are one type, a copy.
 #pragma once
 
 #include <bit>
-#include <cstring>
 
 #include "filter/common/element.h"
+#include "frame/simd/vec.h"
 #include "vlqs/arith.h"
 #include "vlqs/convert.h"
 #include "vlqs/move.h"
 
 namespace vlq::fir {
 
-// What a form without scale factor passes where a scaled form passes its own.
+// What a variant without scale factor passes where a scaled one passes its own.
 struct Unscaled {};
 
 inline void widen(const Vlq32f* src, Vlq32f* dst, Vlq32s len) {
@@ -45,7 +45,7 @@ inline void narrow(const Vlq64f* src, Vlq16s* dst, Vlq32s len, Vlq32s scaleFacto
     vlqsConvert_64f16s_Sfs(src, dst, len, vlqRndNear, scaleFactor);
 }
 
-// Complex samples as their parts: twice len, which pieces and transforms keep small.
+// Complex samples as their parts. Twice len does not overflow: pieces and transforms are short.
 template <Complex From, Complex To>
 inline void widen(const From* src, To* dst, Vlq32s len) {
     widen(parts(src), parts(dst), 2 * len);
@@ -55,11 +55,9 @@ inline void narrow(const From* src, To* dst, Vlq32s len, Scale scale) {
     narrow(parts(src), parts(dst), 2 * len, scale);
 }
 
-// A single output, in steps that no rounding direction of the calling thread reaches: what the
-// conversion of a vector gives, without its preparations.
-inline void narrowOne(Vlq32f value, Vlq32f* dst, Unscaled) {
-    std::memcpy(dst, &value, sizeof value);
-}
+// A single output: what the conversion of a vector gives, without its preparations, and without
+// instructions that depend on the rounding mode of the calling thread.
+inline void narrowOne(Vlq32f value, Vlq32f* dst, Unscaled) { storeScalar(dst, value); }
 inline void narrowOne(Vlq32f value, Vlq16s* dst, Vlq32s scaleFactor) {
     if (scaleFactor < -126 || scaleFactor > 126) return narrow(&value, dst, 1, scaleFactor);
     const auto factor = std::bit_cast<Vlq32f>((127 - scaleFactor) << 23);
@@ -75,15 +73,13 @@ inline void narrowOne(Vlq32f value, Vlq16s* dst, Vlq32s scaleFactor) {
         if (rest > 0.5f || (rest == 0.5f && odd)) ++rounded;
         if (rest < -0.5f || (rest == -0.5f && odd)) --rounded;
     }
-    const auto sample = static_cast<Vlq16s>(rounded);
-    std::memcpy(dst, &sample, sizeof sample);
+    storeScalar(dst, static_cast<Vlq16s>(rounded));
 }
 
 template <class E, class Sample, class Scale>
 inline void narrowOne(E value, Sample* dst, Scale scale) {
     if constexpr (std::is_same_v<Scale, Unscaled>) {
-        const auto sample = convertTo<Sample>(value);
-        std::memcpy(dst, &sample, sizeof sample);
+        storeScalar(dst, convertTo<Sample>(value));
     } else if constexpr (Complex<E>) {
         narrowOne(value.re, parts(dst), scale);
         narrowOne(value.im, parts(dst) + 1, scale);
@@ -92,16 +88,16 @@ inline void narrowOne(E value, Sample* dst, Scale scale) {
     }
 }
 
-// Elements inside a record; the ranges may overlap.
-inline void shift(const Vlq32f* src, Vlq32f* dst, Vlq32s len) {
+// Elements inside a state; the ranges may overlap.
+inline void moveElements(const Vlq32f* src, Vlq32f* dst, Vlq32s len) {
     vlqsMove_32s(reinterpret_cast<const Vlq32s*>(src), reinterpret_cast<Vlq32s*>(dst), len);
 }
-inline void shift(const Vlq64f* src, Vlq64f* dst, Vlq32s len) {
+inline void moveElements(const Vlq64f* src, Vlq64f* dst, Vlq32s len) {
     vlqsMove_64s(reinterpret_cast<const Vlq64s*>(src), reinterpret_cast<Vlq64s*>(dst), len);
 }
 template <Complex E>
-inline void shift(const E* src, E* dst, Vlq32s len) {
-    shift(parts(src), parts(dst), 2 * len);
+inline void moveElements(const E* src, E* dst, Vlq32s len) {
+    moveElements(parts(src), parts(dst), 2 * len);
 }
 
 // Samples as they are.

@@ -1,7 +1,9 @@
-// The sum over one window of samples.
+// The sum over one window of samples in a state.
 #pragma once
 
-#include "filter/fir/time_domain_kernels.h"
+#include "filter/common/element.h"
+#include "frame/simd/complex.h"
+#include "frame/simd/ops.h"
 
 namespace vlq::fir {
 
@@ -44,9 +46,9 @@ inline T windowSum(const T* x, T newest, const T* g, int n) {
             sums[i] = mulAdd(load<T, Wide::bytes>(x + at), load<T, Wide::bytes>(g + at), sums[i]);
         }
     }
+    // At most three more; a constant count keeps the sums in registers.
 #pragma GCC unroll 3
-    for (int i = 0; i < 3;
-         ++i) {  // at most three more; a constant count keeps the sums in registers
+    for (int i = 0; i < 3; ++i) {
         if (j + Wide::lanes > settled) break;
         sums[i] = mulAdd(load<T, Wide::bytes>(x + j), load<T, Wide::bytes>(g + j), sums[i]);
         j += Wide::lanes;
@@ -60,6 +62,57 @@ inline T windowSum(const T* x, T newest, const T* g, int n) {
     T fresh = newest * g[n - 1];
     for (int i = settled; i < n - 1; ++i) fresh = mulAdd(x[i], g[i], fresh);
     return laneSum((sums[0] + sums[1]) + (sums[2] + sums[3])) + (tail + fresh);
+}
+
+// ---- complex ------------------------------------------------------------------------------------
+
+// Sums of the even and of the odd lanes.
+template <class T, int Bytes>
+inline void addPairs(Vec<T, Bytes> v, T& even, T& odd) {
+    if constexpr (Bytes > 16) {
+        addPairs(lowHalf(v) + highHalf(v), even, odd);
+    } else {
+        for (int lane = 0; lane < Vec<T, Bytes>::lanes; lane += 2) {
+            even += v[lane];
+            odd += v[lane + 1];
+        }
+    }
+}
+
+// sum of x[j] * g[j], j from 0 to n - 2, plus newest * g[n - 1]. Products by lanes with (re, im)
+// and with (im, re) of a tap: the real part is the difference of the sums of re*re and im*im, the
+// imaginary part the sum of the cross terms. As in the real sum, the samples that the calls before
+// have only just stored are taken singly.
+template <Complex C>
+inline C windowSum(const C* x, C newest, const C* g, int n) {
+    using T = Part<C>;
+    constexpr int values = Vec<T>::lanes / 2;
+    constexpr int kFresh = 4;
+    C real = {newest.re * g[n - 1].re, newest.im * g[n - 1].im};
+    C cross = {newest.re * g[n - 1].im, newest.im * g[n - 1].re};
+    int j = 0;
+    if (n - kFresh >= 2 * values) {
+        Vec<T> reals[2] = {Vec<T>::zero(), Vec<T>::zero()},
+               crosses[2] = {Vec<T>::zero(), Vec<T>::zero()};
+        for (; j + 2 * values <= n - kFresh; j += 2 * values) {
+#pragma GCC unroll 2
+            for (int i = 0; i < 2; ++i) {
+                const Vec<T> samples = load<T>(parts(x + j + i * values)),
+                             taps = load<T>(parts(g + j + i * values));
+                reals[i] = mulAdd(samples, taps, reals[i]);
+                crosses[i] = mulAdd(samples, swapParts(taps), crosses[i]);
+            }
+        }
+        addPairs(reals[0] + reals[1], real.re, real.im);
+        addPairs(crosses[0] + crosses[1], cross.re, cross.im);
+    }
+    for (; j < n - 1; ++j) {
+        real.re = mulAdd(x[j].re, g[j].re, real.re);
+        real.im = mulAdd(x[j].im, g[j].im, real.im);
+        cross.re = mulAdd(x[j].re, g[j].im, cross.re);
+        cross.im = mulAdd(x[j].im, g[j].re, cross.im);
+    }
+    return {real.re - real.im, cross.re + cross.im};
 }
 
 }  // namespace vlq::fir

@@ -1,4 +1,4 @@
-// The direct FIR kernels for complex values. A vector of samples x, parts interleaved, meets a tap
+// The time-domain FIR kernels for complex elements. A vector of samples x, parts interleaved, meets a tap
 // a + ib as two products by lanes, with (a, a) and with (-b, b); the sums of both over all taps,
 // swap exchanging the parts of each value, give
 //
@@ -16,17 +16,9 @@
 
 namespace vlq::fir {
 
-// The tap table holds a tap as 16 bytes of a and 16 bytes of -b, b.
+// Parts in the tap table for one tap.
 template <class T>
 inline constexpr int kEntry = 2 * kReplicas<T>;
-
-template <Complex C>
-inline C* writeWide(C* wide, C tap) {
-    constexpr int pairs = kReplicas<Part<C>> / 2;
-    for (int copy = 0; copy < pairs; ++copy) *wide++ = {tap.re, tap.re};
-    for (int copy = 0; copy < pairs; ++copy) *wide++ = {-tap.im, tap.im};
-    return wide;
-}
 
 // Vectors of outputs in a tile and taps that a load of samples meets: two sums a vector, two
 // vectors a tap, and a load must fit into 16 or 32 registers.
@@ -125,13 +117,13 @@ template <class T>
         T byRe[2] = {0, 0}, byIm[2] = {0, 0};
         eachComplexTap(tapsWide, tapsLen, [&](const T* tap, int j) {
             for (int part = 0; part < 2; ++part) {
-                const T sample = read(x + 2 * static_cast<std::ptrdiff_t>(j) + part);
+                const T sample = loadScalar(x + 2 * static_cast<std::ptrdiff_t>(j) + part);
                 byRe[part] = mulAdd(tap[0], sample, byRe[part]);
                 byIm[part] = mulAdd(tap[kReplicas<T> + part], sample, byIm[part]);
             }
         });
-        write(dst, byRe[0] - byIm[1]);
-        write(dst + 1, byRe[1] - byIm[0]);
+        storeScalar(dst, byRe[0] - byIm[1]);
+        storeScalar(dst + 1, byRe[1] - byIm[0]);
     }
 }
 
@@ -143,7 +135,7 @@ inline void complexTileOf(int vectors, const T* tapsWide, const T* x, T* dst, in
 
 // n outputs; reads x[0 .. n + tapsLen - 2]. dst does not overlap x.
 template <Complex C>
-inline void direct(const C* tapsWide, const C* x, C* dst, int n, int tapsLen) {
+void convolve(const C* tapsWide, const C* x, C* dst, int n, int tapsLen) {
     using T = Part<C>;
     constexpr int values = Vec<T>::lanes / 2;
     constexpr int tile = kComplexTile * values;
@@ -164,5 +156,8 @@ inline void direct(const C* tapsWide, const C* x, C* dst, int n, int tapsLen) {
         complexTile<1>(taps, parts(x + n - values), parts(dst + n - values), tapsLen);
     }
 }
+
+extern template void convolve(const Vlq32fc*, const Vlq32fc*, Vlq32fc*, int, int);
+extern template void convolve(const Vlq64fc*, const Vlq64fc*, Vlq64fc*, int, int);
 
 }  // namespace vlq::fir

@@ -1,4 +1,4 @@
-// The direct FIR kernels. y[n] = sum over j of g[j] * x[n + j], where g is the impulse response
+// The time-domain FIR kernels for real elements. y[n] = sum over j of g[j] * x[n + j], where g is the impulse response
 // reversed and x[0] the oldest sample of the first window.
 //
 // Each output is summed in one order that depends on the tap count alone, never on its place in a
@@ -14,9 +14,9 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <utility>
 
+#include "filter/common/tap_table.h"
 #include "frame/simd/ops.h"
 
 namespace vlq::fir {
@@ -26,29 +26,6 @@ inline constexpr int kRows = 4;
 // Vectors of outputs in a tile: two accumulators for each, a tap for each row, and a load must
 // fit into 16 or 32 registers.
 inline constexpr int kTileVectors = kVecBytes == 64 ? 12 : kVecBytes == 32 ? 5 : 4;
-
-// The tap table repeats each tap over 16 bytes.
-template <class T>
-inline constexpr int kReplicas = 16 / static_cast<int>(sizeof(T));
-
-// A tap into the table at `wide`; answers the place of the next.
-template <class T>
-requires std::is_floating_point_v<T>
-inline T* writeWide(T* wide, T tap) {
-    for (int copy = 0; copy < kReplicas<T>; ++copy) *wide++ = tap;
-    return wide;
-}
-
-template <class T>
-inline T read(const T* p) {
-    T value;
-    std::memcpy(&value, p, sizeof value);
-    return value;
-}
-template <class T>
-inline void write(T* p, T value) {
-    std::memcpy(p, &value, sizeof value);
-}
 
 // All lanes of a vector set to the tap whose 16-byte entry is at `entry`.
 template <class T, int Bytes = kVecBytes>
@@ -86,7 +63,7 @@ template <int Rows, class T, int A>
 
 // A vectors of outputs.
 template <int A, class T>
-inline void directTile(const T* tapsWide, const T* x, T* dst, int tapsLen) {
+inline void convolveTile(const T* tapsWide, const T* x, T* dst, int tapsLen) {
     constexpr int lanes = Vec<T>::lanes;
     constexpr int replicas = kReplicas<T>;
     Vec<T> even[A], odd[A];
@@ -142,7 +119,7 @@ inline void eachTap(const T* tapsWide, int tapsLen, Visit&& visit) {
 
 // Fewer outputs than a vector has lanes: vectors of 16 bytes, then single outputs.
 template <class T>
-[[gnu::noinline]] void directFew(const T* tapsWide, const T* x, T* dst, int n, int tapsLen) {
+[[gnu::noinline]] void convolveFew(const T* tapsWide, const T* x, T* dst, int n, int tapsLen) {
     using Small = Vec<T, 16>;
     for (; n >= Small::lanes; n -= Small::lanes, x += Small::lanes, dst += Small::lanes) {
         Small sum[2] = {Small::zero(), Small::zero()};
@@ -154,38 +131,42 @@ template <class T>
     for (; n > 0; --n, ++x, ++dst) {
         T sum[2] = {0, 0};
         eachTap(tapsWide, tapsLen, [&](const T* tap, int j, bool odd) {
-            sum[odd] = mulAdd(*tap, read(x + j), sum[odd]);
+            sum[odd] = mulAdd(*tap, loadScalar(x + j), sum[odd]);
         });
-        write(dst, sum[0] + sum[1]);
+        storeScalar(dst, sum[0] + sum[1]);
     }
 }
 
 template <class T, int... Count>
-inline void directTileOf(int vectors, const T* tapsWide, const T* x, T* dst, int tapsLen,
-                         std::integer_sequence<int, Count...>) {
-    ((vectors == Count + 1 ? directTile<Count + 1>(tapsWide, x, dst, tapsLen) : void()), ...);
+inline void convolveTileOf(int vectors, const T* tapsWide, const T* x, T* dst, int tapsLen,
+                           std::integer_sequence<int, Count...>) {
+    ((vectors == Count + 1 ? convolveTile<Count + 1>(tapsWide, x, dst, tapsLen) : void()), ...);
 }
 
 // n outputs; reads x[0 .. n + tapsLen - 2]. dst does not overlap x.
 template <class T>
-inline void direct(const T* tapsWide, const T* x, T* dst, int n, int tapsLen) {
+requires std::is_floating_point_v<T>
+void convolve(const T* tapsWide, const T* x, T* dst, int n, int tapsLen) {
     constexpr int lanes = Vec<T>::lanes;
     constexpr int tile = kTileVectors * lanes;
     constexpr auto tiles = std::make_integer_sequence<int, kTileVectors>();
-    if (n < lanes) return directFew(tapsWide, x, dst, n, tapsLen);
+    if (n < lanes) return convolveFew(tapsWide, x, dst, n, tapsLen);
     int done = 0;
     for (; n - done >= tile; done += tile)
-        directTile<kTileVectors>(tapsWide, x + done, dst + done, tapsLen);
+        convolveTile<kTileVectors>(tapsWide, x + done, dst + done, tapsLen);
     if (done == n) return;
     // What remains ends flush with the last output: it may make some outputs a second time.
     const int vectors = (n - done + lanes - 1) / lanes;
     if (vectors * lanes <= n) {
         done = n - vectors * lanes;
-        directTileOf(vectors, tapsWide, x + done, dst + done, tapsLen, tiles);
+        convolveTileOf(vectors, tapsWide, x + done, dst + done, tapsLen, tiles);
     } else {
-        directTileOf(vectors - 1, tapsWide, x, dst, tapsLen, tiles);
-        directTile<1>(tapsWide, x + n - lanes, dst + n - lanes, tapsLen);
+        convolveTileOf(vectors - 1, tapsWide, x, dst, tapsLen, tiles);
+        convolveTile<1>(tapsWide, x + n - lanes, dst + n - lanes, tapsLen);
     }
 }
+
+extern template void convolve(const Vlq32f*, const Vlq32f*, Vlq32f*, int, int);
+extern template void convolve(const Vlq64f*, const Vlq64f*, Vlq64f*, int, int);
 
 }  // namespace vlq::fir

@@ -1,5 +1,5 @@
-// Short DFTs on vectors of complex values, forward. The inverse transform runs on these as well,
-// with real and imaginary parts exchanged on the way in and out.
+// Short forward DFTs on vectors of complex values, and the constants they need. The inverse
+// transform runs on these as well, with real and imaginary parts exchanged on input and output.
 #pragma once
 
 #include <utility>
@@ -9,7 +9,7 @@
 
 namespace vlq::fft {
 
-// body(integral_constant) for 0 to count - 1, unrolled for certain.
+// body(integral_constant) for 0 to count - 1, always unrolled.
 template <int count, class Body>
 [[gnu::always_inline]] inline void unroll(Body&& body) {
     [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) {
@@ -18,7 +18,8 @@ template <int count, class Body>
     (std::make_integer_sequence<int, count>{});
 }
 
-// Complex vectors, and complex scalars in straight-line code.
+// ---- complex arithmetic -------------------------------------------------------------------------
+// On complex vectors, and on complex scalars in straight-line code.
 template <class S>
 concept ComplexLike = requires(S s) {
     s.re;
@@ -51,13 +52,63 @@ template <ComplexLike S, class R>
     return {a.re * s, a.im * s};
 }
 
-// 1/sqrt(2). The eight-point factor that begins an odd order is one unit above the rounded value
-// in single precision, in every build.
+// ---- constants ----------------------------------------------------------------------------------
+// 1/sqrt(2). The eight-point transform that begins an odd order in single precision multiplies by
+// the next float above it, in every build: results are tied to that factor.
 template <class T>
 inline constexpr T kRootHalf = T(0.70710678118654752440);
 template <class T>
 inline constexpr T kEightPoint = sizeof(T) == 4 ? T(0x1.6a09e8p-1) : T(0.70710678118654752440);
 
+// The factor of the eight-point transform in the first pass of an order.
+template <class T>
+constexpr T eightPointFactor(int order) {
+    return order % 2 ? kEightPoint<T> : kRootHalf<T>;
+}
+
+// cos(2 pi k / 128)
+inline constexpr double kCosine128[33] = {1.0,
+                                          0.99879545620517239271,
+                                          0.99518472667219688624,
+                                          0.98917650996478097345,
+                                          0.98078528040323044913,
+                                          0.9700312531945439926,
+                                          0.95694033573220886494,
+                                          0.94154406518302077841,
+                                          0.92387953251128675613,
+                                          0.90398929312344333159,
+                                          0.88192126434835502971,
+                                          0.8577286100002720699,
+                                          0.83146961230254523708,
+                                          0.80320753148064490981,
+                                          0.77301045336273696081,
+                                          0.74095112535495909118,
+                                          0.70710678118654752440,
+                                          0.67155895484701840063,
+                                          0.63439328416364549822,
+                                          0.59569930449243334347,
+                                          0.55557023301960222474,
+                                          0.51410274419322172659,
+                                          0.47139673682599764856,
+                                          0.42755509343028209432,
+                                          0.38268343236508977173,
+                                          0.33688985339222005069,
+                                          0.29028467725446236764,
+                                          0.24298017990326388995,
+                                          0.19509032201612826785,
+                                          0.14673047445536175166,
+                                          0.098017140329560601994,
+                                          0.049067674327418014255,
+                                          0.0};
+constexpr double cosine128(int k) {
+    k &= 127;
+    if (k > 64) k = 128 - k;
+    return k > 32 ? -kCosine128[64 - k] : kCosine128[k];
+}
+// -sin(2 pi k / 128)
+constexpr double minusSine128(int k) { return cosine128(k + 32); }
+
+// ---- transforms ---------------------------------------------------------------------------------
 template <class S>
 [[gnu::always_inline]] inline void dft4(S& x0, S& x1, S& x2, S& x3) {
     const S u = x0 + x2, v = x0 - x2, p = x1 + x3, d = x1 - x3;
@@ -73,8 +124,7 @@ template <class S, class R>
     const S a = x[1] + x[5], b = x[1] - x[5], c = x[3] + x[7], d = x[3] - x[7];
     const S o0 = a + c, o2 = a - c;
     const S e = minusI(b, d), f = plusI(b, d);
-    // The odd half's values 1 and 3 with their eighth turns; of the latter minus the imaginary
-    // part.
+    // Values 1 and 3 of the odd half, turned by one and three eighths; o3.im has the opposite sign.
     const S o1{(e.re + e.im) * half, (e.im - e.re) * half};
     const S o3{(f.im - f.re) * half, (f.re + f.im) * half};
     const S y0 = x[0], y1 = x[2], y2 = x[4], y3 = x[6];

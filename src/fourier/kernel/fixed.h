@@ -1,4 +1,4 @@
-// Transforms of 2 to 8 samples of 16 bits in integers.
+// Transforms of 2 to 8 16-bit samples in integers.
 #pragma once
 
 #include <algorithm>
@@ -8,23 +8,23 @@
 
 namespace vlq::fft {
 
-// A value of 32 bits, or a factor up to 1 with 14 bits behind the point. Sums wrap; with the
-// headroom of a transform they do not reach the limits.
+// A 32-bit value, or a factor up to 1 with 14 fractional bits. Sums wrap; with the headroom of a
+// transform they stay in range.
 struct Fixed {
     Vlq32s bits;
     Fixed() = default;
     constexpr explicit Fixed(double factor) : bits(static_cast<Vlq32s>(factor * 16384 + 0.5)) {}
-    static Fixed of(Vlq32u word) {
+    static Fixed of(Vlq32u bits) {
         Fixed v;
-        v.bits = static_cast<Vlq32s>(word);
+        v.bits = static_cast<Vlq32s>(bits);
         return v;
     }
-    Vlq32u word() const { return static_cast<Vlq32u>(bits); }
+    Vlq32u asUnsigned() const { return static_cast<Vlq32u>(bits); }
 
-    friend Fixed operator+(Fixed a, Fixed b) { return of(a.word() + b.word()); }
-    friend Fixed operator-(Fixed a, Fixed b) { return of(a.word() - b.word()); }
-    Fixed operator-() const { return of(0 - word()); }
-    // The second is the factor, not negative. By halves of 16 bits, the low one rounded.
+    friend Fixed operator+(Fixed a, Fixed b) { return of(a.asUnsigned() + b.asUnsigned()); }
+    friend Fixed operator-(Fixed a, Fixed b) { return of(a.asUnsigned() - b.asUnsigned()); }
+    Fixed operator-() const { return of(0 - asUnsigned()); }
+    // The second operand is the factor, not negative. In halves of 16 bits, the low one rounded.
     friend Fixed operator*(Fixed a, Fixed factor) {
         const Vlq32s high = a.bits >> 16, low = a.bits & 0xFFFF;
         const Vlq32u upper = 4 * static_cast<Vlq32u>(high * factor.bits);
@@ -32,25 +32,26 @@ struct Fixed {
     }
 };
 
-// A sample with the headroom of 2^order of them.
+// A sample shifted left, with headroom for a sum of 2^order samples.
 constexpr int headroom(int order) { return 15 - order; }
 inline Fixed widen(Vlq16s sample, int order) {
     return Fixed::of(static_cast<Vlq32u>(static_cast<Vlq32s>(sample)) << headroom(order));
 }
 
-// value * 2^-shift, halves up, within 16 bits. Shifts to the left lose what leaves 32 bits.
+// value * 2^-shift, halves rounded up, saturated to 16 bits. Left shifts drop what exceeds 32 bits.
 inline Vlq16s narrow(Fixed value, Vlq64s shift) {
     Vlq64s v = value.bits;
     if (shift > 0) {
-        const Vlq64s right = std::min<Vlq64s>(shift, 31);  // 1 or -1 is left of more than 2^30
+        const Vlq64s right =
+            std::min<Vlq64s>(shift, 31);  // beyond 2^30 the result is 1 or -1, not 0
         v = (v + (Vlq64s{1} << (right - 1))) >> right;
     } else if (shift < 0) {
-        v = shift <= -32 ? 0 : static_cast<Vlq32s>(value.word() << -shift);
+        v = shift <= -32 ? 0 : static_cast<Vlq32s>(value.asUnsigned() << -shift);
     }
     return static_cast<Vlq16s>(std::clamp<Vlq64s>(v, -32768, 32767));
 }
 
-// x = DFT of x, forward; of exchanged parts it is the inverse one.
+// x = DFT of x, forward. The inverse transform exchanges real and imaginary parts around it.
 inline void fixedTransform(int order, Value<Fixed>* x) {
     if (order == 1) {
         const Value<Fixed> sum = x[0] + x[1];
@@ -66,7 +67,7 @@ inline void fixedTransform(int order, Value<Fixed>* x) {
     }
 }
 
-// Between a signal and its spectrum in Perm form, both in x.
+// From a signal to its spectrum in Perm layout or back, in place.
 template <bool forward, int order>
 inline void fixedReal(Fixed* x) {
     Fixed y[1 << order];

@@ -1,17 +1,20 @@
-// Transforms far beyond the first caches, in three phases of column transforms (see
-// plan/large.h). A column transform runs over the rows of a tile with the columns in the lanes:
-// its factors are the same in all lanes.
+// Transforms beyond the first caches: sixteen rows, or three phases of column transforms (see
+// plan/fft_passes.h).
 #pragma once
 
 #include <bit>
 
-#include "fourier/kernel/passes.h"
-#include "fourier/plan/fft_plan.h"
-#include "fourier/plan/row_plan.h"
+#include "fourier/kernel/regimes.h"
+#include "fourier/kernel/sixteen_rows.h"
+#include "fourier/plan/fft_passes.h"
 
 namespace vlq::fft {
 
-// The tile in the work buffer, a row of columns after the other.
+// ---- phases -------------------------------------------------------------------------------------
+// A column transform runs over the rows of a tile, with the columns in the lanes: its factors are
+// the same in all lanes.
+
+// The tile in the work buffer, row by row.
 template <class T, int B>
 struct Tile {
     T* p;
@@ -24,9 +27,9 @@ struct Tile {
     Tile from(std::ptrdiff_t row) const { return {p + 2 * row * kTileColumns<T>}; }
 };
 
-// One radix-R step over `rows` rows: row j + p * rows / R meets its kind, output q is multiplied by
-// factor [j][q], but not in the last step (without factors), and goes to row q * rows / R + j.
-// eighth is the factor of the eight-point transform in it.
+// One radix-R step over `rows` rows: transforms rows j + p * rows / R over p, multiplies output q by
+// factor [j][q], but not in the last step, which has none, and writes it to row q * rows / R + j.
+// `eighth` is the factor of the eight-point transform in it.
 template <class T, int B, int R>
 [[gnu::noinline]] void columnStep(std::ptrdiff_t rows, const T* factors, T eighth,
                                   Tile<T, B> tile) {
@@ -60,8 +63,8 @@ template <class T, int B, int R>
     }
 }
 
-// A column transform of 2^bits rows in the tile. Output q is left at row place(q): its digits by
-// radix stand in the opposite order.
+// A column transform of 2^bits rows in the tile. Output q is in row place(q) afterwards: the digits of
+// q, one for each step, in reverse order.
 template <class T, int B>
 struct ColumnTransform {
     int bits;
@@ -94,8 +97,8 @@ struct ColumnTransform {
     }
 };
 
-// Twiddles of a phase: W^(row * column) as the product of a vector for the column within a tile
-// and a scalar for the tile.
+// Twiddles of a phase: exp(-2 pi i row * column / N) as the product of a vector for the column within
+// a tile and a scalar for the tile.
 template <class T, int B>
 struct PhaseTwiddles {
     const T* within;  // [row][column]
@@ -110,30 +113,23 @@ struct PhaseTwiddles {
     }
 };
 
-// Exchanges rows and columns of square tiles of vectors in place.
+// Transposes a matrix of size * size values in place, rows `pitch` apart.
 template <class T, int B, class Middle>
 void transposeInPlace(Middle data, std::ptrdiff_t base, std::ptrdiff_t size, std::ptrdiff_t pitch) {
-    using V = Vec<T, B>;
-    constexpr int lanes = V::lanes;
-    struct Square {
-        V re[lanes], im[lanes];
-    };
-    auto take = [&](Square & s, std::ptrdiff_t at) __attribute__((always_inline)) {
-        unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-            const Split<T, B> v = data.template get<B>(at + splitLane<T, B>(i) * pitch);
-            s.re[i] = v.re;
-            s.im[i] = v.im;
+    constexpr int lanes = Vec<T, B>::lanes;
+    auto take = [&](Square<T, B> & square, std::ptrdiff_t at) __attribute__((always_inline)) {
+        square.load([&](auto i) __attribute__((always_inline)) {
+            return data.template get<B>(at + i * pitch);
         });
-        transpose(s.re);
-        transpose(s.im);
+        square.transpose();
     };
-    auto leave = [&](const Square& s, std::ptrdiff_t at) __attribute__((always_inline)) {
-        unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-            data.template put<B>(at + splitLane<T, B>(i) * pitch, Split<T, B>{s.re[i], s.im[i]});
+    auto leave = [&](const Square<T, B>& square, std::ptrdiff_t at) __attribute__((always_inline)) {
+        square.store([&](auto i, Split<T, B> v) __attribute__((always_inline)) {
+            data.template put<B>(at + i * pitch, v);
         });
     };
     for (std::ptrdiff_t row = 0; row < size; row += lanes) {
-        Square a, b;
+        Square<T, B> a, b;
         take(a, base + row * pitch + row);
         leave(a, base + row * pitch + row);
         for (std::ptrdiff_t column = row + lanes; column < size; column += lanes) {
@@ -145,26 +141,20 @@ void transposeInPlace(Middle data, std::ptrdiff_t base, std::ptrdiff_t size, std
     }
 }
 
-// src to middle, over H, multiplied by scale; middle is the memory of dst in the form that phases
-// use among themselves.
+// src to middle, over h.
 template <class T, int B, class In, class Middle>
 void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Middle middle, T* work,
-                bool inPlace, T scale) {
-    using V = Vec<T, B>;
-    using S = Split<T, B>;
-    constexpr int lanes = V::lanes, columns = kTileColumns<T>;
+                bool inPlace) {
+    constexpr int lanes = Vec<T, B>::lanes, columns = kTileColumns<T>;
     const std::ptrdiff_t size = std::ptrdiff_t{1} << plan.outer,
                          pitch = std::ptrdiff_t{1} << (order - plan.outer);
-    const ColumnTransform<T, B> transform{
-        plan.outer, factors, {work}, order % 2 ? kEightPoint<T> : kRootHalf<T>};
-    const V factor = V::broadcast(scale);
+    const ColumnTransform<T, B> transform{plan.outer, factors, {work}, eightPointFactor<T>(order)};
     for (std::ptrdiff_t m = 0; m < pitch; m += size) {
         for (std::ptrdiff_t r = 0; r < size; r += columns) {
             for (std::ptrdiff_t row = 0; row < size; ++row) {
                 for (int c = 0; c < columns / lanes; ++c) {
-                    transform.tile.put(
-                        row, c,
-                        times(src.template get<B>(row * pitch + m + r + c * lanes), factor));
+                    transform.tile.put(row, c,
+                                       src.template get<B>(row * pitch + m + r + c * lanes));
                 }
             }
             transform.run();
@@ -179,17 +169,13 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
             }
             for (std::ptrdiff_t q = 0; q < size; q += lanes) {
                 for (int c = 0; c < columns / lanes; ++c) {
-                    V re[lanes], im[lanes];
-                    unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                        const S v = transform.tile.get(transform.place(q + splitLane<T, B>(i)), c);
-                        re[i] = v.re;
-                        im[i] = v.im;
+                    Square<T, B> square;
+                    square.load([&](auto i) __attribute__((always_inline)) {
+                        return transform.tile.get(transform.place(q + i), c);
                     });
-                    transpose(re);
-                    transpose(im);
-                    unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                        middle.template put<B>((r + c * lanes + splitLane<T, B>(i)) * pitch + m + q,
-                                               S{re[i], im[i]});
+                    square.transpose();
+                    square.store([&](auto i, Split<T, B> v) __attribute__((always_inline)) {
+                        middle.template put<B>((r + c * lanes + i) * pitch + m + q, v);
                     });
                 }
             }
@@ -198,11 +184,12 @@ void firstPhase(const LargePlan& plan, int order, const T* factors, In src, Midd
     }
 }
 
-// Combines 2^rowBits rows of 2^columnBits columns from `base` on.
+// Combines 2^rowBits rows of 2^columnBits columns from `base` on, and multiplies by scale.
 template <class T, int B, class In, class Out>
 void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, In in, Out out,
-                std::ptrdiff_t base, T* work) {
+                std::ptrdiff_t base, T* work, T scale) {
     constexpr int lanes = Vec<T, B>::lanes, columns = kTileColumns<T>;
+    const auto factor = Vec<T, B>::broadcast(scale);
     const PhaseTwiddles<T, B> twiddles(table, rowBits);
     const ColumnTransform<T, B> transform{rowBits, factors, {work}};
     const T* scalars = twiddles.tiles;
@@ -219,7 +206,7 @@ void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, I
         for (std::ptrdiff_t row = 0; row < transform.rows(); ++row) {
             for (int c = 0; c < columns / lanes; ++c) {
                 out.template put<B>(base + (row << columnBits) + k + c * lanes,
-                                    transform.tile.get(transform.place(row), c));
+                                    times(transform.tile.get(transform.place(row), c), factor));
             }
         }
     }
@@ -227,22 +214,65 @@ void laterPhase(int rowBits, int columnBits, const T* factors, const T* table, I
 
 // inPlace: src is the memory of dst.
 template <class T, class In, class Middle, class Out>
-void runPhases(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst, T* work,
+void runPhases(int order, const FloatSpec<T>& spec, In src, Middle middle, Out dst, T* work,
                bool inPlace, bool scaled) {
     constexpr int B = kVecBytes;
     const LargePlan plan = largePlan(order);
     const int inner = order - plan.outer;
-    const T* factors = record.twiddleTable;
+    const T* factors = spec.twiddleTable;
     const T* middleFactors = factors + 2 * columnTwiddles(plan.outer);
-    firstPhase<T, B>(plan, order, factors, src, middle, work, inPlace,
-                     scaled ? record.normFactor : T(1));
-    const T* middleTable = record.outerTwiddle[1];
+    firstPhase<T, B>(plan, order, factors, src, middle, work, inPlace);
+    const T* middleTable = spec.outerTwiddle[1];
     for (std::ptrdiff_t row = 0; row < std::ptrdiff_t{1} << plan.outer; ++row) {
         laterPhase<T, B>(plan.middle, plan.outer, middleFactors, middleTable, middle, middle,
-                         row << inner, work);
+                         row << inner, work, T(1));
     }
-    laterPhase<T, B>(plan.outer, inner, factors, record.outerTwiddle[0].get(), middle, dst, 0,
-                     work);
+    laterPhase<T, B>(plan.outer, inner, factors, spec.outerTwiddle[0].get(), middle, dst, 0, work,
+                     scaled ? spec.normFactor : T(1));
+}
+
+// ---- rows ---------------------------------------------------------------------------------------
+// The work buffer as the view of the data.
+template <class T>
+Blocks<T> workView(Blocks<T>, T* work, std::ptrdiff_t) {
+    return {work};
+}
+template <class T>
+Planes<T> workView(Planes<T>, T* work, std::ptrdiff_t length) {
+    return {work, work + length};
+}
+
+// Transforms a row of 2^order values, after its first pass, as sixteen rows of its own.
+template <class T, class Middle>
+void splitRow(int order, const FloatSpec<T>& spec, Middle row, T* work) {
+    constexpr int B = kVecBytes;
+    const std::ptrdiff_t length = std::ptrdiff_t{1} << (order - 4);
+    splitGroups<T, B>(row, length, 16, spec.outerTwiddle[2].get(), work);
+    for (int part = 0; part < 16; ++part) {
+        rowTransform<T>(order - 4, 8, spec.twiddleTable.get(), row.from(part * length),
+                        workView(row, work, length));
+    }
+    joinRows<T, B>(row, row, length, spec.outerTwiddle[1].get(), work, T(1));
+}
+
+template <class T, class In, class Middle, class Out>
+void largeTransform(int order, const FloatSpec<T>& spec, In src, Middle middle, Out dst, T* work,
+                    bool inPlace, bool scaled) {
+    constexpr int B = kVecBytes;
+    if (order > kLastSplitTwice<T>)
+        return runPhases<T>(order, spec, src, middle, dst, work, inPlace, scaled);
+    const std::ptrdiff_t length = std::ptrdiff_t{1} << (order - 4);
+    splitRows<T, B>(src, middle, length, work, eightPointFactor<T>(order));
+    for (int r = 0; r < 16; ++r) {
+        const Middle row = middle.from(r * length);
+        if (order <= kLastSplitOnce<T>)
+            rowTransform<T>(order - 4, 4, spec.twiddleTable.get(), row,
+                            workView(middle, work, length));
+        else
+            splitRow<T>(order - 4, spec, row, work);
+    }
+    joinRows<T, B>(middle, dst, length, spec.outerTwiddle[0].get(), work,
+                   scaled ? spec.normFactor : T(1));
 }
 
 }  // namespace vlq::fft

@@ -1,7 +1,7 @@
-// The passes of the self-sorting transform. Before a pass of radix R, groups of `span` values
-// hold the transforms of the n / span sequences that every (n / span)-th value makes; it combines
-// R groups at distance n / R into one of R * span. Reads are R streams in order, writes are
-// contiguous groups. A pass whose groups are the last ones (R * span = n) may run in place.
+// The passes of the self-sorting transform (Stockham). Before a pass of radix R, group j of `span`
+// values holds the transform of the samples j, j + n / span, j + 2 n / span ... The pass combines R
+// groups at distance n / R into one of R * span values: it reads R sequential streams and writes
+// contiguous groups. A pass that makes one group of all (R * span = n) may run in place.
 #pragma once
 
 #include "fourier/kernel/butterflies.h"
@@ -10,7 +10,7 @@
 
 namespace vlq::fft {
 
-// exp(-2 pi i e / 16) for the products e of 1, 2, 3 with 1, 2, 3.
+// cos and sin of 2 pi / 16
 inline constexpr double kCosine16 = 0.92387953251128675613, kSine16 = 0.38268343236508977173;
 
 template <class V>
@@ -20,8 +20,8 @@ template <class V>
     return {V::broadcast(static_cast<T>(re)), V::broadcast(static_cast<T>(im))};
 }
 
-// Between the two stages of a 16-point transform: values 1 to 3 of the q-th second butterfly times
-// exp(-2 pi i q m / 16), m their number. eighth is the factor of the eight-point transform in it.
+// Between the two stages of a 16-point transform: inputs m = 1, 2, 3 of the q-th second butterfly
+// times exp(-2 pi i q m / 16). `eighth` is the factor of the eight-point transform in it.
 template <int q, class T, int B>
 [[gnu::always_inline]] inline void turnSixteenths(Split<T, B>& b, Split<T, B>& c, Split<T, B>& d,
                                                   T eighth) {
@@ -49,13 +49,16 @@ template <int q, class T, int B>
     }
 }
 
-// Sixteen values as four by four; get(p) gives input p, put(q, value) takes output q.
-template <class T, int B, class Get, class Put>
-[[gnu::always_inline]] inline void dft16(T eighth, Get&& get, Put&& put) {
+// A 16-point transform as four by four: get(p) reads input p, turn(q, b, c, d) multiplies inputs 1 to
+// 3 of the q-th butterfly of the second stage, put(q, value) writes output q.
+template <class T, int B, class Get, class Turn, class Put>
+[[gnu::always_inline]] inline void fourByFour(Get&& get, Turn&& turn, Put&& put) {
     using S = Split<T, B>;
     S t[16];
     unroll<4>([&](auto m) __attribute__((always_inline)) {
-        S a = get(m), b = get(m + 4), c = get(m + 8), d = get(m + 12);
+        S a = get(std::integral_constant<int, m>{}), b = get(std::integral_constant<int, m + 4>{}),
+          c = get(std::integral_constant<int, m + 8>{}),
+          d = get(std::integral_constant<int, m + 12>{});
         dft4(a, b, c, d);
         t[m] = a;
         t[m + 4] = b;
@@ -64,7 +67,7 @@ template <class T, int B, class Get, class Put>
     });
     unroll<4>([&](auto q) __attribute__((always_inline)) {
         S a = t[4 * q], b = t[4 * q + 1], c = t[4 * q + 2], d = t[4 * q + 3];
-        turnSixteenths<q, T, B>(b, c, d, eighth);
+        turn(q, b, c, d);
         dft4(a, b, c, d);
         put(std::integral_constant<int, q>{}, a);
         put(std::integral_constant<int, q + 4>{}, b);
@@ -73,23 +76,55 @@ template <class T, int B, class Get, class Put>
     });
 }
 
-// Vectors of `lanes` outputs each become `lanes` contiguous runs of R outputs.
+// The plain transform of 16 values.
+template <class T, int B, class Get, class Put>
+[[gnu::always_inline]] inline void dft16(T eighth, Get&& get, Put&& put) {
+    using S = Split<T, B>;
+    fourByFour<T, B>(
+        get,
+        [&](auto q, S& b, S& c, S& d)
+            __attribute__((always_inline)) { turnSixteenths<q, T, B>(b, c, d, eighth); },
+        put);
+}
+
+// A square of complex values, a vector for each row. Vector i is row splitLane(i), so that rows and
+// columns have the same order.
+template <class T, int B>
+struct Square {
+    using V = Vec<T, B>;
+    static constexpr int lanes = V::lanes;
+    V re[lanes], im[lanes];
+    template <class Get>
+    [[gnu::always_inline]] void load(Get&& row) {
+        unroll<lanes>([&](auto i) __attribute__((always_inline)) {
+            const Split<T, B> v = row(std::integral_constant<int, splitLane<T, B>(i)>{});
+            re[i] = v.re;
+            im[i] = v.im;
+        });
+    }
+    [[gnu::always_inline]] void transpose() {
+        vlq::transpose(re);
+        vlq::transpose(im);
+    }
+    template <class Put>
+    [[gnu::always_inline]] void store(Put&& row) const {
+        unroll<lanes>([&](auto i) __attribute__((always_inline)) {
+            row(std::integral_constant<int, splitLane<T, B>(i)>{}, Split<T, B>{re[i], im[i]});
+        });
+    }
+};
+
+// R vectors, outputs q of columns j to j + lanes - 1, become `lanes` contiguous groups of R outputs.
 template <int R, class T, int B, class Out>
 [[gnu::always_inline]] inline void putTransposed(Out out, std::ptrdiff_t j,
                                                  const Split<T, B> (&y)[R]) {
-    using V = Vec<T, B>;
-    constexpr int lanes = V::lanes;
+    constexpr int lanes = Vec<T, B>::lanes;
     unroll<R / lanes>([&](auto part) __attribute__((always_inline)) {
-        V re[lanes], im[lanes];
-        unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-            re[i] = y[part * lanes + splitLane<T, B>(i)].re;
-            im[i] = y[part * lanes + splitLane<T, B>(i)].im;
-        });
-        transpose(re);
-        transpose(im);
-        unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-            out.template put<B>((j + splitLane<T, B>(i)) * R + part * lanes,
-                                Split<T, B>{re[i], im[i]});
+        Square<T, B> square;
+        square.load([&](auto i) __attribute__((always_inline)) { return y[part * lanes + i]; });
+        square.transpose();
+        square.store([&](auto i, Split<T, B> v) __attribute__((always_inline)) {
+            out.template put<B>((j + i) * R + part * lanes, v);
         });
     });
 }
@@ -125,14 +160,15 @@ template <class T, int B>
 [[gnu::always_inline]] inline Split<T, B> tableTwiddle(const T* table, int index) {
     const Split<T, B> w{loadAligned<T, B>(table + 2 * index * Vec<T, B>::lanes),
                         loadAligned<T, B>(table + (2 * index + 1) * Vec<T, B>::lanes)};
-    // Instructions that overwrite an operand are better off with factors from memory.
+    // Two-operand instructions multiply by a factor in memory; others load it once for four uses.
     if constexpr (B == 16)
         return w;
     else
         return {opaque(w.re), opaque(w.im)};
 }
 
-// A later pass: R * lanes values from in(i + p * stride) to out(o + q * span), R - 1 twiddles.
+// The butterfly of a later pass: get(p) reads input p, put(q, value) writes output q. The table
+// holds the R - 1 twiddles of these columns.
 template <class T, int B, int R, class Get, class Put>
 [[gnu::always_inline]] inline void combine(const T* table, Get&& get, Put&& put) {
     using V = Vec<T, B>;
@@ -156,32 +192,24 @@ template <class T, int B, int R, class Get, class Put>
         dft8(x, V::broadcast(kRootHalf<T>));
         unroll<8>([&](auto q) __attribute__((always_inline)) { put(q, x[q]); });
     } else {
-        // Two stages of radix 4; the first has the same three twiddles throughout.
-        S t[16];
-        unroll<4>([&](auto m) __attribute__((always_inline)) {
-            S a = get(std::integral_constant<int, m>{}),
-              b = get(std::integral_constant<int, m + 4>{}) * tableTwiddle<T, B>(table, 0),
-              c = get(std::integral_constant<int, m + 8>{}) * tableTwiddle<T, B>(table, 1),
-              d = get(std::integral_constant<int, m + 12>{}) * tableTwiddle<T, B>(table, 2);
-            dft4(a, b, c, d);
-            t[m] = a;
-            t[m + 4] = b;
-            t[m + 8] = c;
-            t[m + 12] = d;
-        });
-        unroll<4>([&](auto q) __attribute__((always_inline)) {
-            S a = t[4 * q], b = t[4 * q + 1] * tableTwiddle<T, B>(table, 3 * q + 3),
-              c = t[4 * q + 2] * tableTwiddle<T, B>(table, 3 * q + 4),
-              d = t[4 * q + 3] * tableTwiddle<T, B>(table, 3 * q + 5);
-            dft4(a, b, c, d);
-            put(std::integral_constant<int, q>{}, a);
-            put(std::integral_constant<int, q + 4>{}, b);
-            put(std::integral_constant<int, q + 8>{}, c);
-            put(std::integral_constant<int, q + 12>{}, d);
-        });
+        // All butterflies of the first stage have the same three twiddles.
+        fourByFour<T, B>(
+            [&](auto p) __attribute__((always_inline)) {
+                if constexpr (p < 4)
+                    return get(p);
+                else
+                    return get(p) * tableTwiddle<T, B>(table, p / 4 - 1);
+            },
+            [&](auto q, S& b, S& c, S& d) __attribute__((always_inline)) {
+                b = b * tableTwiddle<T, B>(table, 3 * q + 3);
+                c = c * tableTwiddle<T, B>(table, 3 * q + 4);
+                d = d * tableTwiddle<T, B>(table, 3 * q + 5);
+            },
+            put);
     }
 }
 
+// A pass from groups of `span` values; the last one of a normalized transform multiplies by scale.
 template <class T, int B, int R, bool scaled, class In, class Out>
 void laterPass(In in, Out out, std::ptrdiff_t n, std::ptrdiff_t span, const T* table, T scale) {
     using V = Vec<T, B>;

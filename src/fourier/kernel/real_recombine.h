@@ -1,9 +1,11 @@
 // The step between a real signal's spectrum X, N values, and the half-length complex spectrum Z of
 // z[m] = x[2m] + i x[2m+1], H = N/2 values. With w = exp(-2 pi i k / N):
 //   X[k] = (Z[k] + conj Z[H-k]) / 2 - i w (Z[k] - conj Z[H-k]) / 2, and the reverse of it.
-// Values k and H-k depend on each other alone, so the pass goes from both ends towards the middle,
-// in place if wanted. The zeroth value (mean and Nyquist term) is not touched.
+// Values k and H-k depend only on each other, so the pass goes from both ends towards the middle,
+// and may run in place. Value 0 (mean and Nyquist term) is left to the caller.
 #pragma once
+
+#include <cstring>
 
 #include "fourier/kernel/complex_transform.h"
 #include "fourier/plan/real_plan.h"
@@ -12,8 +14,8 @@
 
 namespace vlq::fft {
 
-// a holds values k and becomes their result, b holds values H-k, lane by lane. c = cos / 2 and
-// s = (1 - sin) / 2 of 2 pi k / N: taking the half from 1 - sin spares the sum of the real parts.
+// a: values k, b: values H-k, lane by lane; both are replaced by their results. c = cos / 2 and
+// s = (1 - sin) / 2 of 2 pi k / N: with (1 - sin) in place of -sin no sum of real parts is needed.
 template <class T, int B>
 inline void recombineForward(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T, B> s) {
     const auto dR = a.re - b.re, sI = a.im + b.im;
@@ -25,8 +27,8 @@ inline void recombineForward(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T,
     b = {bRe, bIm};
 }
 
-// c = cos, s = -sin of the same angle. There is no half: the inverse of N points, unscaled, is
-// twice that of H points.
+// c = cos, s = -sin of the same angle. No factor 1/2: the unscaled inverse of N points is twice that
+// of H points.
 template <class T, int B>
 inline void recombineInverse(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T, B> s) {
     const auto dR = a.re - b.re, sR = a.re + b.re;
@@ -45,8 +47,8 @@ inline void recombineStep(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T, B>
         recombineInverse(a, b, c, s);
 }
 
-// src1 and dst1 point at value 1; quarter = H/2 is a multiple of the lanes. The last block of both
-// ends holds value H/2, which is its own mirror: both results of it are the same.
+// src1 and dst1 point at value 1; quarter = H/2 is a multiple of the lanes. The last vectors of both
+// ends hold value H/2, its own mirror: both compute the same result.
 template <Direction direction, class T>
 inline void recombineBlocks(const T* src1, T* dst1, const T* factors, std::ptrdiff_t quarter) {
     constexpr int lanes = Vec<T>::lanes;
@@ -60,7 +62,7 @@ inline void recombineBlocks(const T* src1, T* dst1, const T* factors, std::ptrdi
     }
 }
 
-// The same with factors that are products of a coarse and a fine one: angle = fine * b + j.
+// The same with each factor the product of a coarse and a fine one: k = fine * block + j.
 template <Direction direction, class T>
 inline void recombineTwoLevels(const T* src1, T* dst1, const T* factors, std::ptrdiff_t quarter) {
     using V = Vec<T>;
@@ -89,23 +91,10 @@ inline void recombineTwoLevels(const T* src1, T* dst1, const T* factors, std::pt
             storeSplitBackward(dstBack - i, b);
         }
     }
-    // The product for the middle angle is not exactly -i; the result there is the conjugate.
+    // At the middle the product of factors is not exactly -i: store the conjugate.
     const T factor = direction == Direction::forward ? T(1) : T(2);
     const T result[2] = {factor * middle[0], -factor * middle[1]};
     std::memcpy(dst1 + 2 * (quarter - 1), result, sizeof result);
-}
-
-// Values 1 to H-1 of a transform of 2^order points, order above inRegisters. src1 and dst1 point at
-// value 1 and may be one.
-template <Direction direction, class T>
-inline void recombine(int order, const FloatingRecord<T>& record, const T* src1, T* dst1) {
-    const T* factors =
-        direction == Direction::forward ? record.realTwiddleFwd : record.realTwiddleInv;
-    const std::ptrdiff_t quarter = std::ptrdiff_t{1} << (order - 2);
-    if (order < RealLimits<T>::twoLevel)
-        recombineBlocks<direction>(src1, dst1, factors, quarter);
-    else
-        recombineTwoLevels<direction>(src1, dst1, factors, quarter);
 }
 
 }  // namespace vlq::fft

@@ -1,5 +1,7 @@
-// The three regimes of the complex transform, each compiled by itself. In and Out are views of the
-// caller's data, Middle is the memory of Out in the form that passes use among themselves.
+// The three regimes of the complex transform, by length: straight-line code, passes within a cache,
+// and rows or phases beyond it. In and Out are views of the caller's data; Middle is the view that
+// passes use among themselves, on the memory of Out. Definitions and instances are in files of
+// their own for each regime.
 #pragma once
 
 #include "fourier/kernel/views.h"
@@ -15,24 +17,25 @@ inline constexpr int kLastSmall<Interleaved<P, exchanged>> = kVecBytes / sizeof(
 
 // Straight-line code, orders 0 to kLastSmall.
 template <class T, class In, class Out>
-void smallTransform(int order, const FloatingRecord<T>& record, In src, Out dst, bool scaled);
+void smallTransform(int order, const FloatSpec<T>& spec, In src, Out dst, bool scaled);
 
 // Self-sorting passes between `work` and `middle`.
 template <class T, class In, class Middle, class Out>
-void inCacheTransform(int order, const FloatingRecord<T>& record, In src, Middle work,
-                      Middle middle, Out dst, bool scaled);
+void inCacheTransform(int order, const FloatSpec<T>& spec, In src, Middle work, Middle middle,
+                      Out dst, bool scaled);
 
-// The rest of the passes of one row of 2^order values in groups of 2^spanBits, between row and
-// work; see plan/passes.h.
+// The remaining passes of one row of 2^order values whose groups of 2^spanBits are done, between
+// row and work: see rowPlan.
 template <class T, class Middle>
 void rowTransform(int order, int spanBits, const T* table, Middle row, Middle work);
 
-// Rows or phases of column transforms through `work`; inPlace says that src is the memory of dst.
+// Rows or phases through `work`; inPlace: src is the memory of dst.
 template <class T, class In, class Middle, class Out>
-void largeTransform(int order, const FloatingRecord<T>& record, In src, Middle middle, Out dst,
-                    T* work, bool inPlace, bool scaled);
+void largeTransform(int order, const FloatSpec<T>& spec, In src, Middle middle, Out dst, T* work,
+                    bool inPlace, bool scaled);
 
-// The views that transforms run on: forward and inverse interleaved, and split.
+// The views of the interleaved transforms. The inverse transform is the forward one with real and
+// imaginary parts exchanged on input and output.
 template <class T>
 using ForwardIn = Interleaved<const T, false>;
 template <class T>

@@ -1,10 +1,10 @@
-// Transforms beyond the first caches as 16 rows of M = N / 16 values, M fitting the caches. Row r
-// takes every sixteenth value from r on; what its first pass combines lies M values apart, so that
-// this pass exchanges square blocks of 16 by 16 values, in place where the caller wants it so. The
-// rows go on by themselves, and one radix-16 pass combines them. Sixteen streams a power of two
-// apart share few ways of the first cache: the butterflies take four at a time, whole cache lines
-// each, with a block of values in the work buffer between their two stages. A row that is too long
-// itself is split and joined once more.
+// Transforms beyond the first caches as 16 rows of N / 16 values, which fit the caches. Row r is the
+// transform of every sixteenth sample from r on. Its first pass combines samples N / 16 apart, so
+// that this pass, for all rows, exchanges square blocks of 16 by 16 values, and may run in place. The
+// rows then continue one by one, and a radix-16 pass combines them. Sixteen streams a power of two
+// apart compete for a few ways of the first cache: the butterflies access four at a time, in whole
+// cache lines, and keep a block of values in the work buffer between their two stages. A row that is
+// too long itself is split and joined once more.
 #pragma once
 
 #include "fourier/kernel/passes.h"
@@ -12,8 +12,8 @@
 
 namespace vlq::fft {
 
-// The first stage of the 16-point transforms of so many columns: row m + 4 q of the block then
-// holds value q of the four-point transforms over rows m, m + 4, m + 8, m + 12.
+// The first stage of the 16-point transforms of so many columns: four-point transforms over rows m,
+// m + 4, m + 8, m + 12 of the input; their value q goes to row m + 4 q of the block.
 template <class T, int B, class Get>
 [[gnu::always_inline]] inline void firstStage(Blocks<T> block, int columns, Get&& get) {
     using S = Split<T, B>;
@@ -30,8 +30,8 @@ template <class T, int B, class Get>
     }
 }
 
-// The second one; turn(column, b, c, d) may multiply values 1 to 3, put(q, column, value) takes
-// value q of the transform, eighth is the factor of the eight-point transform in it.
+// The second stage; turn(column, b, c, d) may multiply inputs 1 to 3, put(q, column, value) writes
+// value q of the transform. `eighth` is the factor of the eight-point transform in it.
 template <class T, int B, class Turn, class Put>
 [[gnu::always_inline]] inline void secondStage(Blocks<T> block, int columns, T eighth, Turn&& turn,
                                                Put&& put) {
@@ -53,21 +53,19 @@ template <class T, int B, class Turn, class Put>
     });
 }
 
-// Where a block keeps value q of its transforms: in the row of one of the inputs.
+// The row of the block for value q of the transforms: that of an input already used.
 constexpr int slotOf(int q) { return 4 * (q % 4) + q / 4; }
 
-// The rows' first pass, src to middle, times scale. src may be the memory of middle.
+// The first pass of all rows, src to middle. src may be the memory of middle.
 template <class T, int B, class In, class Middle>
-void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T eighth, T scale) {
-    using V = Vec<T, B>;
+void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T eighth) {
     using S = Split<T, B>;
-    constexpr int lanes = V::lanes;
+    constexpr int lanes = S::lanes;
     const Blocks<T> block{work};
-    const V factor = V::broadcast(scale);
     for (std::ptrdiff_t j = 0; j < length; j += 16) {
         firstStage<T, B>(
             block, 16, [&](int row, int column) __attribute__((always_inline)) {
-                return times(src.template get<B>(row * length + j + column), factor);
+                return src.template get<B>(row * length + j + column);
             });
         secondStage<T, B>(
             block, 16, eighth, [](int, S&, S&, S&) {},
@@ -76,25 +74,20 @@ void splitRows(In src, Middle middle, std::ptrdiff_t length, T* work, T eighth, 
             });
         for (int column = 0; column < 16; column += lanes) {
             for (int first = 0; first < 16; first += lanes) {
-                V re[lanes], im[lanes];
-                unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                    const S v =
-                        block.template get<B>(slotOf(first + splitLane<T, B>(i)) * 16 + column);
-                    re[i] = v.re;
-                    im[i] = v.im;
+                Square<T, B> square;
+                square.load([&](auto i) __attribute__((always_inline)) {
+                    return block.template get<B>(slotOf(first + i) * 16 + column);
                 });
-                transpose(re);
-                transpose(im);
-                unroll<lanes>([&](auto i) __attribute__((always_inline)) {
-                    middle.template put<B>((column + splitLane<T, B>(i)) * length + j + first,
-                                           S{re[i], im[i]});
+                square.transpose();
+                square.store([&](auto i, S v) __attribute__((always_inline)) {
+                    middle.template put<B>((column + i) * length + j + first, v);
                 });
             }
         }
     }
 }
 
-// Powers 4, 8, 12 and 1, 2, 3 of exp(-2 pi i k / n), a group of six for each vector of columns k.
+// Powers 4, 8, 12 and 1, 2, 3 of exp(-2 pi i k / n), six vectors for each vector of columns k.
 template <class T, int B>
 struct SixteenthPowers {
     const T* table;
@@ -109,8 +102,8 @@ struct SixteenthPowers {
     }
 };
 
-// The second pass of a row of 16 * length values that stand in groups of `span`, in place: the next
-// sixteen rows. table is that of 16 * span values.
+// The second pass of a row of 16 * length values in groups of `span`, in place: makes sixteen rows of
+// it. The table is that of 16 * span values.
 template <class T, int B, class Middle>
 void splitGroups(Middle row, std::ptrdiff_t length, std::ptrdiff_t span, const T* table, T* work) {
     using S = Split<T, B>;
@@ -145,12 +138,14 @@ void splitGroups(Middle row, std::ptrdiff_t length, std::ptrdiff_t span, const T
     }
 }
 
-// Combines the rows, middle to dst, which may be one memory. table is that of all their values.
+// Combines the rows, middle to dst, which may be the same memory, and multiplies by scale. The table
+// is that of all their values.
 template <class T, int B, class Middle, class Out>
-void joinRows(Middle middle, Out dst, std::ptrdiff_t length, const T* table, T* work) {
+void joinRows(Middle middle, Out dst, std::ptrdiff_t length, const T* table, T* work, T scale) {
     using S = Split<T, B>;
     constexpr int columns = 64 / static_cast<int>(sizeof(T));
     const Blocks<T> block{work};
+    const auto factor = Vec<T, B>::broadcast(scale);
     for (std::ptrdiff_t k = 0; k < length; k += columns) {
         const SixteenthPowers<T, B> powers{table + 12 * k};
         firstStage<T, B>(
@@ -162,7 +157,7 @@ void joinRows(Middle middle, Out dst, std::ptrdiff_t length, const T* table, T* 
             [&](int column, S& b, S& c, S& d)
                 __attribute__((always_inline)) { powers.turn(column, b, c, d); },
             [&](int q, int column, S v) __attribute__((always_inline)) {
-                dst.template put<B>(q * length + k + column, v);
+                dst.template put<B>(q * length + k + column, times(v, factor));
             });
     }
 }

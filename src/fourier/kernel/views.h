@@ -1,33 +1,22 @@
-// How a pass sees its data: complex value number i and those behind it as one vector. The lanes
-// of all views stand in splitLane order, so that a pass never shuffles.
+// How a pass accesses its data: complex value number i and those after it as one vector. All views
+// keep their lanes in splitLane order, so that a pass never shuffles. Data may have any address.
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <type_traits>
 
 #include "frame/simd/split.h"
 
 namespace vlq::fft {
 
-// One complex value; the parts may lie at any address.
+// One complex value.
 template <class T>
 struct Value {
     T re;
     T im;
 };
-template <class T>
-[[gnu::always_inline]] inline T scalarAt(const T* p) {
-    T v;
-    std::memcpy(&v, p, sizeof v);
-    return v;
-}
-template <class T>
-[[gnu::always_inline]] inline void putScalar(T* p, T v) {
-    std::memcpy(p, &v, sizeof v);
-}
 
-// The caller's interleaved values; `exchanged` takes the parts of a value for one another.
+// The caller's interleaved values; `exchanged` swaps the real and imaginary part of each.
 template <class P, bool exchanged>
 struct Interleaved {
     using T = std::remove_const_t<P>;
@@ -43,17 +32,17 @@ struct Interleaved {
         storeSplit(p + 2 * i, exchanged ? Split<T, B>{v.im, v.re} : v);
     }
     [[gnu::always_inline]] Value<T> one(std::ptrdiff_t i) const {
-        return {scalarAt(p + 2 * i + exchanged), scalarAt(p + 2 * i + !exchanged)};
+        return {loadScalar(p + 2 * i + exchanged), loadScalar(p + 2 * i + !exchanged)};
     }
     [[gnu::always_inline]] void putOne(std::ptrdiff_t i, Value<T> v) const {
-        putScalar(p + 2 * i + exchanged, v.re);
-        putScalar(p + 2 * i + !exchanged, v.im);
+        storeScalar(p + 2 * i + exchanged, v.re);
+        storeScalar(p + 2 * i + !exchanged, v.im);
     }
 };
 
 // Between passes: a vector of real parts, then one of imaginary parts. `exchanged` as above, where
-// a transform's first pass reads what another has left like this. Opaque: each is loaded once,
-// where the compiler would load it again for each use and run out of loads a cycle.
+// the first pass of a transform reads what another one has left in blocks. Loaded vectors are
+// opaque: the compiler would load them again for each use and run out of load ports.
 template <class T, bool exchanged = false>
 struct Blocks {
     T* p;
@@ -87,15 +76,15 @@ struct Parts {
         store(im + i, fromSplitLanes(v.im));
     }
     [[gnu::always_inline]] Value<T> one(std::ptrdiff_t i) const {
-        return {scalarAt(re + i), scalarAt(im + i)};
+        return {loadScalar(re + i), loadScalar(im + i)};
     }
     [[gnu::always_inline]] void putOne(std::ptrdiff_t i, Value<T> v) const {
-        putScalar(re + i, v.re);
-        putScalar(im + i, v.im);
+        storeScalar(re + i, v.re);
+        storeScalar(im + i, v.im);
     }
 };
 
-// Between passes of the split form: two arrays, lanes as the passes have them.
+// Between passes of the split kinds: two arrays, in splitLane order.
 template <class T>
 struct Planes {
     T* re;

@@ -1,41 +1,40 @@
+// Sizes and tables of the complex transform.
 #include "fourier/plan/complex_plan.h"
 
 #include <algorithm>
 #include <bit>
 
 #include "fourier/plan/fft_passes.h"
-#include "fourier/plan/row_plan.h"
 #include "frame/simd/split.h"
 
 namespace vlq::fft {
 namespace {
 
-constexpr Vlq64s powerOfTwo(int exponent) { return Vlq64s{1} << exponent; }
-
-// The twiddles of the in-cache passes: one complex value an element, padded.
+// The twiddles of the in-cache passes: one for each complex value, padded.
 template <class T>
 constexpr Vlq64s passTableBytes(int order) {
     return roundDown(
-        static_cast<Vlq64s>(2 * sizeof(T)) * powerOfTwo(order) + (sizeof(T) == 4 ? 71 : 79), 64);
+        static_cast<Vlq64s>(2 * sizeof(T)) * pow2(order) + (sizeof(T) == 4 ? 71 : 79), 64);
 }
 template <class T>
 constexpr Vlq64s passWorkBytes(int order) {
-    return roundDown(static_cast<Vlq64s>(2 * sizeof(T)) * powerOfTwo(order) + 63, 64);
+    return roundDown(static_cast<Vlq64s>(2 * sizeof(T)) * pow2(order) + 63, 64);
 }
-// A quarter of N words and one, padded: the bit-reversal table.
-constexpr Vlq64s plainReversalBytes(int order) { return roundDown(powerOfTwo(order) + 67, 64); }
+// N / 4 + 1 32-bit indices, padded: the bit-reversal table.
+constexpr Vlq64s plainReversalBytes(int order) { return roundDown(pow2(order) + 67, 64); }
 
-// The reversal in tiles of 2^t by 2^t values: the tiles' words, then the swap list of one tile.
+// The bit reversal in tiles of 2^t by 2^t values: one index for each tile, then the swap list of a
+// tile.
 template <class T>
 constexpr Vlq64s tiledReversalBytes(int order) {
     constexpr int t = sizeof(T) == 4 ? 6 : 5;
-    return 4 * powerOfTwo(order - 2 * t) + 4 * powerOfTwo(2 * t - 2) + 64;
+    return 4 * pow2(order - 2 * t) + 4 * pow2(2 * t - 2) + 64;
 }
 
 template <class T>
 constexpr Vlq64s quarterWaveBytes(int order) {
     constexpr Vlq64s element = sizeof(T);
-    return roundDown(element * (powerOfTwo(order - 2) + 1) + 63, 64);
+    return roundDown(element * (pow2(order - 2) + 1) + 63, 64);
 }
 
 template <class T>
@@ -46,11 +45,12 @@ int splitLaneOf(int bytes, int lane) {
 }
 
 // The twiddles of every pass after the first, in the order in which the pass reads them: for each
-// vector of columns k the R - 1 factors of a radix-R pass, real parts and then imaginary parts.
+// vector of columns k the R - 1 factors of a radix-R pass, each as a vector of real parts and one of
+// imaginary parts.
 template <class T>
 T* buildPassTable(const PassPlan& plan, int order, const SineTable<T>& sine, Cursor& cursor) {
     const int lanes = plan.bytes / static_cast<int>(sizeof(T));
-    T* const table = cursor.take<T>(2 * (powerOfTwo(order) - plan.first), kTableAlignment);
+    T* const table = cursor.take<T>(2 * (pow2(order) - plan.first), kTableAlignment);
     T* next = table;
     int spanBits = std::countr_zero(static_cast<unsigned>(plan.first));
     auto append = [&](int unitBits, Vlq64s factor, Vlq64s column) {
@@ -65,7 +65,7 @@ T* buildPassTable(const PassPlan& plan, int order, const SineTable<T>& sine, Cur
     for (int pass = 0; pass < plan.count; ++pass) {
         const int radix = plan.radix[pass],
                   radixBits = std::countr_zero(static_cast<unsigned>(radix));
-        const Vlq64s span = powerOfTwo(spanBits);
+        const Vlq64s span = pow2(spanBits);
         for (Vlq64s k = 0; k < span; k += lanes) {
             if (radix == 16) {
                 for (int i = 1; i < 4; ++i) append(spanBits + 2, i, k);
@@ -81,13 +81,13 @@ T* buildPassTable(const PassPlan& plan, int order, const SineTable<T>& sine, Cur
     return table;
 }
 
-// Factors exp(-2 pi i j q / rows) between the steps of a column transform, [j][q] a step.
+// Factors exp(-2 pi i j q / rows) between the steps of a column transform, [j][q] for each step.
 template <class T>
 void buildColumnTable(int bits, const SineTable<T>& sine, T* next) {
     const ColumnPlan plan = columnPlan(bits);
     for (int step = 0; step + 1 < plan.count; ++step) {
         const int radix = plan.radix[step];
-        for (Vlq64s j = 0; j < powerOfTwo(bits) / radix; ++j) {
+        for (Vlq64s j = 0; j < pow2(bits) / radix; ++j) {
             for (int q = 0; q < radix; ++q, next += 2) {
                 const Twiddle<T> w = twiddle(sine, bits, j * q);
                 next[0] = w.re;
@@ -98,12 +98,12 @@ void buildColumnTable(int bits, const SineTable<T>& sine, T* next) {
     }
 }
 
-// Twiddles of a phase of 2^rowBits rows and 2^columnBits columns: for the columns of a tile, in
-// vectors, then one for each tile; see PhaseTwiddles.
+// Twiddles of a phase of 2^rowBits rows and 2^columnBits columns: vectors for the columns of a tile,
+// then one factor for each row of each tile; see PhaseTwiddles.
 template <class T>
 T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor& cursor) {
     constexpr int columns = kTileColumns<T>, lanes = Vec<T>::lanes;
-    const Vlq64s rows = powerOfTwo(rowBits), tiles = powerOfTwo(columnBits) / columns;
+    const Vlq64s rows = pow2(rowBits), tiles = pow2(columnBits) / columns;
     const int order = rowBits + columnBits;
     T* const table = cursor.take<T>(2 * rows * (columns + tiles), kTableAlignment);
     T* next = table;
@@ -127,11 +127,11 @@ T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor
     return table;
 }
 
-// For each vector of columns of 16 rows, 2^order values in all: powers 4, 8, 12 and 1, 2, 3.
+// Powers 4, 8, 12 and 1, 2, 3 of exp(-2 pi i k / 2^order), for each vector of columns k of 16 rows.
 template <class T>
 T* buildJoinTable(int order, const SineTable<T>& sine, Cursor& cursor) {
     constexpr int lanes = Vec<T>::lanes;
-    const Vlq64s length = powerOfTwo(order - 4);
+    const Vlq64s length = pow2(order - 4);
     T* const table = cursor.take<T>(12 * length, kTableAlignment);
     T* next = table;
     for (Vlq64s k = 0; k < length; k += lanes) {
@@ -149,15 +149,14 @@ T* buildJoinTable(int order, const SineTable<T>& sine, Cursor& cursor) {
 }
 
 template <class T>
-void buildLargeTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
-                      Cursor& cursor) {
+void buildLargeTables(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cursor& cursor) {
     if (order <= kLastSplitTwice<T>) {
         const int splits = order <= kLastSplitOnce<T> ? 1 : 2, rowOrder = order - 4 * splits;
-        record.twiddleTable = buildPassTable(rowPlan(rowOrder, 4 * splits), rowOrder, sine, cursor);
-        record.outerTwiddle[0] = buildJoinTable(order, sine, cursor);
+        spec.twiddleTable = buildPassTable(rowPlan(rowOrder, 4 * splits), rowOrder, sine, cursor);
+        spec.outerTwiddle[0] = buildJoinTable(order, sine, cursor);
         if (splits == 2) {
-            record.outerTwiddle[1] = buildJoinTable(order - 4, sine, cursor);
-            record.outerTwiddle[2] = buildJoinTable(8, sine, cursor);
+            spec.outerTwiddle[1] = buildJoinTable(order - 4, sine, cursor);
+            spec.outerTwiddle[2] = buildJoinTable(8, sine, cursor);
         }
         return;
     }
@@ -166,13 +165,13 @@ void buildLargeTables(FloatingRecord<T>& record, int order, const SineTable<T>& 
         2 * (columnTwiddles(plan.outer) + columnTwiddles(plan.middle)), kTableAlignment);
     buildColumnTable(plan.outer, sine, factors);
     buildColumnTable(plan.middle, sine, factors + 2 * columnTwiddles(plan.outer));
-    record.twiddleTable = factors;
-    record.outerTwiddle[0] = buildPhaseTable(plan.outer, order - plan.outer, sine, cursor);
-    record.outerTwiddle[1] = buildPhaseTable(plan.middle, plan.outer, sine, cursor);
+    spec.twiddleTable = factors;
+    spec.outerTwiddle[0] = buildPhaseTable(plan.outer, order - plan.outer, sine, cursor);
+    spec.outerTwiddle[1] = buildPhaseTable(plan.middle, plan.outer, sine, cursor);
 }
 
-// The size rule of the large orders is that of a decomposition into rows and outer radix-4 stages,
-// level by level, with the tables of a bit reversal. The phases need less.
+// The sizes of the large orders are fixed: those of a decomposition into rows and outer radix-4
+// stages, level by level, with the tables of a bit reversal. What is built here needs less.
 struct Level {
     int outerBits;
     int tileBits;
@@ -193,7 +192,7 @@ constexpr Level levelOf(int order) {
     }
 }
 
-// Tables and work of a large order, without the record and the slack.
+// Tables and work buffer of a large order, without the spec itself and the slack of alignment.
 template <class T>
 PlanSizes largeSizes(int order) {
     constexpr Vlq64s value = 2 * sizeof(T);
@@ -203,8 +202,8 @@ PlanSizes largeSizes(int order) {
     int level = order;
     while (level > ComplexLimits<T>::inCache) {
         const Level step = levelOf<T>(level);
-        sizes.spec += value * powerOfTwo(level - 1);
-        sizes.work = std::max(sizes.work, value * powerOfTwo(step.outerBits + step.tileBits));
+        sizes.spec += value * pow2(level - 1);
+        sizes.work = std::max(sizes.work, value * pow2(step.outerBits + step.tileBits));
         level -= step.outerBits;
     }
     sizes.spec += passTableBytes<T>(level);
@@ -229,23 +228,22 @@ PlanSizes complexSizes(int order) {
 }
 
 template <class T>
-void buildComplexTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
-                        Cursor& cursor) {
+void buildComplexTables(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cursor& cursor) {
     using Limits = ComplexLimits<T>;
-    record.workBytes = 0;
+    spec.workBytes = 0;
     if (order <= Limits::straightLine) return;
-    record.workBytes = static_cast<Vlq32s>(complexSizes<T>(order).work - 64);
+    spec.workBytes = static_cast<Vlq32s>(complexSizes<T>(order).work - 64);
     if (order > Limits::inCache)
-        buildLargeTables<T>(record, order, sine, cursor);
+        buildLargeTables<T>(spec, order, sine, cursor);
     else
-        record.twiddleTable = buildPassTable<T>(passPlan<T>(order), order, sine, cursor);
+        spec.twiddleTable = buildPassTable<T>(passPlan<T>(order), order, sine, cursor);
 }
 
 template PlanSizes complexSizes<Vlq32f>(int);
 template PlanSizes complexSizes<Vlq64f>(int);
-template void buildComplexTables<Vlq32f>(FloatingRecord<Vlq32f>&, int, const SineTable<Vlq32f>&,
+template void buildComplexTables<Vlq32f>(FloatSpec<Vlq32f>&, int, const SineTable<Vlq32f>&,
                                          Cursor&);
-template void buildComplexTables<Vlq64f>(FloatingRecord<Vlq64f>&, int, const SineTable<Vlq64f>&,
+template void buildComplexTables<Vlq64f>(FloatSpec<Vlq64f>&, int, const SineTable<Vlq64f>&,
                                          Cursor&);
 
 }  // namespace vlq::fft

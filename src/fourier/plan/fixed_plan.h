@@ -1,40 +1,40 @@
-// Records of the fixed-point transforms: a header, and behind it the record of the floating
-// transform that does the work.
+// Specs of the fixed-point transforms: a header, followed by the spec of the floating transform that
+// does the work.
 #pragma once
-
-#include <new>
 
 #include "fourier/plan/lifecycle.h"
 
 namespace vlq::fft {
 
-// 16-bit samples. Orders 0 to 3 may run in integers and then have no floating record.
+// 16-bit samples. Orders 0 to 3 may run in integers and then have no floating spec.
 template <class Inner>
-struct FixedRecord16 {
-    Vlq32s ident;
+struct FixedSpec16 {
+    static constexpr std::size_t kAlignment = kTableAlignment;
+    Vlq32u tag;
     Vlq32s order;
-    Vlq32s fwdShift;  // what normalisation shifts right in integers
+    Vlq32s fwdShift;  // normalization of the integer path: shift to the right ...
     Vlq32s invShift;
-    Vlq32s halfStep;  // and whether it multiplies by 1/sqrt(2) besides
+    Vlq32s halfStep;  // ... and 1 when it also multiplies by 1/sqrt(2)
     Vlq32s hint;
     Vlq32s workBytes;
-    Vlq32s useFloat;  // runs on floatRecord
+    Vlq32s useFloat;  // runs on floatSpec
     Vlq32s owned;
-    RelPtr<Vlq32s> bitRevTable;  // of the integer path, whose constants stand in its code: null
+    RelPtr<Vlq32s> bitRevTable;  // null: the constants of the integer path are in its code
     RelPtr<Vlq16s> twiddleTable;
     RelPtr<Vlq16s> realTwiddle;
-    RelPtr<Inner> floatRecord;
+    RelPtr<Inner> floatSpec;
 };
 
-// 32-bit results: always in floating point, which also normalises.
+// 32-bit spectra: always in floating point, which also normalizes.
 template <class Inner>
-struct FixedRecord32 {
-    Vlq32s ident;
+struct FixedSpec32 {
+    static constexpr std::size_t kAlignment = kTableAlignment;
+    Vlq32u tag;
     Vlq32s order;
     Vlq32s hint;
     Vlq32s workBytes;
     Vlq32s owned;
-    RelPtr<Inner> floatRecord;
+    RelPtr<Inner> floatSpec;
 };
 
 // The integer path of the 16-bit kinds.
@@ -45,9 +45,9 @@ constexpr bool runsInIntegers(int order, VlqHint hint) {
 
 inline constexpr Vlq64s kFixedHeader = 128;  // a header and its alignment
 
-// A fixed-point Kind gives its Spec, ident, Float with the calls of the floating kind, dataBytes()
-// of the floating values in the work buffer, is16; a 16-bit one also integerWork(). Sizes that do
-// not fit, at the largest orders, wrap.
+// A fixed-point Kind names its Spec, is16, Float with the calls of the floating kind, and
+// dataBytes(), the size of the floating values in the work buffer; a 16-bit one also integerWork().
+// Sizes that do not fit 32 bits, at the largest orders, wrap.
 template <class Kind>
 VlqStatus fixedGetSize(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specBytes,
                        Vlq32s* initBytes, Vlq32s* workBytes) {
@@ -63,7 +63,7 @@ VlqStatus fixedGetSize(Vlq32s order, Vlq32s flag, VlqHint hint, Vlq32s* specByte
         if (order == 0) {
             sizes = {116, 0, 0};
         } else if (runsInIntegers(order, hint)) {
-            // What tables of twiddles and of a bit reversal for eight values would take.
+            // Sized for tables of twiddles and of a bit reversal, which it does not need.
             sizes = {64 * (Kind::isReal ? 3 : 2) + kFixedHeader, 128,
                      Kind::integerWork(order) + 64};
         }
@@ -94,36 +94,44 @@ VlqStatus fixedInit(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, Vl
     if (!outSpec) return vlqStsNullPtr;
     if (order < 0 || order > Kind::largestOrder) return vlqStsBadOrder;
     if (!specMem) return vlqStsNullPtr;
-    Spec* const spec = ::new (alignUp(specMem, kTableAlignment)) Spec{};
-    spec->hint = hint;
-    spec->order = order;
-    if (!isNormalisation(flag)) return vlqStsBadFlag;
-    bool useFloat = true;
-    if constexpr (Kind::is16) {
-        setShifts(*spec, order, flag);
-        useFloat = !runsInIntegers(order, hint);
-        spec->useFloat = useFloat;
-        if (!useFloat && order > 0) spec->workBytes = static_cast<Vlq32s>(Kind::integerWork(order));
-    }
-    if (useFloat) {
+    auto build = [&](Spec& spec, Cursor& cursor) -> VlqStatus {
+        spec.hint = hint;
+        spec.order = order;
+        if (!isNormalization(flag)) return vlqStsBadFlag;
+        if constexpr (Kind::is16) {
+            setShifts(spec, order, flag);
+            spec.useFloat = !runsInIntegers(order, hint);
+            if (!spec.useFloat) {
+                if (order > 0) spec.workBytes = static_cast<Vlq32s>(Kind::integerWork(order));
+                return vlqStsOk;
+            }
+        }
         typename Float::Spec* inner = nullptr;
-        Vlq8u* const rest = alignUp(reinterpret_cast<Vlq8u*>(spec + 1), kTableAlignment);
+        Vlq8u* const rest = cursor.take<Vlq8u>(0, kTableAlignment);
         VlqStatus status = Float::init(&inner, order, flag, vlqHintNone, rest, initBuf);
         Vlq32s bytes = 0;
         if (status == vlqStsOk) status = Float::getBufSize(inner, &bytes);
         if (status != vlqStsOk) return status;
         const Vlq64s innerWork = bytes > 0 ? bytes - 64 : 0;
-        spec->workBytes = static_cast<Vlq32s>(innerWork + Kind::dataBytes(order));
-        spec->floatRecord = inner;
-    }
-    spec->ident = Kind::ident;
-    *outSpec = spec;
-    return vlqStsOk;
+        spec.workBytes = static_cast<Vlq32s>(innerWork + Kind::dataBytes(order));
+        spec.floatSpec = inner;
+        return vlqStsOk;
+    };
+    Vlq32s specBytes = 0, initBytes = 0, workBytes = 0;
+    fixedGetSize<Kind>(order, vlqNormNone, hint, &specBytes, &initBytes, &workBytes);
+    return initState(outSpec, kTag<Spec>, specMem, specBytes, build);
 }
 
 template <class Kind>
 VlqStatus fixedInitAlloc(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
-    return allocateAndInit(outSpec, order, flag, hint, fixedGetSize<Kind>, fixedInit<Kind>);
+    if (!outSpec) return vlqStsNullPtr;
+    Vlq32s specBytes, initBytes, workBytes;
+    const VlqStatus status =
+        fixedGetSize<Kind>(order, flag, hint, &specBytes, &initBytes, &workBytes);
+    if (status != vlqStsOk) return status;
+    return initAllocState(outSpec, specBytes, initBytes, [&](Vlq8u* specMem, Vlq8u* initBuf) {
+        return fixedInit<Kind>(outSpec, order, flag, hint, specMem, initBuf);
+    });
 }
 
 }  // namespace vlq::fft

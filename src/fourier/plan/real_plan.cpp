@@ -1,13 +1,14 @@
+// Sizes and tables of the real transform.
 #include "fourier/plan/real_plan.h"
 
 #include "fourier/plan/complex_plan.h"
+#include "frame/simd/split.h"
 
 namespace vlq::fft {
 namespace {
 
-constexpr Vlq64s powerOfTwo(int exponent) { return Vlq64s{1} << exponent; }
-
-// factor(k, cosine, sine) sets the two parts of factor k = first to first + count - 1.
+// Fills groups of B bytes a part; factor(k, cosine, sine) sets both parts of factor k, for k from
+// `first` to first + count - 1.
 template <int B, class T, class Factor>
 void fillGroups(T* table, Vlq64s first, Vlq64s count, Factor factor) {
     constexpr int lanes = B / static_cast<int>(sizeof(T));
@@ -30,25 +31,24 @@ PlanSizes realSizes(int order) {
     sizes.spec = 0;
     if (order >= Limits::complexTables) sizes = complexSizes<T>(order - 1);
     const Vlq64s factors = order < Limits::twoLevel
-                               ? element * powerOfTwo(order) + 126
-                               : element * powerOfTwo(order - Limits::fineOrder) + 16510;
+                               ? element * pow2(order) + 126
+                               : element * pow2(order - Limits::fineOrder) + 16510;
     sizes.spec += roundDown(factors, 128) + 192;
     if (order > kConstantSineOrder) {
-        const Vlq64s quarterWave = element * (powerOfTwo(order - 2) + 1);
+        const Vlq64s quarterWave = element * (pow2(order - 2) + 1);
         sizes.init += roundUp(quarterWave, 64) + 64;
     }
     return sizes;
 }
 
 template <class T>
-void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& sine,
-                     Cursor& cursor) {
+void buildRealTables(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cursor& cursor) {
     using Limits = RealLimits<T>;
-    record.workBytes = 0;
+    spec.workBytes = 0;
     if (order <= Limits::straightLine) return;
-    if (order >= Limits::complexTables) buildComplexTables(record, order - 1, sine, cursor);
+    if (order >= Limits::complexTables) buildComplexTables(spec, order - 1, sine, cursor);
 
-    const Vlq64s quarter = powerOfTwo(order - 2);
+    const Vlq64s quarter = pow2(order - 2);
     const int stride = sine.order - order;
     auto sinOf = [&](Vlq64s k) { return sine.values[k << stride]; };
     auto cosOf = [&](Vlq64s k) { return sine.values[(quarter - k) << stride]; };
@@ -71,13 +71,13 @@ void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& s
             fillGroups<kVecBytes>(forward, 1, quarter, forwardFactor);
             fillGroups<kVecBytes>(inverse, 1, quarter, plainFactor);
         }
-        record.realTwiddleFwd = forward;
-        record.realTwiddleInv = inverse;
+        spec.realTwiddleFwd = forward;
+        spec.realTwiddleInv = inverse;
         return;
     }
 
-    // Fine factors in groups, then the coarse ones, interleaved.
-    constexpr Vlq64s fine = powerOfTwo(Limits::fineOrder);
+    // The fine factors in groups, then the coarse ones, interleaved.
+    constexpr Vlq64s fine = pow2(Limits::fineOrder);
     const Vlq64s coarse = quarter / fine;
     auto build = [&] {
         T* table = cursor.take<T>(2 * (fine + coarse), kTableAlignment);
@@ -86,15 +86,13 @@ void buildRealTables(FloatingRecord<T>& record, int order, const SineTable<T>& s
             plainFactor(fine * b, table[2 * (fine + b)], table[2 * (fine + b) + 1]);
         return table;
     };
-    record.realTwiddleFwd = build();
-    record.realTwiddleInv = build();
+    spec.realTwiddleFwd = build();
+    spec.realTwiddleInv = build();
 }
 
 template PlanSizes realSizes<Vlq32f>(int);
 template PlanSizes realSizes<Vlq64f>(int);
-template void buildRealTables<Vlq32f>(FloatingRecord<Vlq32f>&, int, const SineTable<Vlq32f>&,
-                                      Cursor&);
-template void buildRealTables<Vlq64f>(FloatingRecord<Vlq64f>&, int, const SineTable<Vlq64f>&,
-                                      Cursor&);
+template void buildRealTables<Vlq32f>(FloatSpec<Vlq32f>&, int, const SineTable<Vlq32f>&, Cursor&);
+template void buildRealTables<Vlq64f>(FloatSpec<Vlq64f>&, int, const SineTable<Vlq64f>&, Cursor&);
 
 }  // namespace vlq::fft

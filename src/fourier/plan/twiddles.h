@@ -1,21 +1,21 @@
-// The quarter wave that every twiddle is read from.
+// Twiddle factors, all read from one table of a quarter wave of the sine.
 #pragma once
 
 #include "vlqs/types.h"
 
 namespace vlq::fft {
 
-inline constexpr int kConstantSineOrder = 10;  // up to here the table is the library's
+inline constexpr int kConstantSineOrder = 10;  // up to this order the table is constant data
 
-// values[i << (order - p)] = sin(2 pi i / 2^p) for p up to `order` and i in 0 to 2^p / 4.
+// values[i << (order - p)] = sin(2 pi i / 2^p) for p up to `order` and 0 <= i <= 2^p / 4.
 template <class T>
 struct SineTable {
     const T* values;
     int order;  // values has 2^order / 4 + 1 entries
 };
 
-// The table for transforms of `order`: the library's constant one of order 10 up to there, above
-// it one of its own order, computed in double precision into `scratch`.
+// The table for transforms of `order`: the constant one of order kConstantSineOrder up to there,
+// above it one of the transform's own order, computed in double precision into `scratch`.
 template <class T>
 SineTable<T> sineTable(int order, T* scratch);
 
@@ -25,8 +25,8 @@ struct Twiddle {
     T im;
 };
 
-// exp(-2 pi i k / 2^order) for 0 <= k < 2^order, folded into the quarter wave: no arithmetic but
-// signs, so that values a quarter turn apart agree to the bit.
+// exp(-2 pi i k / 2^order) for 0 <= k < 2^order, folded into the quarter wave: only signs change,
+// so factors a quarter turn apart agree to the bit.
 template <class T>
 inline Twiddle<T> twiddle(const SineTable<T>& sine, int order, Vlq64s k) {
     const Vlq64s quarter = Vlq64s{1} << (sine.order - 2);

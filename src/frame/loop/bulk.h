@@ -1,7 +1,7 @@
 // Bulk movement of bytes: copy, move and fill. By length: a few overlapping loads and stores, with
 // everything read before anything is written; a loop over an aligned destination; the string
-// instructions; and non-temporal stores for what would sweep the cache. The lengths between them
-// (tuning.h) decide how data travels, never what is stored.
+// instructions; and for what would sweep the cache, stores past it. The limits between them were
+// measured; they decide how data travels, never what is stored.
 #pragma once
 
 #include <cwchar>
@@ -24,22 +24,21 @@ namespace detail {
 template <int B>
 using Bytes = Vec<Byte, B>;
 
-// Source and destination of a copy, together half as large again as the cache.
-inline bool copySweepsCache(std::size_t n) {
-    if (n < kAskFrom) return false;
-    const std::size_t cache = cacheBytes();
-    return cache != 0 && n >= cache / 4 * 3;
-}
-inline bool fillSweepsCache(std::size_t n) {
-    if (n < kAskFrom) return false;
-    const std::size_t cache = cacheBytes();
-    return cache != 0 && n >= cache / 2 * 3;
-}
-
 // Bytes from p to the next boundary of `Boundary` bytes, 1 to Boundary.
 template <std::size_t Boundary>
 inline std::size_t toNextBoundary(const Byte* p) {
     return Boundary - reinterpret_cast<std::uintptr_t>(p) % Boundary;
+}
+
+template <class Word>
+inline Word loadWord(const Byte* p) {
+    Word w;
+    std::memcpy(&w, p, sizeof(Word));
+    return w;
+}
+template <class Word>
+inline void storeWord(Byte* p, Word w) {
+    std::memcpy(p, &w, sizeof(Word));
 }
 
 // ---- copy ---------------------------------------------------------------------------------------
@@ -47,9 +46,9 @@ inline std::size_t toNextBoundary(const Byte* p) {
 // n from sizeof(Word) to twice that: two words that may overlap.
 template <class Word>
 inline void copyTwoWords(Byte* dst, const Byte* src, std::size_t n) {
-    const Word first = loadScalar<Word>(src), last = loadScalar<Word>(src + n - sizeof(Word));
-    storeScalar<Word>(dst, first);
-    storeScalar<Word>(dst + n - sizeof(Word), last);
+    const Word first = loadWord<Word>(src), last = loadWord<Word>(src + n - sizeof(Word));
+    storeWord(dst, first);
+    storeWord(dst + n - sizeof(Word), last);
 }
 
 // n from N * B to 2 * N * B: N vectors from either end, N being 1, 2 or 4. Each by name: from
@@ -195,7 +194,7 @@ inline void copyLong(Byte* dst, const Byte* src, std::size_t n) {
         std::memcpy(dst, src, n);
     } else if (n < kCopyByWords) {
         copyUpwards(dst, src, n);
-    } else if (copySweepsCache(n)) {
+    } else if (exceedsCache(2 * n)) {
         copyStreaming(dst, src, n);
     } else {
         copyByWords(dst, src, n);
@@ -245,8 +244,8 @@ template <int B, int N>
 template <class Word>
 inline void fillTwoWords(Byte* dst, std::size_t n, std::uint64_t pattern) {
     const Word w = static_cast<Word>(pattern);
-    storeScalar<Word>(dst, w);
-    storeScalar<Word>(dst + n - sizeof(Word), w);
+    storeWord(dst, w);
+    storeWord(dst + n - sizeof(Word), w);
 }
 
 }  // namespace detail
@@ -313,7 +312,7 @@ inline void fillLong(Byte* dst, std::size_t n, Vec<Byte> pattern) {
         const std::size_t words = static_cast<std::size_t>(end - start) / 8;
         fillWords(start, firstWord(pattern), words);
         store(end - B, pattern);
-    } else if (Period > 8 && fillSweepsCache(n)) {
+    } else if (Period > 8 && exceedsCache(n)) {
         fillVectors(start, end, pattern, kPastCache);
         streamFence();
     } else {

@@ -4,12 +4,10 @@
 // one of the sources. Nothing outside the vectors is touched.
 #pragma once
 
+#include "frame/simd/cache.h"
 #include "frame/simd/tuning.h"
 
 namespace vlq {
-
-// Streaming stores go past the cache; dst then stands on a boundary of its group.
-enum class Stores { Ordinary, Streaming };
 
 namespace detail {
 
@@ -52,14 +50,13 @@ inline Block<T, N> markUnused(Block<T, N> block, int count) {
     return block;
 }
 
-template <Stores stores, class T, int N>
+template <class T, int N>
 inline void storeBlock(T* p, const Block<T, N>& block) {
-    for (int i = 0; i < N; ++i) {
-        if constexpr (stores == Stores::Streaming)
-            stream(p + i * Vec<T>::lanes, block.part[i]);
-        else
-            store(p + i * Vec<T>::lanes, block.part[i]);
-    }
+    for (int i = 0; i < N; ++i) store(p + i * Vec<T>::lanes, block.part[i]);
+}
+template <class T, int N>
+inline void streamBlock(T* p, const Block<T, N>& block) {
+    for (int i = 0; i < N; ++i) stream(p + i * Vec<T>::lanes, block.part[i]);
 }
 template <class T, int N>
 inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
@@ -69,14 +66,41 @@ inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
     }
 }
 
+// Whether the results had better bypass the cache: the vectors exceed it together, and dst is none
+// of the sources, whose cache lines would be there already. dst must be on a vector boundary.
+template <class D, class... S>
+inline bool bypassesCache(const D* dst, std::ptrdiff_t len, const S*... src) {
+    const auto isSource = [dst](const void* p) { return p == dst; };
+    return exceedsCache(static_cast<std::size_t>(len) * (sizeof(D) + ... + sizeof(S))) &&
+           reinterpret_cast<std::uintptr_t>(dst) % kVecBytes == 0 && !(isSource(src) || ...);
+}
+
+// The whole blocks of dst[i] = op(src[i]...) by non-temporal stores; returns how many elements that
+// are. A function of its own, which leaves the registers of the usual loop alone; no vectors are
+// among its arguments, lest it return with the upper halves of the registers in use.
+template <int count, class D, class Op, class... S>
+[[gnu::noinline]] std::ptrdiff_t streamBlocks(D* dst, std::ptrdiff_t len, const Op& op,
+                                              const S*... src) {
+    const Op hot = op;
+    std::ptrdiff_t i = 0;
+    for (; len - i >= count; i += count)
+        streamBlock(dst + i, hot(loadBlock<S, count / Vec<S>::lanes>(src + i)...));
+    streamFence();
+    return i;
+}
+
 }  // namespace detail
 
+// Whether an operation asks for all bits set in the unused lanes of a partial block, instead of 0.
+template <class Op>
+inline constexpr bool marksUnused = requires {
+    requires Op::kMarkUnused;
+};
+
 // op takes one Block a source and gives a Block of D; a block is one vector of the narrowest type.
-// The lanes that a partial block does not use are 0; all their bits are set for an op that says so
-// by kMarkUnused.
 // Elements that belong together, as the two parts of a complex value, are a group: len counts
 // whole groups' elements and no group is split over two vectors.
-template <int group = 1, Stores stores = Stores::Ordinary, class D, class Op, class... S>
+template <int group = 1, class D, class Op, class... S>
 inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     constexpr int count = kVecBytes / detail::kNarrowest<D, S...>;
     constexpr int dstParts = count / Vec<D>::lanes;
@@ -84,7 +108,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     auto partial = [&](int n) {
         const auto read = [&]<class T>(const T* p) {
             const auto block = detail::loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
-            if constexpr (requires { Op::kMarkUnused; })
+            if constexpr (marksUnused<Op>)
                 return detail::markUnused(block, n);
             else
                 return block;
@@ -108,29 +132,29 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     // own, whose constants then stay in registers; captures by value keep them reachable.
     const Op hot = op;
     constexpr int unroll = kMapUnroll;
-    while (len >= unroll * count) {
+    if (detail::bypassesCache(dst, len, src...)) [[unlikely]]
+        advance(detail::streamBlocks<count>(dst, len, op, src...));
+    for (D* const end = dst + len / (unroll * count) * (unroll * count); dst != end;
+         advance(unroll * count)) {
 #pragma GCC unroll 4
         for (int u = 0; u < unroll; ++u) {
             const auto result =
                 hot(detail::loadBlock<S, count / Vec<S>::lanes>(src + u * count)...);
-            detail::storeBlock<stores, D, dstParts>(dst + u * count, result);
+            detail::storeBlock(dst + u * count, result);
         }
-        advance(unroll * count);
     }
-    if constexpr (stores == Stores::Streaming) streamFence();
     while (len >= count) {
-        detail::storeBlock<Stores::Ordinary, D, dstParts>(
-            dst, hot(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
+        detail::storeBlock(dst, hot(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
         advance(count);
     }
     if (len > 0) partial(static_cast<int>(len));
 }
 
 // All types of one size: op takes and gives plain vectors.
-template <int group = 1, Stores stores = Stores::Ordinary, class D, class Op, class... S>
+template <int group = 1, class D, class Op, class... S>
 inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     static_assert(((sizeof(S) == sizeof(D)) && ...));
-    mapBlocks<group, stores>(
+    mapBlocks<group>(
         dst, len, [op](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; },
         src...);
 }

@@ -13,7 +13,7 @@ inline void mapFromPacked24(D* dst, const std::uint8_t* src, std::ptrdiff_t len,
     static_assert(sizeof(D) == 4);
     constexpr int count = kPacked24Count;
     while (len >= count) {
-        detail::storeBlock<Stores::Ordinary, D, 2>(dst, op(unpack24<kSigned>(src)));
+        detail::storeBlock(dst, op(unpack24<kSigned>(src)));
         dst += count;
         src += 3 * count;
         len -= count;

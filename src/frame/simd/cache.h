@@ -1,35 +1,32 @@
-// The size of the processor's cache.
+// The size of the cache, and from which amount of data on stores should bypass it.
 #pragma once
 
-#include <cpuid.h>
+#include <unistd.h>
 
 #include <cstddef>
 
 namespace vlq {
 
-// Bytes of the last-level cache, 0 where the processor does not report it. Executes CPUID at each
-// call and caches nothing: under a hypervisor that takes a microsecond or two each time.
+// Bytes that one thread can expect to keep in the last-level cache. The C library asked the
+// processor when it was loaded, so this costs a few nanoseconds. Server processors and hypervisors
+// report the caches of all cores together, of which a core fills only the slice nearest to it:
+// hence the limit. It also stands in where nothing is reported.
 inline std::size_t cacheBytes() {
-    unsigned a, b, c, d;
-    __cpuid(0, a, b, c, d);
-    // The deterministic cache parameters: one layout, at a leaf number of each vendor's own. A
-    // processor without them returns zeros: no cache of that index.
-    unsigned leaf = 0;
-    if (b == signature_INTEL_ebx && c == signature_INTEL_ecx && d == signature_INTEL_edx && a >= 4)
-        leaf = 4;
-    if (b == signature_AMD_ebx && c == signature_AMD_ecx && d == signature_AMD_edx)
-        leaf = 0x8000001Du;
-    if (leaf == 0) return 0;
-    // Index 3 is the third level, 2 the second.
-    for (unsigned index = 3; index >= 2; --index) {
-        __cpuid_count(leaf, index, a, b, c, d);
-        const unsigned kind = a & 31;
-        if (kind == 0) continue;
-        const std::size_t ways = (b >> 22) + 1, partitions = ((b >> 12) & 0x3FF) + 1,
-                          line = (b & 0xFFF) + 1;
-        return ways * partitions * line * (std::size_t{c} + 1);
-    }
-    return 0;
+    constexpr long limit = 32L << 20;
+    long bytes = 0;
+#if defined(_SC_LEVEL3_CACHE_SIZE)
+    bytes = sysconf(_SC_LEVEL3_CACHE_SIZE);
+    if (bytes <= 0) bytes = sysconf(_SC_LEVEL2_CACHE_SIZE);
+#endif
+    return static_cast<std::size_t>(bytes <= 0 || bytes > limit ? limit : bytes);
+}
+
+// Whether a call that touches `bytes` bytes, sources and destination together, leaves nothing of
+// its result in the cache. Non-temporal stores win from here on, whoever uses the result next;
+// below, the next reader would have to fetch from memory what ordinary stores leave in the cache.
+inline bool exceedsCache(std::size_t bytes) {
+    constexpr std::size_t askFrom = std::size_t{1} << 20;
+    return bytes >= askFrom && bytes >= cacheBytes() / 2 * 3;
 }
 
 }  // namespace vlq

@@ -6,7 +6,7 @@
 namespace vlq {
 
 // realParts (re, re), imaginaryParts (im, im), swapParts (im, re) of each value;
-// subtractAdd: a - b in the even lanes, a + b in the odd.
+// subtractAdd: a - b in the even lanes, a + b in the odd; addSubtract the other way round.
 #if VLQ_SIMD_BYTES == 16
 inline Vec<float> realParts(Vec<float> v) { return Vec<float>(_mm_shuffle_ps(v.raw, v.raw, 0xA0)); }
 inline Vec<float> imaginaryParts(Vec<float> v) {
@@ -56,6 +56,11 @@ inline Vec<double> subtractAdd(Vec<double> a, Vec<double> b) {
     return Vec<double>(_mm512_fmaddsub_pd(a.raw, _mm512_set1_pd(1.0), b.raw));
 }
 #endif
+
+template <class T>
+inline Vec<T> addSubtract(Vec<T> a, Vec<T> b) {
+    return subtractAdd(a, -b);
+}
 
 // One value in all pairs of lanes.
 template <class T>

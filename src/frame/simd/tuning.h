@@ -31,7 +31,5 @@ inline constexpr std::size_t kLibraryCopiesBelow = kVecBytes == 64 ? 0 : 4096;
 inline constexpr std::size_t kCopyByWords = kVecBytes == 16 ? 4096 : 24 << 10;
 // The same for a fill, which has the first and second caches to itself.
 inline constexpr std::size_t kFillByWords = kVecBytes == 16 ? 6 << 10 : 1 << 20;
-// From here on the processor is asked for its cache, which may take microseconds.
-inline constexpr std::size_t kAskFrom = std::size_t{8} << 20;
 
 }  // namespace vlq

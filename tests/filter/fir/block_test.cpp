@@ -1,5 +1,4 @@
 // Blocks through FIR filters: both paths, any cut of a stream, in place, threads.
-#include <dlfcn.h>
 #include <linux/seccomp.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
@@ -419,51 +418,6 @@ TEST_F(FirBlock, ResultsDoNotDependOnTheTeam) {
             if (HasFailure()) return;
         }
     }
-}
-
-// A function of the OpenMP runtime that the library runs on, whichever that is.
-template <class Function>
-Function* ompFunction(const char* name) {
-    void* address = dlsym(RTLD_DEFAULT, name);
-    EXPECT_NE(nullptr, address) << name;
-    return reinterpret_cast<Function*>(address);
-}
-
-// With no level of regions left the runtime refuses to fork.
-TEST_F(FirBlock, RuntimeThatRefusesToFork) {
-    const auto getLevels = ompFunction<int()>("omp_get_max_active_levels");
-    const auto setLevels = ompFunction<void(int)>("omp_set_max_active_levels");
-    ASSERT_TRUE(getLevels && setLevels);
-    const int levels = getLevels();
-    for (const int len : {20, 64}) {
-        const auto taps = uniformVector<float>(count(len), -1, 1, rng);
-        const auto src = uniformVector<float>(20000, -1, 1, rng);
-        std::vector<float> want(src.size()), dst(src.size());
-        ASSERT_EQ(vlqStsOk, Plain(taps).run(src.data(), want.data(), 20000));
-        Core::setThreads(3);
-        Plain filter(taps);
-        setLevels(0);
-        ASSERT_EQ(vlqStsOk, filter.run(src.data(), dst.data(), 20000));
-        setLevels(levels);
-        expectSameBits(want, dst, "no fork");
-        Core::setThreads(1);
-    }
-}
-
-// Teams smaller than asked for: the record has room for more threads than the runtime gives.
-TEST_F(FirBlock, TeamSmallerThanAskedFor) {
-    const auto taps = uniformVector<float>(100, -1, 1, rng);
-    const auto src = uniformVector<float>(50000, -1, 1, rng);
-    std::vector<float> want(src.size()), dst(src.size());
-    ASSERT_EQ(vlqStsOk, Plain(taps).run(src.data(), want.data(), 50000));
-    Core::setThreads(7);
-    Plain filter(taps);
-    const auto setDynamic = ompFunction<void(int)>("omp_set_dynamic");
-    ASSERT_TRUE(setDynamic);
-    setDynamic(1);  // now no more threads than processors
-    ASSERT_EQ(vlqStsOk, filter.run(src.data(), dst.data(), 50000));
-    setDynamic(0);
-    expectSameBits(want, dst, "dynamic team");
 }
 
 // ---- neither memory nor system calls ------------------------------------------------------------

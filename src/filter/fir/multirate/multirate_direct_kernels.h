@@ -4,7 +4,7 @@
 #pragma once
 
 #include "filter/common/element.h"
-#include "filter/fir/time_domain_kernels.h"
+#include "frame/simd/vec.h"
 
 namespace vlq::fir {
 
@@ -34,7 +34,8 @@ public:
     template <class Sample>
     void add(const Tap* taps, const Sample* x, int some) {
         for (int i = 0; i < some; ++i)
-            sums_[i] += static_cast<double>(read(taps + i) * convertTo<Tap>(read(x + i)));
+            sums_[i] +=
+                static_cast<double>(loadScalar(taps + i) * convertTo<Tap>(loadScalar(x + i)));
     }
     double total() const { return totalOf(sums_); }
 
@@ -47,20 +48,19 @@ public:
     template <class Sample>
     void add(const Tap* taps, const Sample* x, int some) {
         for (int i = 0; i < some; ++i) {
-            const Tap tap = read(taps + i), sample = convertTo<Tap>(read(x + i));
-            straight_[0][i] += static_cast<double>(tap.re * sample.re);
-            straight_[1][i] += static_cast<double>(tap.im * sample.im);
-            crossed_[0][i] += static_cast<double>(tap.re * sample.im);
-            crossed_[1][i] += static_cast<double>(tap.im * sample.re);
+            const Tap tap = loadScalar(taps + i), sample = convertTo<Tap>(loadScalar(x + i));
+            real_[0][i] += static_cast<double>(tap.re * sample.re);
+            real_[1][i] += static_cast<double>(tap.im * sample.im);
+            cross_[0][i] += static_cast<double>(tap.re * sample.im);
+            cross_[1][i] += static_cast<double>(tap.im * sample.re);
         }
     }
     Vlq64fc total() const {
-        return {totalOf(straight_[0]) - totalOf(straight_[1]),
-                totalOf(crossed_[0]) + totalOf(crossed_[1])};
+        return {totalOf(real_[0]) - totalOf(real_[1]), totalOf(cross_[0]) + totalOf(cross_[1])};
     }
 
 private:
-    double straight_[2][kTurns] = {}, crossed_[2][kTurns] = {};
+    double real_[2][kTurns] = {}, cross_[2][kTurns] = {};
 };
 
 // sum of row[j] * oldest[j].
@@ -85,8 +85,8 @@ inline DirectSum<Tap> directSum(const Tap* taps, int stride, const Sample* x, Vl
         const int some = count - j < kTurns ? count - j : kTurns;
         for (int k = 0; k < some; ++k) {
             const int age = count - 1 - j - k;
-            row[k] = read(taps + static_cast<Vlq64s>(age) * stride);
-            window[k] = read(age <= newest ? x + (newest - age) : line + (age - newest - 1));
+            row[k] = loadScalar(taps + static_cast<Vlq64s>(age) * stride);
+            window[k] = loadScalar(age <= newest ? x + (newest - age) : line + (age - newest - 1));
         }
         sums.add(row, window, some);
     }

@@ -1,118 +1,57 @@
-// Construction of a multi-rate FIR record.
+// How a floating multi-rate FIR state is laid out: what follows from the tap count and the factors.
 #pragma once
 
+#include <algorithm>
+
+#include "filter/common/rates.h"
 #include "filter/fir/fir_state.h"
-#include "filter/fir/multirate/multirate_kernels.h"
-#include "filter/fir/multirate/multirate_sizes.h"
+#include "filter/fir/multirate/polyphase_rows.h"
 
 namespace vlq::fir {
 
-template <class State>
-inline bool isMultiRate(const State& state) {
-    return state.idCtx == Kind<State>::kMultiRateWord;
-}
-
-// Kinds whose filter of factors 1 and 1 is a single-rate record.
-template <class State>
-inline constexpr bool kHasSingleRate =
-    !Complex<typename State::Element> || std::is_same_v<State, VlqsFIRState64fc_32sc>;
-
+// The tables are the rows of the phases. Kinds 2 and 3, for filters that are short against the
+// step, have room for four outputs at once besides. The sizes of kinds 2 and 3 in single precision
+// are public.
 template <class E>
-inline Polyphase<E> polyphaseOf(const Record<E>& record) {
-    const E* rows = record.tapsWide;
-    const E* groups =
-        hasGroups<E>(record.upFactor) ? rows + Vlq64s{record.upFactor} * record.dlyLen : nullptr;
-    return {record.mrDlyPtr, rows, groups, record.upFactor, record.downFactor, record.dlyLen};
-}
+struct MultiRatePlan {
+    RateSizes sizes;
+    Vlq64s delayLen, paddedTaps, firstChunk;
+    Vlq32s kind;
 
-// Lays a record and its arrays into memory of plan.bytes() bytes.
-template <class State>
-State* layOut(void* memory, const MultiRatePlan<typename State::Element>& plan,
-              const Rates& rates) {
-    using E = typename State::Element;
-    Cursor cursor(memory, plan.bytes());
-    State* state = ::new (static_cast<void*>(cursor.take<State>(1, Shape<E>::kAlignment))) State{};
-    state->idCtx = Kind<State>::kMultiRateWord;
-    state->tapsLen = static_cast<Vlq32s>(plan.tapsLen);
-    state->dlyLen = static_cast<Vlq32s>(plan.line);
-    state->upFactor = rates.up;
-    state->upPhase = rates.upPhase;
-    state->downFactor = rates.down;
-    state->downPhase = rates.downPhase;
-    state->firstChunk = static_cast<Vlq32s>(plan.firstChunk);
-    state->tapsStride = static_cast<Vlq32s>(plan.chunkOutputs);
-    state->mrSamples = static_cast<Vlq32s>(plan.slots / plan.up);
-    state->mrKind = plan.kind;
-    state->fftLen = -1;
-
-    state->taps = cursor.take<E>(plan.tapsLen);
-    Phase* phases = cursor.take<Phase>(plan.up, 16);
-    state->mrDlyPtr = phases;
-    state->tapsWide = reinterpret_cast<E*>(cursor.take<char>(plan.rowBytes(), 16));
-    state->blockBuf = cursor.take<E>(plan.blockBufLength(), 16);
-    state->dlyLine = cursor.take<E>(plan.storeLength());
-    for (Vlq32s k = 0; k < rates.up; ++k) {
-        const OutputPlace place = placeOf(rates, k);
-        phases[k] = {place.newest, tapsFrom(place.firstTap, state->tapsLen, rates.up),
-                     place.firstTap * state->dlyLen, 0};
+    MultiRatePlan(Vlq32s tapsLen, Vlq32s up, Vlq32s down)
+        : sizes{tapsLen, up, down},
+          delayLen(sizes.delayLen()),
+          paddedTaps(sizes.paddedTaps()),
+          firstChunk(sizes.firstChunk()) {
+        const Vlq32f ratio = static_cast<Vlq32f>(sizes.tapsLen) /
+                             static_cast<Vlq32f>(sizes.tapsLen + 3 * sizes.down);
+        if (Complex<E>)
+            kind = 1;
+        else if (up == 1)
+            kind = ratio > 0.5f ? 1 : 2;
+        else
+            kind = static_cast<Vlq64f>(ratio) > 0.3 ? 1 : 3;
     }
-    return state;
-}
 
-// ---- what the exports do ------------------------------------------------------------------------
+    // A row of delayLen taps for each phase, and room for as much twice where there are groups.
+    Vlq64s rowBytes() const {
+        const Vlq64s rows = (sizes.up < 4 ? 1 : 3) * sizes.up * delayLen;
+        return roundUp((kind == 1 ? rows : 4 * paddedTaps) * element, 16);
+    }
+    Vlq64s stagingLength() const {
+        return std::max<Vlq64s>(kStaging, (kind == 1 ? 2 : 8) * paddedTaps);
+    }
+    Vlq64s storeLength() const { return delayLen + firstChunk; }
 
-template <class State>
-VlqStatus multiRateSize(Vlq32s tapsLen, Vlq32s up, Vlq32s down, Vlq32s* stateBytes) {
-    using E = typename State::Element;
-    if (!stateBytes) return vlqStsNullPtr;
-    if (tapsLen < 1) return vlqStsBadTapCount;
-    if (const VlqStatus status = checkFactors(up, down); status != vlqStsOk) return status;
-    const bool single = up == 1 && down == 1;
-    Vlq64s bytes = 0;
-    // The complex kinds of one shape have one size, whichever record is made.
-    if (!single || Complex<E>) bytes = MultiRatePlan<E>(tapsLen, up, down).bytes();
-    if (single) bytes = std::max(bytes, Plan<E>(tapsLen).bytes());
-    *stateBytes = toldSize(bytes);
-    return vlqStsOk;
-}
+    Vlq64s bytes() const {
+        const Vlq64s phaseBytes = 16 * sizes.up;
+        return roundUp(sizes.tapsLen * element, 16) + roundDown(phaseBytes + 19, 16) + rowBytes() +
+               stagingLength() * element + roundDown(storeLength() * element + 19, 16) +
+               Traits<E>::kHeaderBytes + (Vlq64s{Traits<E>::kAlignment} - 16);
+    }
 
-template <class State, class Tap>
-VlqStatus multiRateInit(State** outState, const Tap* taps, Vlq32s tapsLen, const Rates& rates,
-                        const SampleOf<State>* dlyLine, Vlq8u* buffer) {
-    using E = typename State::Element;
-    if (!outState || !taps || !buffer) return vlqStsNullPtr;
-    if (tapsLen < 1) return vlqStsBadTapCount;
-    if (const VlqStatus status = check(rates); status != vlqStsOk) return status;
-    if (kHasSingleRate<State> && rates.up == 1 && rates.down == 1)
-        return init(outState, taps, tapsLen, dlyLine, buffer);
-    const MultiRatePlan<E> plan(tapsLen, rates.up, rates.down);
-    if (!plan.fits()) return vlqStsNoMemory;
-    State* state = layOut<State>(buffer, plan, rates);
-    writeTaps(*state, taps);
-    writeDelayLine(*state, dlyLine);
-    *outState = state;
-    return vlqStsOk;
-}
-
-template <class State, class Tap>
-VlqStatus multiRateInitAlloc(State** outState, const Tap* taps, Vlq32s tapsLen, const Rates& rates,
-                             const SampleOf<State>* dlyLine) {
-    using E = typename State::Element;
-    if (!outState || !taps) return vlqStsNullPtr;
-    if (tapsLen < 1) return vlqStsBadTapCount;
-    if (const VlqStatus status = check(rates); status != vlqStsOk) return status;
-    if (kHasSingleRate<State> && rates.up == 1 && rates.down == 1)
-        return initAlloc(outState, taps, tapsLen, dlyLine);
-    const MultiRatePlan<E> plan(tapsLen, rates.up, rates.down);
-    if (!plan.fits()) return vlqStsNoMemory;
-    Vlq8u* memory = vlqsMalloc_8u(static_cast<Vlq32s>(plan.bytes()));
-    if (!memory) return vlqStsNoMemory;
-    const VlqStatus status = multiRateInit(outState, taps, tapsLen, rates, dlyLine, memory);
-    if (status == vlqStsOk)
-        (*outState)->ownsMemory = 1;
-    else
-        vlqsFree(memory);
-    return status;
-}
+private:
+    static constexpr Vlq64s element = sizeof(E);
+};
 
 }  // namespace vlq::fir

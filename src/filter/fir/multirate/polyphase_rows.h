@@ -1,7 +1,8 @@
-// The tap tables of multi-rate FIR records.
+// The tap tables of multi-rate FIR states: a row for each phase, and groups of rows.
 #pragma once
 
 #include "filter/common/element.h"
+#include "filter/fir/fir_state.h"
 #include "frame/simd/vec.h"
 
 namespace vlq::fir {
@@ -25,15 +26,14 @@ constexpr bool hasGroups(Vlq32s up) {
 
 // Every up-th tap is a row of dlyLen taps; there are `up` rows. The groups follow: the first tap of
 // each output of the group, the second of each, and so on, the parts of complex ones apart.
-template <class Record>
-void writeRows(Record& record) {
-    using E = typename Record::Element;
-    const Vlq32s len = record.tapsLen, up = record.upFactor, line = record.dlyLen;
-    const E* reversed = record.taps;
-    E* rows = record.tapsWide;
+template <class E>
+void writeRows(FirState<E>& state) {
+    const Vlq32s len = state.tapsLen, up = state.upFactor, line = state.dlyLen;
+    const E* reversed = state.taps;
+    E* rows = state.tapsWide;
     for (Vlq32s k = 0; k < len; ++k) rows[Vlq64s{k % up} * line + k / up] = reversed[len - 1 - k];
     if (!hasGroups<E>(up)) return;
-    const Phase* phases = record.mrDlyPtr;
+    const Phase* phases = state.phases;
     auto* group = parts(rows + Vlq64s{up} * line);
     for (Vlq32s first = 0; first < up; first += kGroup<E>) {
         for (Vlq32s i = 0; i < line; ++i) {
