@@ -11,7 +11,7 @@
 #include <new>
 
 #include "filter/fir/integer/fir_integer_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 #include "frame/state/state.h"
 #include "vlqs/core.h"
 #include "vlqs/fir.h"
