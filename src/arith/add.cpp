@@ -1,7 +1,7 @@
 // Sums and differences of two vectors. A difference is second minus first: src2 - src1, and
 // srcDst - src in place.
 #include "arith/add_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // before a kernel is chosen, and handed over to the body that copies, fills or clears.
 #include "arith/add_constant_kernels.h"
 #include "frame/loop/bulk.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 namespace {
 
@@ -101,11 +101,6 @@ VlqStatus exactComplex(const C* src, C val, C* dst, Vlq32s len) {
 }
 
 // ---- 64-bit integers ----------------------------------------------------------------------------
-Rounding roundingOf(VlqRoundMode mode) {
-    if (mode == vlqRndZero) return Rounding::ToZero;
-    return mode == vlqRndNear ? Rounding::TiesToEven : Rounding::TiesAway;
-}
-
 template <class T>
 VlqStatus sum64(const T* src, T val, T* dst, Vlq32u len, Vlq32s scaleFactor, VlqRoundMode rndMode) {
     if (!src || !dst) return vlqStsNullPtr;
@@ -115,7 +110,7 @@ VlqStatus sum64(const T* src, T val, T* dst, Vlq32u len, Vlq32s scaleFactor, Vlq
                             static_cast<Vlq32s>(len));
     }
     const Vec<T> constant = Vec<T>::broadcast(val);
-    withScaleAndRounding<T>(scaleFactor, roundingOf(rndMode), [&](auto op) {
+    withScaleAndRounding<T>(scaleFactor, rndMode, [&](auto op) {
         map(
             dst, static_cast<std::ptrdiff_t>(len),
             [op, constant](Vec<T> x) { return op(x, constant); }, src);

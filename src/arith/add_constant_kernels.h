@@ -84,7 +84,7 @@ inline void withConstant(std::int32_t val, std::int32_t scaleFactor, Run run) {
 template <class T, Rounding rounding>
 struct RoundHalf {
     Vec<T> operator()(Halved<T> e) const {
-        return e.half + (e.odd & middleGoesUp<rounding>(e, e.half) & Vec<T>::broadcast(1));
+        return e.half + (e.odd & tieGoesUp<rounding>(e, e.half) & Vec<T>::broadcast(1));
     }
 };
 
@@ -97,7 +97,7 @@ struct ScaleRightLast {
 };
 
 template <class T, Rounding rounding, class Run>
-inline void withRounding(std::int32_t scaleFactor, Run run) {
+inline void withPositiveScale(std::int32_t scaleFactor, Run run) {
     constexpr int bits = 8 * sizeof(T);
     auto scaled = [&](auto scale) {
         run([=](Vec<T> a, Vec<T> b) { return scale(Sum::halved(a, b)); });
@@ -114,16 +114,12 @@ inline void withRounding(std::int32_t scaleFactor, Run run) {
 
 // Hands `run` the sum of two vectors, scaled and rounded; no scale factor is given up early.
 template <class T, class Run>
-inline void withScaleAndRounding(std::int32_t scaleFactor, Rounding rounding, Run run) {
+inline void withScaleAndRounding(std::int32_t scaleFactor, VlqRoundMode mode, Run run) {
     using V = Vec<T>;
     if (scaleFactor == 0) return run([](V a, V b) { return addSat(a, b); });
     if (scaleFactor < 0)
         return run([scale = ScaleLeft<T>(scaleFactor)](V a, V b) { return scale(addSat(a, b)); });
-    switch (rounding) {
-        case Rounding::ToZero: return withRounding<T, Rounding::ToZero>(scaleFactor, run);
-        case Rounding::TiesToEven: return withRounding<T, Rounding::TiesToEven>(scaleFactor, run);
-        case Rounding::TiesAway: return withRounding<T, Rounding::TiesAway>(scaleFactor, run);
-    }
+    withRounding(mode, [&](auto rounding) { withPositiveScale<T, rounding()>(scaleFactor, run); });
 }
 
 }  // namespace vlq::add

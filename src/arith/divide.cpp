@@ -1,7 +1,7 @@
 // Quotients of integers. The second vector is divided by the first.
 #include "arith/divide_kernels.h"
 #include "arith/divide_wide_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 #include <algorithm>
 
@@ -12,6 +12,7 @@ namespace {
 using namespace vlq::divide;
 using vlq::clear;
 using vlq::elements;
+using vlq::Rounding;
 using vlq::StandardFloatMode;
 using vlq::Vec;
 
@@ -35,19 +36,18 @@ float quotientScale(Vlq32s scaleFactor) {
     return floatFactor(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor);
 }
 
-template <class T, class Round>
-VlqStatus divided(Round round, const T* divisors, const T* numerators, T* dst, Vlq32s len,
-                  Vlq32s scaleFactor) {
+template <Rounding rounding, class T>
+VlqStatus divided(const T* divisors, const T* numerators, T* dst, Vlq32s len, Vlq32s scaleFactor) {
     const StandardFloatMode hold;
     const auto factor = Vec<float>::broadcast(quotientScale(scaleFactor));
-    return divided(Quotient<T, Round>{factor, round}, divisors, numerators, dst, len);
+    return divided(Quotient<T, rounding>{factor}, divisors, numerators, dst, len);
 }
 
 template <class T>
 VlqStatus scaled(const T* src1, const T* src2, T* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    return divided(Nearest{}, src1, src2, dst, len, scaleFactor);
+    return divided<Rounding::TiesToEven>(src1, src2, dst, len, scaleFactor);
 }
 
 template <class T>
@@ -63,11 +63,11 @@ VlqStatus roundedByMode(const T* src1, const T* src2, T* dst, Vlq32s len, VlqRou
         clear(dst, len);
         return status;
     }
-    switch (rndMode) {
-        case vlqRndZero: return divided(TowardsZero{}, src1, src2, dst, len, scaleFactor);
-        case vlqRndNear: return divided(Nearest{}, src1, src2, dst, len, scaleFactor);
-        default: return divided(NearestAway{}, src1, src2, dst, len, scaleFactor);
-    }
+    VlqStatus status = vlqStsOk;
+    vlq::withRounding(rndMode, [&](auto rounding) {
+        status = divided<rounding()>(src1, src2, dst, len, scaleFactor);
+    });
+    return status;
 }
 
 VlqStatus scaled32s(const Vlq32s* src1, const Vlq32s* src2, Vlq32s* dst, Vlq32s len,
@@ -127,7 +127,7 @@ VlqStatus constantBy16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len) 
         return status;
     }
     const StandardFloatMode hold;
-    const Quotient<Vlq16u, Nearest> op{Vec<float>::broadcast(1.0f), {}};
+    const Quotient<Vlq16u, Rounding::TiesToEven> op{Vec<float>::broadcast(1.0f)};
     const vlq::Block<Vlq16u, 1> numerators{{Vec<Vlq16u>::broadcast(val)}};
     vlq::mapBlocks(
         dst, len, [op, numerators](const auto& divisors) { return op(divisors, numerators); }, src);

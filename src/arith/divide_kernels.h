@@ -8,7 +8,7 @@
 #include "frame/loop/any.h"
 #include "frame/loop/map.h"
 #include "frame/scale/power_of_two.h"
-#include "frame/scale/scale.h"
+#include "frame/scale/rounding.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
 #include "vlqs/types.h"
@@ -24,26 +24,6 @@ inline float floatFactor(std::int32_t scaleFactor) {
 inline double doubleFactor(std::int32_t scaleFactor) {
     return scaleFactorPower<double>(std::clamp(scaleFactor, -120, 120));
 }
-
-// ---- rounding -----------------------------------------------------------------------------------
-struct Nearest {
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toNearest(v);
-    }
-};
-struct TowardsZero {
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toZero(v);
-    }
-};
-struct NearestAway {
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toNearestAway(v);
-    }
-};
 
 // ---- in and out ---------------------------------------------------------------------------------
 // 8 and 16-bit elements as floats.
@@ -67,10 +47,10 @@ template <class To, class From>
 inline Vec<From> belowTop(Vec<From> v) {
     return minimum(v, Vec<From>::broadcast(static_cast<From>(std::numeric_limits<To>::max())));
 }
-template <class To, class Round, int parts>
-inline Block<To, 1> stored(Block<float, parts> v, Round round) {
+template <class To, Rounding rounding, int parts>
+inline Block<To, 1> stored(Block<float, parts> v) {
     Block<std::int32_t, parts> integers;
-    for (int i = 0; i < parts; ++i) integers.part[i] = round(belowTop<To>(v.part[i]));
+    for (int i = 0; i < parts; ++i) integers.part[i] = toInteger<rounding>(belowTop<To>(v.part[i]));
     return {{narrowSat<To>(integers)}};
 }
 template <class To>
@@ -86,16 +66,15 @@ inline Vec<T> quotient(Vec<T> numerator, Vec<T> divisor, Vec<T> factor) {
 }
 
 // ---- 8 and 16 bits ------------------------------------------------------------------------------
-template <class T, class Round>
+template <class T, Rounding rounding>
 struct Quotient {
     Vec<float> factor;
-    Round round;
     Block<T, 1> operator()(const Block<T, 1>& divisors, const Block<T, 1>& numerators) const {
         const auto d = floats(divisors.part[0]);
         auto n = floats(numerators.part[0]);
         constexpr int count = 4 / static_cast<int>(sizeof(T));
         for (int i = 0; i < count; ++i) n.part[i] = quotient(n.part[i], d.part[i], factor);
-        return stored<T>(n, round);
+        return stored<T, rounding>(n);
     }
 };
 
@@ -106,7 +85,7 @@ struct TimesReciprocal {
     Block<T, 1> operator()(const Block<T, 1>& numerators) const {
         auto n = floats(numerators.part[0]);
         for (Vec<float>& part : n.part) part *= reciprocal;
-        return stored<T>(n, Nearest{});
+        return stored<T, Rounding::TiesToEven>(n);
     }
 };
 

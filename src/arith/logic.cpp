@@ -1,5 +1,6 @@
+// Bitwise operations on two vectors, on a vector and a constant, and NOT.
 #include "arith/logic_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 namespace {
 
@@ -8,7 +9,7 @@ using vlq::clear;
 using vlq::copy;
 
 template <class T, class Op>
-VlqStatus twoVectors(const T* src1, const T* src2, T* dst, Vlq32s len, Op op) {
+VlqStatus twoVectors(const T* src1, const T* src2, T* dst, Vlq32s len, const Op& op) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     vlq::map(dst, len, op, src1, src2);
@@ -16,7 +17,7 @@ VlqStatus twoVectors(const T* src1, const T* src2, T* dst, Vlq32s len, Op op) {
 }
 
 template <class T, class Op>
-VlqStatus oneVector(const T* src, T* dst, Vlq32s len, Op op) {
+VlqStatus oneVector(const T* src, T* dst, Vlq32s len, const Op& op) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     vlq::map(dst, len, op, src);

@@ -1,6 +1,6 @@
 // Products of 8 and 16-bit integers.
 #include "arith/multiply_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 #include <bit>
 

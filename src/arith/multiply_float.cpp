@@ -20,7 +20,7 @@ template <class T>
 VlqStatus complexProduct(const T* a, const T* b, T* dst, Vlq32s len) {
     if (!a || !b || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    mapComplex(dst, len, ComplexProduct{}, a, b);
+    vlq::mapComplex(dst, len, ComplexProduct{}, a, b);
     return vlqStsOk;
 }
 
@@ -38,7 +38,7 @@ VlqStatus complexProductByConstant(const T* src, T val, T* dst, Vlq32s len) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     using V = Vec<decltype(val.re)>;
-    mapComplex(
+    vlq::mapComplex(
         dst, len, [b = vlq::broadcastPair(val.re, val.im)](V a) { return ComplexProduct{}(b, a); },
         src);
     return vlqStsOk;
@@ -47,7 +47,7 @@ VlqStatus complexProductByConstant(const T* src, T val, T* dst, Vlq32s len) {
 VlqStatus realByComplex(const Vlq32f* real, const Vlq32fc* complex, Vlq32fc* dst, Vlq32s len) {
     if (!real || !complex || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    mapRealByComplex(dst, len, real, complex);
+    vlq::mapRealByComplex(dst, len, Product{}, real, complex);
     return vlqStsOk;
 }
 
@@ -63,7 +63,7 @@ template <class T>
 VlqStatus accumulateComplex(const T* a, const T* b, T* acc, Vlq32s len) {
     if (!a || !b || !acc) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    mapComplex(acc, len, Accumulate<ComplexProduct>{}, acc, a, b);
+    vlq::mapComplex(acc, len, Accumulate<ComplexProduct>{}, acc, a, b);
     return vlqStsOk;
 }
 

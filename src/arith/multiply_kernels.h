@@ -15,17 +15,6 @@ inline Vec<T> roundHalf(Vec<T> e) {
     return quotient + (e & quotient & Vec<T>::broadcast(1));
 }
 
-// e * 2^-scaleFactor for any e of its lane, 2 <= scaleFactor <= width of T.
-template <class T>
-class RoundAny {
-public:
-    explicit RoundAny(std::int32_t scaleFactor) : scale_(scaleFactor) {}
-    Vec<T> operator()(Vec<T> e) const { return scale_({shiftRight(e, 1), e}); }
-
-private:
-    ScaleRight<T> scale_;
-};
-
 // ---- 16-bit results by the words of the product -------------------------------------------------
 // The upper words hold the quotient, so that no lane is widened.
 class RoundUpperWord {
@@ -242,7 +231,7 @@ inline void withScale(std::int32_t scaleFactor, Run run) {
             }
             if (scaleFactor <= Family::roomUpTo)
                 return run(rounded<Family, RoundRight>(scaleFactor));
-            return run(rounded<Family, RoundAny>(scaleFactor));
+            return run(rounded<Family, RoundRightAny>(scaleFactor));
         case Scaling::Vanish: return;
     }
 }

@@ -1,6 +1,6 @@
 // Products of 32 and 64-bit integers, and of floats stored as integers.
 #include "arith/multiply_wide_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 #include "frame/simd/control.h"
 
@@ -46,7 +46,7 @@ VlqStatus realByComplex(const Vlq32s* real, const Vlq32sc* complex, Vlq32sc* dst
     if (len < 1) return vlqStsBadSize;
     if (vanishes<Exact32s>(scaleFactor)) return clear(dst, len);
     const StandardFloatMode hold;
-    withScale32s(scaleFactor, [&](auto op) { mapRealByComplex32s(dst, len, op, real, complex); });
+    withScale32s(scaleFactor, [&](auto op) { vlq::mapRealByComplex(dst, len, op, real, complex); });
     return vlqStsOk;
 }
 

@@ -5,8 +5,9 @@
 #include <bit>
 #include <cmath>
 
-#include "frame/loop/map.h"
+#include "frame/loop/map_complex.h"
 #include "frame/scale/power_of_two.h"
+#include "frame/scale/scalar_scale.h"
 #include "frame/scale/scale.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
@@ -104,22 +105,6 @@ template <class Run>
 inline void withScale32s(std::int32_t scaleFactor, Run run) {
     if (scaleFactor <= kLastInDouble) return run(Product32sInDouble{factorInDouble(scaleFactor)});
     run(Product32s<RoundRight<std::uint64_t>>{RoundRight<std::uint64_t>(scaleFactor)});
-}
-
-// dst[i] = real[i] * complex[i], both parts.
-template <class Op>
-inline void mapRealByComplex32s(Vlq32sc* dst, std::ptrdiff_t len, Op op, const Vlq32s* real,
-                                const Vlq32sc* complex) {
-    using Element = std::int64_t;
-    mapBlocks(
-        reinterpret_cast<Element*>(dst), len,
-        [op](const Block<std::int32_t, 1>& a, const Block<Element, 2>& b) {
-            const auto factor = twice(a.part[0]);
-            return Block<Element, 2>{
-                {bitCast<Element>(op(factor.part[0], bitCast<std::int32_t>(b.part[0]))),
-                 bitCast<Element>(op(factor.part[1], bitCast<std::int32_t>(b.part[1])))}};
-        },
-        real, reinterpret_cast<const Element*>(complex));
 }
 
 // ---- one element at a time ----------------------------------------------------------------------

@@ -1,5 +1,6 @@
+// Shifts of every element by one count.
 #include "arith/shift_kernels.h"
-#include "frame/loop/forms.h"
+#include "frame/loop/element_views.h"
 
 namespace {
 

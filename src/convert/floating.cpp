@@ -1,3 +1,4 @@
+// Conversions between integers and floats, and between floats of both widths.
 #include "convert/floating_kernels.h"
 
 #include <algorithm>
@@ -18,25 +19,17 @@ VlqStatus plain(const From* src, To* dst, std::int64_t len, Op op) {
     return vlqStsOk;
 }
 
-template <class Scale, class Round, class From, class To>
-void rounded(const From* src, To* dst, std::int64_t len, Scale scale, Round round,
-             bool flushingMatters) {
-    const StandardFloatMode hold(Round::usesControlWord || flushingMatters);
-    vlq::mapBlocks(dst, len, IntegerOf<To, Scale, Round>{scale, round}, src);
-}
-
 template <class From, class To>
-VlqStatus toInteger(const From* src, To* dst, std::int64_t len, VlqRoundMode mode,
-                    Vlq32s scaleFactor) {
+VlqStatus roundedToInteger(const From* src, To* dst, std::int64_t len, VlqRoundMode mode,
+                           Vlq32s scaleFactor) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     const bool flushingMatters = !subnormalsVanish<From>(scaleFactor);
     auto withScale = [&](auto scale) {
-        switch (mode) {
-            case vlqRndZero: rounded(src, dst, len, scale, Zero{}, flushingMatters); break;
-            case vlqRndNear: rounded(src, dst, len, scale, Nearest{}, flushingMatters); break;
-            default: rounded(src, dst, len, scale, NearestAway{}, flushingMatters);
-        }
+        vlq::withRounding(mode, [&](auto rounding) {
+            const StandardFloatMode hold(vlq::usesControlRegister<rounding()> || flushingMatters);
+            vlq::mapBlocks(dst, len, IntegerOf<To, decltype(scale), rounding()>{scale}, src);
+        });
     };
     if (scaleFactor == 0)
         withScale(Unscaled<From>{});
@@ -45,7 +38,7 @@ VlqStatus toInteger(const From* src, To* dst, std::int64_t len, VlqRoundMode mod
     return vlqStsOk;
 }
 
-// Op<Scale> with 2^-scaleFactor, after scaleFactor was brought into [lowest, highest].
+// Op<Scale> with 2^-scaleFactor, with scaleFactor clamped to [lowest, highest].
 template <template <class> class Op, class T, class From>
 VlqStatus toScaled(const From* src, T* dst, Vlq32s len, Vlq32s scaleFactor, int lowest,
                    int highest) {
@@ -102,35 +95,35 @@ VlqStatus vlq::vlqsConvert_32s64f_Sfs(const Vlq32s* src, Vlq64f* dst, Vlq32s len
 // ---- floats to integers -------------------------------------------------------------------------
 VlqStatus vlq::vlqsConvert_32f8s_Sfs(const Vlq32f* src, Vlq8s* dst, Vlq32s len,
                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_32f8u_Sfs(const Vlq32f* src, Vlq8u* dst, Vlq32s len,
                                      VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_32f16s_Sfs(const Vlq32f* src, Vlq16s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_32f16u_Sfs(const Vlq32f* src, Vlq16u* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_32f32s_Sfs(const Vlq32f* src, Vlq32s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_64f16s_Sfs(const Vlq64f* src, Vlq16s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_64f32s_Sfs(const Vlq64f* src, Vlq32s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 VlqStatus vlq::vlqsConvert_64f64s_Sfs(const Vlq64f* src, Vlq64s* dst, Vlq32u len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return toInteger(src, dst, len, rndMode, scaleFactor);
+    return roundedToInteger(src, dst, len, rndMode, scaleFactor);
 }
 
 // ---- floats to floats ---------------------------------------------------------------------------

@@ -5,8 +5,8 @@
 
 #include "frame/loop/map.h"
 #include "frame/scale/power_of_two.h"
+#include "frame/scale/rounding.h"
 #include "frame/simd/convert.h"
-#include "frame/simd/int64.h"
 #include "frame/simd/ops.h"
 
 namespace vlq::convert {
@@ -20,31 +20,6 @@ bool subnormalsVanish(std::int32_t scaleFactor) {
 }
 
 // ---- floats to integers -------------------------------------------------------------------------
-struct Zero {
-    static constexpr bool usesControlWord = false;
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toZero(v);
-    }
-    Vec<std::int64_t> wide(Vec<double> v) const { return toZero64(v); }
-};
-struct Nearest {
-    static constexpr bool usesControlWord = !kRoundingInInstruction;
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toNearest(v);
-    }
-    Vec<std::int64_t> wide(Vec<double> v) const { return toNearest64(v); }
-};
-struct NearestAway {
-    static constexpr bool usesControlWord = !kRoundingInInstruction;
-    template <class V>
-    Vec<std::int32_t> operator()(V v) const {
-        return toNearestAway(v);
-    }
-    Vec<std::int64_t> wide(Vec<double> v) const { return toNearestAway64(v); }
-};
-
 template <class T>
 struct Unscaled {
     Vec<T> operator()(Vec<T> v) const { return v; }
@@ -57,18 +32,17 @@ struct Times {
 
 // The bound is the second operand of the minimum, so a not-a-number becomes the top value. Below
 // the range the conversion gives the most negative integer and the pack saturates it.
-template <class To, class Scale, class Round>
+template <class To, class Scale, Rounding rounding>
 struct ToInteger {
     Scale scale;
-    Round round;
 
     template <class From>
     Vec<From> clamped(Vec<From> v) const {
         return minimum(scale(v), Vec<From>::broadcast(std::numeric_limits<To>::max()));
     }
-    Vec<std::int32_t> convert(Vec<float> v) const { return round(clamped(v)); }
+    Vec<std::int32_t> convert(Vec<float> v) const { return toInteger<rounding>(clamped(v)); }
     Vec<std::int32_t> convert(Vec<double> low, Vec<double> high) const {
-        return round(Block<double, 2>{{clamped(low), clamped(high)}});
+        return toInteger<rounding>(Block<double, 2>{{clamped(low), clamped(high)}});
     }
 
     Block<To, 1> operator()(const Block<float, 4>& v) const {
@@ -83,7 +57,7 @@ struct ToInteger {
         // and for a not-a-number; all bits of that are flipped.
         const Vec<float> v = scale(block.part[0]);
         const Vec<std::int32_t> inRange = v < Vec<float>::broadcast(0x1p31f);
-        return {{round(v) ^ ~inRange}};
+        return {{toInteger<rounding>(v) ^ ~inRange}};
     }
     Block<To, 1> operator()(const Block<double, 4>& v) const {
         return {{narrowSat<To>(Block<std::int32_t, 2>{
@@ -95,21 +69,20 @@ struct ToInteger {
 };
 
 // A not-a-number stays what the conversion answers, the most negative integer.
-template <class Scale, class Round>
+template <class Scale, Rounding rounding>
 struct ToInteger64 {
     Scale scale;
-    Round round;
 
     Block<std::int64_t, 1> operator()(const Block<double, 1>& block) const {
         const Vec<double> v = scale(block.part[0]);
         const Vec<std::int64_t> tooLarge = v >= Vec<double>::broadcast(0x1p63);
-        return {{round.wide(v) ^ tooLarge}};
+        return {{toInteger64<rounding>(v) ^ tooLarge}};
     }
 };
 
-template <class To, class Scale, class Round>
-using IntegerOf =
-    std::conditional_t<sizeof(To) == 8, ToInteger64<Scale, Round>, ToInteger<To, Scale, Round>>;
+template <class To, class Scale, Rounding rounding>
+using IntegerOf = std::conditional_t<sizeof(To) == 8, ToInteger64<Scale, rounding>,
+                                     ToInteger<To, Scale, rounding>>;
 
 // ---- integers to floats -------------------------------------------------------------------------
 template <class Scale>

@@ -1,3 +1,4 @@
+// Conversions to and from half-precision (binary16) numbers.
 #include "convert/half_kernels.h"
 
 #include "frame/simd/control.h"
@@ -6,9 +7,10 @@
 namespace {
 
 using namespace vlq::convert;
+using vlq::Rounding;
 using vlq::StandardFloatMode;
 
-// Checks and the choice between the two rounding modes that there are; op(bool) runs the kernel.
+// The checks, and run with the policy of one of the two rounding modes that there are here.
 template <class From, class To, class Run>
 VlqStatus byMode(const From* src, const To* dst, Vlq32s len, VlqRoundMode mode, Run run) {
     if (!src || !dst) return vlqStsNullPtr;
@@ -16,9 +18,9 @@ VlqStatus byMode(const From* src, const To* dst, Vlq32s len, VlqRoundMode mode, 
     if (mode != vlqRndZero && mode != vlqRndNear) return vlqStsBadRoundMode;
     const StandardFloatMode hold(vlq::kHalfUsesControlWord);
     if (mode == vlqRndNear)
-        run(std::true_type{});
+        run(vlq::RoundingConstant<Rounding::TiesToEven>{});
     else
-        run(std::false_type{});
+        run(vlq::RoundingConstant<Rounding::ToZero>{});
     return vlqStsOk;
 }
 
@@ -33,27 +35,28 @@ VlqStatus vlq::vlqsConvert_16f32f(const Vlq16f* src, Vlq32f* dst, Vlq32s len) {
 
 VlqStatus vlq::vlqsConvert_32f16f(const Vlq32f* src, Vlq16f* dst, Vlq32s len,
                                   VlqRoundMode rndMode) {
-    return byMode(src, dst, len, rndMode,
-                  [=](auto nearest) { vlq::mapBlocks(dst, len, NarrowToHalf<nearest()>{}, src); });
+    return byMode(src, dst, len, rndMode, [=](auto rounding) {
+        vlq::mapBlocks(dst, len, NarrowToHalf<rounding()>{}, src);
+    });
 }
 
 VlqStatus vlq::vlqsConvert_16s16f(const Vlq16s* src, Vlq16f* dst, Vlq32s len,
                                   VlqRoundMode rndMode) {
-    return byMode(src, dst, len, rndMode,
-                  [=](auto nearest) { vlq::mapBlocks(dst, len, IntegerToHalf<nearest()>{}, src); });
+    return byMode(src, dst, len, rndMode, [=](auto rounding) {
+        vlq::mapBlocks(dst, len, IntegerToHalf<rounding()>{}, src);
+    });
 }
 
 VlqStatus vlq::vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
-    return byMode(src, dst, len, rndMode, [=](auto nearest) {
-        using Round = std::conditional_t<nearest(), Nearest, Zero>;
+    return byMode(src, dst, len, rndMode, [=](auto rounding) {
         // A factor that is subnormal must not be flushed, or infinity times it is no number.
-        const StandardFloatMode hold(Round::usesControlWord || scaleFactor > 126);
+        const StandardFloatMode hold(vlq::usesControlRegister<rounding()> || scaleFactor > 126);
         if (scaleFactor == 0) {
-            vlq::mapBlocks(dst, len, HalfToInteger<Unscaled<float>, Round>{}, src);
+            vlq::mapBlocks(dst, len, HalfToInteger<Unscaled<float>, rounding()>{}, src);
         } else {
             const Times<float> scale{vlq::scaleFactorPower<float>(scaleFactor)};
-            vlq::mapBlocks(dst, len, HalfToInteger<Times<float>, Round>{{scale, {}}}, src);
+            vlq::mapBlocks(dst, len, HalfToInteger<Times<float>, rounding()>{{scale}}, src);
         }
     });
 }

@@ -12,24 +12,25 @@ struct WidenHalf {
     }
 };
 
-template <bool kNearest>
+template <Rounding rounding>
 struct NarrowToHalf {
     Block<std::uint16_t, 1> operator()(const Block<float, 2>& v) const {
-        return {{floatToHalf<kNearest>(v)}};
+        return {{floatToHalf<rounding == Rounding::TiesToEven>(v)}};
     }
 };
 
-template <bool kNearest>
+template <Rounding rounding>
 struct IntegerToHalf {
     Block<std::uint16_t, 1> operator()(const Block<std::int16_t, 1>& v) const {
         const auto w = widen(v.part[0]);
-        return {{floatToHalf<kNearest>(Block<float, 2>{{toFloat(w.part[0]), toFloat(w.part[1])}})}};
+        return {{floatToHalf<rounding == Rounding::TiesToEven>(
+            Block<float, 2>{{toFloat(w.part[0]), toFloat(w.part[1])}})}};
     }
 };
 
-template <class Scale, class Round>
+template <class Scale, Rounding rounding>
 struct HalfToInteger {
-    ToInteger<std::int16_t, Scale, Round> convert;
+    ToInteger<std::int16_t, Scale, rounding> convert;
     Block<std::int16_t, 1> operator()(const Block<std::uint16_t, 1>& v) const {
         return convert(halfToFloat(v.part[0]));
     }

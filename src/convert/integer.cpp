@@ -1,3 +1,4 @@
+// Conversions of integers to integers of another width.
 #include "convert/integer_kernels.h"
 
 #include <algorithm>
@@ -23,12 +24,10 @@ int leftShift(Vlq32s scaleFactor, int highest) { return -std::max(scaleFactor, -
 // The division by 2^count in the rounding mode, then Narrow.
 template <template <class> class Narrow, class From, class To>
 void divide(const From* src, To* dst, std::int64_t len, VlqRoundMode mode, int count) {
-    auto by = [&](auto op) { vlq::mapBlocks(dst, len, Narrow<decltype(op)>{op}, src); };
-    switch (mode) {
-        case vlqRndZero: by(RoundShift<TowardsZero, From>{count}); break;
-        case vlqRndNear: by(RoundShift<TiesToEven, From>{count}); break;
-        default: by(RoundShift<TiesAway, From>{count});
-    }
+    vlq::withRounding(mode, [&](auto rounding) {
+        using Divide = vlq::RoundShift<From, rounding()>;
+        vlq::mapBlocks(dst, len, Narrow<Divide>{Divide(count)}, src);
+    });
 }
 
 }  // namespace
@@ -51,8 +50,9 @@ VlqStatus vlq::vlqsConvert_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst, Vlq32s len
     if (scaleFactor == 0) return plain(src, dst, len, ThenNarrow16<Same>{});
     if (scaleFactor < 0)
         return plain(src, dst, len, NarrowThenShiftLeft16{leftShift(scaleFactor, 15)});
-    return plain(src, dst, len,
-                 ThenNarrow16<RoundShift<TiesToEven, Vlq32s>>{{std::min(scaleFactor, 31)}});
+    return plain(
+        src, dst, len,
+        ThenNarrow16<vlq::RoundShift<Vlq32s>>{vlq::RoundShift<Vlq32s>(std::min(scaleFactor, 31))});
 }
 
 VlqStatus vlq::vlqsConvert_16s8s_Sfs(const Vlq16s* src, Vlq8s* dst, Vlq32u len,

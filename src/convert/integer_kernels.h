@@ -6,53 +6,9 @@
 #include <limits>
 
 #include "frame/loop/map.h"
-#include "frame/simd/convert.h"
-#include "frame/simd/int64.h"
-#include "frame/simd/ops.h"
-#include "frame/simd/saturate.h"
+#include "frame/scale/scale.h"
 
 namespace vlq::convert {
-
-// ---- v / 2^count, rounded -----------------------------------------------------------------------
-// The largest remainder that the floor of the quotient still stands for; above it the quotient is
-// one more. Given are that floor, the dividend's sign as a mask and the largest remainder there is.
-struct TowardsZero {
-    template <class V>
-    static V limit(V, V sign, V mask) {
-        return mask & ~sign;
-    }
-};
-struct TiesToEven {
-    template <class V>
-    static V limit(V quotient, V, V mask) {
-        const V one = V::broadcast(typename V::Scalar{1});
-        return shiftRight(mask, 1) + one - (quotient & one);
-    }
-};
-struct TiesAway {
-    template <class V>
-    static V limit(V, V sign, V mask) {
-        return shiftRight(mask, 1) - sign;
-    }
-};
-
-// 1 <= count < width
-template <class Round, class T>
-struct RoundShift {
-    int count;
-
-    Vec<T> operator()(Vec<T> v) const {
-        using V = Vec<T>;
-        using Unsigned = std::make_unsigned_t<T>;
-        const V mask = V::broadcast(static_cast<T>((Unsigned{1} << count) - 1));
-        const V quotient = shiftRight(v, count);
-        V sign = V::zero();
-        if constexpr (std::is_signed_v<T>) sign = signMask(v);
-        const V limit = Round::limit(quotient, sign, mask);
-        using Lane = BitsOf<T>;
-        return quotient - bitCast<T>(isAbove(bitCast<Lane>(v & mask), bitCast<Lane>(limit)));
-    }
-};
 
 // ---- widening -----------------------------------------------------------------------------------
 struct Widen {

@@ -1,3 +1,4 @@
+// Conversions to and from packed 24-bit integers.
 #include "convert/packed24_kernels.h"
 
 #include <algorithm>
@@ -23,8 +24,9 @@ VlqStatus integerToPacked(const From* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleF
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if (scaleFactor > 0) {
-        vlq::mapToPacked24(dst, src, len,
-                           ToPacked<RoundShiftTo24<From>>{{{std::min(scaleFactor, 31)}}});
+        vlq::mapToPacked24(
+            dst, src, len,
+            ToPacked<RoundShiftTo24<From>>{{vlq::RoundShift<From>(std::min(scaleFactor, 31))}});
     } else {
         const int count = -std::max(scaleFactor, -ShiftLeftTo24<From>::highest);
         vlq::mapToPacked24(dst, src, len, ToPacked<ShiftLeftTo24<From>>{{count}});
@@ -36,7 +38,8 @@ VlqStatus floatToPacked(const Vlq32f* src, Vlq8u* dst, Vlq32s len, Vlq32s scaleF
                         float high) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    const StandardFloatMode hold(Nearest::usesControlWord || !subnormalsVanish<float>(scaleFactor));
+    const StandardFloatMode hold(vlq::usesControlRegister<vlq::Rounding::TiesToEven> ||
+                                 !subnormalsVanish<float>(scaleFactor));
     if (scaleFactor == 0) {
         vlq::mapToPacked24(dst, src, len, ToPacked<FloatTo24<Unscaled<float>>>{{{}, low, high}});
     } else {

@@ -36,7 +36,7 @@ struct ShiftLeftTo24 {
 // An integer over 2^count, rounded to nearest even, in 24 bits.
 template <class T>
 struct RoundShiftTo24 {
-    RoundShift<TiesToEven, T> divide;
+    RoundShift<T> divide;
 
     Vec<std::int32_t> operator()(Vec<T> v) const { return ShiftLeftTo24<T>{}(divide(v)); }
 };

@@ -76,12 +76,15 @@ inline bool bypassesCache(const D* dst, std::ptrdiff_t len, const S*... src) {
 }
 
 // The whole blocks of dst[i] = op(src[i]...) by non-temporal stores; returns how many elements that
-// are. A function of its own, which leaves the registers of the usual loop alone.
+// are. A function of its own, which leaves the registers of the usual loop alone; no vectors are
+// among its arguments, lest it return with the upper halves of the registers in use.
 template <int count, class D, class Op, class... S>
-[[gnu::noinline]] std::ptrdiff_t streamBlocks(D* dst, std::ptrdiff_t len, Op op, const S*... src) {
+[[gnu::noinline]] std::ptrdiff_t streamBlocks(D* dst, std::ptrdiff_t len, const Op& op,
+                                              const S*... src) {
+    const Op hot = op;
     std::ptrdiff_t i = 0;
     for (; len - i >= count; i += count)
-        streamBlock(dst + i, op(loadBlock<S, count / Vec<S>::lanes>(src + i)...));
+        streamBlock(dst + i, hot(loadBlock<S, count / Vec<S>::lanes>(src + i)...));
     streamFence();
     return i;
 }
@@ -130,7 +133,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     const Op hot = op;
     constexpr int unroll = kMapUnroll;
     if (detail::bypassesCache(dst, len, src...)) [[unlikely]]
-        advance(detail::streamBlocks<count>(dst, len, hot, src...));
+        advance(detail::streamBlocks<count>(dst, len, op, src...));
     for (D* const end = dst + len / (unroll * count) * (unroll * count); dst != end;
          advance(unroll * count)) {
 #pragma GCC unroll 4

@@ -1,30 +1,31 @@
-// The scale rule: how an exact integer result e becomes a stored sample of type T.
+// The scale rule on vectors: how an exact integer result e becomes a stored sample of type T.
 //
-//     dst = clamp(round(e * 2^-scaleFactor)),    round: to nearest, ties to the even integer
+//     dst = clamp(round(e * 2^-scaleFactor)),    round: to nearest, ties to even
 //
-// Every 32-bit scale factor is legal. Its range is classified once, before the loop; each range
-// has a policy below that holds its constants as vectors and never forms e in full where e is
+// Every 32-bit scale factor is legal. It is classified once, before the loop, and each class has
+// an operation below that keeps its constants as vectors. None of them forms e in full where e is
 // wider than a lane:
 //
-//     Scaling::None     dst = clamp(e)                  the family's saturating operation
-//     Scaling::Left     dst = clamp(clamp(e) * 2^n)     ScaleLeft, on the saturated result or,
-//     where
-//                                                       that is dear, on lower bits and sign
-//     Scaling::Half     one bit rounded off             the family's own trick, or RoundRight
-//     Scaling::Right    more bits rounded off           ScaleRight, on e split in half and odd
-//                                                       bit, or RoundRight, in wider lanes
-//     Scaling::Vanish   dst = 0 for every e             a clear of the destination
+//     Scaling::None     dst = clamp(e)                a saturating operation
+//     Scaling::Left     dst = clamp(clamp(e) * 2^n)   ScaleLeft, on the saturated result, or on the
+//                                                     result's low bits and sign where that is
+//                                                     cheaper
+//     Scaling::Half     one bit is rounded off        an averaging operation, or RoundRight
+//     Scaling::Right    more bits are rounded off     ScaleRight on e as a half and an odd bit,
+//                                                     RoundRight or RoundRightAny on wider lanes
+//     Scaling::Vanish   dst = 0 for every e           a clear of the destination
 //
-// Clamping before a left shift is exact: a value outside the range stays outside it.
+// Clamping before a left shift is exact: a value out of range stays out of range.
 #pragma once
 
+#include "frame/scale/rounding.h"
 #include "frame/simd/saturate.h"
 
 namespace vlq {
 
 enum class Scaling { None, Left, Half, Right, Vanish };
 
-// Family::vanishesFrom<T> is the first scale factor at which no operands give anything but 0.
+// Family::vanishesFrom<T> is the first scale factor at which every result is 0.
 template <class Family, class T>
 constexpr Scaling classify(std::int32_t scaleFactor) {
     if (scaleFactor == 0) return Scaling::None;
@@ -33,15 +34,15 @@ constexpr Scaling classify(std::int32_t scaleFactor) {
     return scaleFactor == 1 ? Scaling::Half : Scaling::Right;
 }
 
-// Negative scale factors. The count ends at the value bits of T: from there on any value but 0
-// saturates, and a longer shift changes nothing.
+// Negative scale factors. The shift count is limited to the value bits of T: from there on every
+// value but 0 saturates.
 template <class T>
 class ScaleLeft {
 public:
     explicit ScaleLeft(std::int32_t scaleFactor)
         : count_(scaleFactor < -kBits ? kBits : -scaleFactor) {}
     Vec<T> operator()(Vec<T> clamped) const { return shiftLeftSat(clamped, count_); }
-    // A result of one bit more than T, by its lower bits and its sign: where clamping costs more.
+    // A result of one bit more than T, given by its low bits and its sign.
     Vec<T> operator()(Vec<T> lower, Vec<T> signBit) const {
         return shiftLeftSat(lower, signBit, count_);
     }
@@ -52,17 +53,14 @@ private:
 };
 
 // An exact integer of one bit more than T: e = 2 half + (lowest bit of odd). The other bits of odd
-// mean nothing.
+// are ignored.
 template <class T>
 struct Halved {
     Vec<T> half;
     Vec<T> odd;
 };
 
-// To the nearest: ties to the even integer, which is the rule, or away from zero.
-enum class Rounding { ToZero, TiesToEven, TiesAway };
-
-// All bits where e is negative.
+// All bits set where e is negative.
 template <class T>
 inline Vec<T> negative(Halved<T> e) {
     if constexpr (std::is_signed_v<T>)
@@ -71,9 +69,9 @@ inline Vec<T> negative(Halved<T> e) {
         return Vec<T>::zero();
 }
 
-// The lowest bit is set where a value in the middle between the quotient and the next goes up.
+// The lowest bit is set where a tie between the quotient and the next integer is rounded up.
 template <Rounding rounding, class T>
-inline Vec<T> middleGoesUp(Halved<T> e, Vec<T> quotient) {
+inline Vec<T> tieGoesUp(Halved<T> e, Vec<T> quotient) {
     if constexpr (rounding == Rounding::TiesToEven)
         return quotient;
     else if constexpr (rounding == Rounding::TiesAway)
@@ -98,13 +96,13 @@ public:
         const auto quotient = shiftRight(e.half, shift_);
         const auto remainder = e.half & remainder_;
         if constexpr (rounding == Rounding::ToZero) {
-            // From the floor up where anything was cut off a negative e.
+            // The floor is one too low where bits of a negative e are cut off.
             const auto cut = isAbove(bitCast<S>(remainder), bitCast<S>(middle_ - (e.odd & one)));
             return quotient - (bitCast<T>(cut) & negative(e));
         } else {
-            // In the middle a set odd bit lies above the tie.
-            const auto tip = (e.odd | middleGoesUp<rounding>(e, quotient)) & one;
-            return quotient - bitCast<T>(isAbove(bitCast<S>(remainder), bitCast<S>(middle_ - tip)));
+            // Where the half's remainder is at the middle, a set odd bit puts e above the tie.
+            const auto up = (e.odd | tieGoesUp<rounding>(e, quotient)) & one;
+            return quotient - bitCast<T>(isAbove(bitCast<S>(remainder), bitCast<S>(middle_ - up)));
         }
     }
 
@@ -114,8 +112,8 @@ private:
     Vec<T> remainder_, middle_;
 };
 
-// e * 2^-scaleFactor for results that fit their lane with room for half a quotient more:
-// |e| + 2^(scaleFactor-1) lies in T, 1 <= scaleFactor < width of T. The result is not clamped.
+// e * 2^-scaleFactor where the lane has headroom for rounding: |e| + 2^(scaleFactor-1) is in T,
+// 1 <= scaleFactor < width of T. The result is not clamped.
 template <class T>
 class RoundRight {
 public:
@@ -132,70 +130,49 @@ private:
     Vec<T> bias_;
 };
 
-// ---- one integer at a time ----------------------------------------------------------------------
-// For exact results that no lane holds, in an integer type Wide that does.
-template <class T, class Wide>
-constexpr T clampTo(Wide e) {
-    constexpr Wide low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
-    return static_cast<T>(e < low ? low : e > high ? high : e);
-}
-
-// clamp(e * 2^count), any count from 0 on.
-template <class T, class Wide>
-class ScalarLeft {
+// The same without headroom, for any e of the lane and 2 <= scaleFactor <= width of T.
+template <class T>
+class RoundRightAny {
 public:
-    explicit ScalarLeft(std::int64_t count)
-        : count_(count < kBits ? static_cast<int>(count) : kBits) {}
-    T operator()(Wide e) const {
-        const T value = clampTo<T>(e);
-        // Bits above the limit would be lost.
-        constexpr T low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
-        if (value > (high >> count_)) return high;
-        if (value < (low >> count_)) return low;
-        return static_cast<T>(static_cast<std::make_unsigned_t<T>>(value) << count_);
+    explicit RoundRightAny(std::int32_t scaleFactor) : scale_(scaleFactor) {}
+    Vec<T> operator()(Vec<T> e) const { return scale_({shiftRight(e, 1), e}); }
+
+private:
+    ScaleRight<T> scale_;
+};
+
+// v / 2^count rounded by any policy, for any v of the lane and 1 <= count < width of T.
+template <class T, Rounding rounding = Rounding::TiesToEven>
+class RoundShift {
+public:
+    using V = Vec<T>;
+
+    explicit RoundShift(int count)
+        : count_(count),
+          mask_(V::broadcast(static_cast<T>((std::make_unsigned_t<T>{1} << count) - 1))) {}
+
+    V operator()(V v) const {
+        using Lane = BitsOf<T>;
+        const V quotient = shiftRight(v, count_);
+        const auto up = isAbove(bitCast<Lane>(v & mask_), bitCast<Lane>(limit(v, quotient)));
+        return quotient - bitCast<T>(up);
     }
 
 private:
-    static constexpr int kBits = std::numeric_limits<T>::digits;
+    // The largest remainder that is rounded down to the quotient, which is the floor.
+    V limit(V v, V quotient) const {
+        V sign = V::zero();
+        if constexpr (std::is_signed_v<T>) sign = signMask(v);
+        if constexpr (rounding == Rounding::ToZero)
+            return mask_ & ~sign;
+        else if constexpr (rounding == Rounding::TiesAway)
+            return shiftRight(mask_, 1) - sign;
+        else
+            return shiftRight(mask_, 1) + V::broadcast(1) - (quotient & V::broadcast(1));
+    }
+
     int count_;
-};
-
-// clamp(round(e * 2^-shift)), 1 <= shift. Which values saturate is known beforehand; the others
-// leave room for half a quotient more.
-template <class T, class Wide>
-class ScalarRight {
-public:
-    static constexpr int lastShift = std::numeric_limits<T>::digits + 1;
-
-    explicit ScalarRight(int shift)
-        : shift_(shift),
-          bias_((Wide{1} << (shift - 1)) - 1),
-          low_(Wide{std::numeric_limits<T>::min()} * (Wide{1} << shift)),
-          high_(Wide{std::numeric_limits<T>::max()} * (Wide{1} << shift)) {}
-    T operator()(Wide e) const {
-        const Wide within = e < low_ ? low_ : e > high_ ? high_ : e;
-        return static_cast<T>((within + bias_ + (within >> shift_ & 1)) >> shift_);
-    }
-
-private:
-    int shift_;
-    Wide bias_, low_, high_;
-};
-
-// The same for lastShift < shift < width of Wide: every result fits. A bit goes first, which stays
-// noted in the lowest one.
-template <class T, class Wide>
-class ScalarRightFar {
-public:
-    explicit ScalarRightFar(int shift) : shift_(shift - 1), bias_((Wide{1} << (shift - 2)) - 1) {}
-    T operator()(Wide e) const {
-        const Wide half = e >> 1 | (e & 1);
-        return static_cast<T>((half + bias_ + (half >> shift_ & 1)) >> shift_);
-    }
-
-private:
-    int shift_;
-    Wide bias_;
+    V mask_;
 };
 
 }  // namespace vlq
