@@ -38,7 +38,7 @@ VlqStatus roundedToInteger(const From* src, To* dst, std::int64_t len, VlqRoundM
     return vlqStsOk;
 }
 
-// Op<Scale> with 2^-scaleFactor, after scaleFactor was brought into [lowest, highest].
+// Op<Scale> with 2^-scaleFactor, with scaleFactor clamped to [lowest, highest].
 template <template <class> class Op, class T, class From>
 VlqStatus toScaled(const From* src, T* dst, Vlq32s len, Vlq32s scaleFactor, int lowest,
                    int highest) {

@@ -58,7 +58,7 @@ inline void copyBits(const Byte* src, int srcOffset, Byte* dst, int dstOffset, s
     if (rest > 0) writeBits(dst + whole, 0, rest, readBits(src + whole, srcOffset, rest));
 }
 
-// The sum of the widths, each brought into 0 to 32, and whether one had to be.
+// The sum of the widths, each clamped to 0 to 32, and whether one had to be.
 struct Widths {
     std::int64_t total;
     bool clamped;

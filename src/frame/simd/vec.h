@@ -302,8 +302,10 @@ inline Vec<T, B> loadPartial(const T* p, int count) {
 }
 
 // Stores the first `count` lanes (0 to lanes) and writes nothing else.
+// The vector comes by reference: a function with wide vectors among its arguments, where it is not
+// inlined, returns with the upper halves of the registers in use.
 template <class T, int B>
-inline void storePartial(T* p, Vec<T, B> v, int count) {
+inline void storePartial(T* p, const Vec<T, B>& v, int count) {
     [[maybe_unused]] const int byteCount = count * static_cast<int>(sizeof(T));
     if constexpr (B == 16) {
         if (count >= Vec<T, B>::lanes)
