@@ -415,4 +415,18 @@ inline bool any(Vec<T, B> mask) {
 #endif
 }
 
+// True when all lanes of the mask are set.
+template <class T, int B>
+inline bool all(Vec<T, B> mask) {
+    if constexpr (B == 16) return _mm_movemask_epi8(asInt(mask)) == 0xFFFF;
+#if VLQ_SIMD_BYTES >= 32
+    else if constexpr (B == 32)
+        return _mm256_movemask_epi8(asInt(mask)) == -1;
+#endif
+#if VLQ_SIMD_BYTES >= 64
+    else if constexpr (B == 64)
+        return !any(~mask);
+#endif
+}
+
 }  // namespace vlq
