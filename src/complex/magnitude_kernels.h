@@ -52,7 +52,8 @@ inline Vec<double> magnitudes(Split<double> v) {
         (sum >= V::broadcast(0x1p-900)) & (sum <= V::broadcast(std::numeric_limits<double>::max()));
     if (!any(~isNormal)) [[likely]]
         return root;
-    const auto isLarge = sum >= V::broadcast(1.0);
+    const auto one = V::broadcast(1.0);
+    const auto isLarge = (absolute(v.re) >= one) | (absolute(v.im) >= one);
     const auto factor = select(isLarge, V::broadcast(0x1p-600), V::broadcast(0x1p600)),
                inverse = select(isLarge, V::broadcast(0x1p600), V::broadcast(0x1p-600));
     const auto precise = squareRoot(squaredMagnitudes({v.re * factor, v.im * factor})) * inverse;
@@ -94,7 +95,7 @@ private:
 };
 
 // ---- 32-bit parts -------------------------------------------------------------------------------
-__extension__ typedef unsigned __int128 Bits128Unsigned;
+__extension__ typedef unsigned __int128 Wide;
 
 // Doubles are precise enough for all results but those next to a value halfway between two integers,
 // which are decided by their squares.
@@ -140,8 +141,8 @@ private:
             if (fraction < 0.25 || fraction > 0.75) continue;
             // (2 root)^2 against (2 below + 1)^2 2^(2 scaleFactor)
             const auto square = [](std::int64_t x) { return static_cast<std::uint64_t>(x * x); };
-            const Bits128Unsigned left = Bits128Unsigned{square(v.re[i]) + square(v.im[i])} << 2;
-            const Bits128Unsigned right = square(2 * below + 1);
+            const Wide left = Wide{square(v.re[i]) + square(v.im[i])} << 2;
+            const Wide right = square(2 * below + 1);
             const int shift = 2 * scaleFactor_;
             const auto a = shift < 0 ? left << -shift : left,
                        b = shift > 0 ? right << shift : right;

@@ -43,19 +43,23 @@ inline Split<T> deinterleave(Vec<T> a, Vec<T> b) {
 }
 template <class T>
 inline Block<T, 2> interleave(Split<T> v) {
+    if constexpr (std::is_integral_v<T>) {
+        static_assert(sizeof(T) == 4);
+        const auto pairs = interleave(Split<float>{bitCast<float>(v.re), bitCast<float>(v.im)});
+        return {{bitCast<T>(pairs.part[0]), bitCast<T>(pairs.part[1])}};
+    } else {
+        Block<T, 2> pairs;
 #if VLQ_SIMD_BYTES == 64
-    constexpr int lanes = Vec<T>::lanes;
-    return {{detail::pick(v.re, v.im, [](int i) { return i / 2 + i % 2 * lanes; }),
-             detail::pick(v.re, v.im, [](int i) { return (i + lanes) / 2 + i % 2 * lanes; })}};
-#elif VLQ_SIMD_BYTES == 32
-    Block<T, 2> pairs;
-    detail::join(v, pairs.part[0], pairs.part[1]);
-    return inMemoryOrder(pairs);
+        constexpr int lanes = Vec<T>::lanes;
+        pairs.part[0] = detail::pick(v.re, v.im, [](int i) { return i / 2 + i % 2 * lanes; });
+        pairs.part[1] =
+            detail::pick(v.re, v.im, [](int i) { return (i + lanes) / 2 + i % 2 * lanes; });
 #else
-    Block<T, 2> pairs;
-    detail::join(v, pairs.part[0], pairs.part[1]);
-    return pairs;
+        detail::join(v, pairs.part[0], pairs.part[1]);
+        pairs = inMemoryOrder(pairs);
 #endif
+        return pairs;
+    }
 }
 
 // Parts of 16 bits: an interleaved value is a lane of 32.
