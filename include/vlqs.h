@@ -14,6 +14,7 @@
 #include "vlqs/frame.h"
 
 #include "vlqs/arith.h"
+#include "vlqs/complex.h"
 #include "vlqs/convert.h"
 #include "vlqs/fft.h"
 #include "vlqs/fir.h"
