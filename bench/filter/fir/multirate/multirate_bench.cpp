@@ -85,8 +85,8 @@ void row(const std::string& work, int outputs, const std::string& peer, double b
                    std::move(theirs)});
 }
 
-// As many multiplications through the single-rate filter of 96 taps, in blocks that it computes
-// directly.
+// As many multiplications through the single-rate filter of 96 taps, in blocks that it filters in
+// the time domain.
 const char* const kSameWork = "as many multiplications, single rate";
 
 }  // namespace
