@@ -97,7 +97,8 @@ template <int B, int Parts, int PairsOfLoad>
     for (int v = 0; v < vectors; ++v) {
         pattern[0][v] = loadAligned<Vlq16s, B>(newest + v * lanes);
         for (int k = 1; k < PairsOfLoad; ++k)
-            pattern[k][v] = pattern[0][v] - V::broadcast(k * (pickIndex(2) - pickIndex(0)));
+            pattern[k][v] = pattern[0][v] -
+                            V::broadcast(static_cast<Vlq16s>(k * (pickIndex(2) - pickIndex(0))));
     }
     auto first = Vec<Vlq32s, B>::zero(), second = first;
     auto addPairs = [&]<int Count>(std::integral_constant<int, Count>) {
