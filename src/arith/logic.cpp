@@ -1,3 +1,4 @@
+// Bitwise operations on two vectors, on a vector and a constant, and NOT.
 #include "arith/logic_kernels.h"
 #include "frame/loop/element_views.h"
 

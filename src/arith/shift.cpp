@@ -1,3 +1,4 @@
+// Shifts of every element by one count.
 #include "arith/shift_kernels.h"
 #include "frame/loop/element_views.h"
 

@@ -1,3 +1,4 @@
+// Conversions between integers and floats, and between floats of both widths.
 #include "convert/floating_kernels.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Conversions to and from half-precision (binary16) numbers.
 #include "convert/half_kernels.h"
 
 #include "frame/simd/control.h"

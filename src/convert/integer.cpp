@@ -1,3 +1,4 @@
+// Conversions of integers to integers of another width.
 #include "convert/integer_kernels.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Interleaved integer samples to one float vector per channel, and back.
 #include "convert/interleave_kernels.h"
 
 #include "frame/simd/control.h"

@@ -1,3 +1,4 @@
+// Conversions to and from packed 24-bit integers.
 #include "convert/packed24_kernels.h"
 
 #include <algorithm>

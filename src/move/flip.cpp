@@ -1,3 +1,4 @@
+// Reversal of vectors.
 #include "frame/loop/reverse.h"
 #include "vlqs/arith.h"
 #include "vlqs/move.h"

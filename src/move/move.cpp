@@ -1,3 +1,4 @@
+// Zero, set, copy and move.
 #include "vlqs/move.h"
 #include "frame/loop/bulk.h"
 #include "vlqs/arith.h"

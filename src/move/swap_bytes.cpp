@@ -1,3 +1,4 @@
+// Byte order of elements, reversed.
 #include "move/swap_bytes_kernels.h"
 
 #include "vlqs/arith.h"

@@ -1,27 +1,32 @@
-// Checks that every form of the sums and differences goes through, against the plain definition.
-// A form is called through a function over reals: complex forms see twice as many of them.
+// Checks that every variant of the sums and differences goes through, against the plain definition.
+// A variant is called through a function over reals: complex variants see twice as many of them.
 #pragma once
 
 #include <functional>
 
 #include "arith/add_ref.h"
 #include "harness/digest.h"
+#include "harness/effort.h"
 #include "harness/sweep.h"
 #include "vlqs/arith.h"
 
 namespace vlqtest {
 
-// All ranges of every type with their ends, and the far ends of the scale factor.
-inline std::vector<int> scaleFactors() {
+// All classes of scale factors of a type with their limits, and the far ends. The classes end a few
+// bits beyond the type's width.
+template <class T>
+std::vector<int> scaleFactors() {
     std::vector<int> all;
-    for (int s = -70; s <= 70; ++s) all.push_back(s);
+    const int last =
+        byEffort(8 * static_cast<int>(sizeof(T)) + 3, 8 * static_cast<int>(sizeof(T)) + 3, 70);
+    for (int s = -last; s <= last; ++s) all.push_back(s);
     for (const int s : {INT32_MIN, INT32_MIN + 1, -65536, -1000, -256, 256, 1000, 65536,
                         INT32_MAX - 1, INT32_MAX})
         all.push_back(s);
     return all;
 }
 
-// One of each range of a type, and what lies around its width.
+// One of each class of a type, and those around its width.
 template <class T>
 std::vector<int> someScaleFactors() {
     const int bits = 8 * static_cast<int>(sizeof(T));
@@ -29,12 +34,13 @@ std::vector<int> someScaleFactors() {
             bits + 2, -1, 1 - bits, -bits / 2, -bits - 1, INT32_MIN};
 }
 
-// Values around the powers of two, where a sum changes its range.
+// Values around the powers of two, where a sum begins to overflow or to round.
 template <class T>
 std::vector<T> corners() {
     std::vector<T> values;
     for (int shift = 0; shift <= std::numeric_limits<T>::digits; ++shift) {
-        for (int d = -2; d <= 2; ++d) {
+        const int most = byEffort(1, 1, 2);
+        for (int d = -most; d <= most; ++d) {
             const auto value = static_cast<T>((std::uint64_t{1} << (shift < 64 ? shift : 63)) +
                                               static_cast<std::uint64_t>(d));
             values.push_back(value);
@@ -104,7 +110,7 @@ std::vector<T> wanted(const std::vector<T>& a, const std::vector<T>& b, Element<
 }
 
 // Lengths, offsets and guard pages, with the scale factors in turn; in place, over the first and
-// over the second source, and of one vector alone. Either form may be absent.
+// over the second source, and of one vector alone. Either variant may be absent.
 template <class T>
 void checkPlaces(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T> ref,
                  const std::vector<int>& factors, std::size_t unit = 1) {
@@ -140,7 +146,7 @@ void checkPlaces(const TwoVectors<T>& call, const InPlace<T>& inPlace, Element<T
     });
 }
 
-// A form in place as one of two vectors.
+// An in-place variant as one of two vectors.
 template <class T>
 TwoVectors<T> asTwo(const InPlace<T>& call) {
     return [call](const T* a, const T* b, T* d, int len, int s) {
@@ -148,7 +154,7 @@ TwoVectors<T> asTwo(const InPlace<T>& call) {
         return call(a, d, len, s);
     };
 }
-// A form of complex values as one of twice as many reals.
+// A complex variant as one of twice as many reals.
 template <class T>
 TwoVectors<T> asReals(const TwoVectors<T>& call) {
     return
@@ -160,30 +166,30 @@ InPlace<T> asReals(const InPlace<T>& call) {
 }
 
 template <class T>
-void checkPairs(const std::vector<TwoVectors<T>>& forms, Element<T> ref, const std::vector<T>& a,
+void checkPairs(const std::vector<TwoVectors<T>>& variants, Element<T> ref, const std::vector<T>& a,
                 const std::vector<T>& b, int scaleFactor) {
     const auto want = wanted<T>(a, b, ref, scaleFactor);
-    for (std::size_t form = 0; form < forms.size(); ++form) {
+    for (std::size_t k = 0; k < variants.size(); ++k) {
         std::vector<T> dst(a.size());
-        ASSERT_EQ(vlqStsOk, forms[form](a.data(), b.data(), dst.data(), static_cast<int>(a.size()),
+        ASSERT_EQ(vlqStsOk, variants[k](a.data(), b.data(), dst.data(), static_cast<int>(a.size()),
                                         scaleFactor));
         for (std::size_t i = 0; i < a.size(); ++i) {
             ASSERT_EQ(want[i], dst[i]) << +a[i] << " and " << +b[i] << " at scale factor "
-                                       << scaleFactor << ", form " << form;
+                                       << scaleFactor << ", variant " << k;
         }
     }
 }
 
 // All pairs of corners, and random ones, at every scale factor given. An even number of each.
 template <class T>
-void checkValues(const std::vector<TwoVectors<T>>& forms, Element<T> ref, std::size_t randomPairs,
-                 const std::vector<int>& factors = scaleFactors()) {
+void checkValues(const std::vector<TwoVectors<T>>& variants, Element<T> ref,
+                 std::size_t randomPairs, const std::vector<int>& factors = scaleFactors<T>()) {
     std::vector<T> a, b;
     appendCornerPairs(a, b);
     Rng rng(seed());
     for (const int scaleFactor : factors) {
-        checkPairs<T>(forms, ref, a, b, scaleFactor);
-        checkPairs<T>(forms, ref, extremeVector<T>(randomPairs, rng),
+        checkPairs<T>(variants, ref, a, b, scaleFactor);
+        checkPairs<T>(variants, ref, extremeVector<T>(randomPairs, rng),
                       extremeVector<T>(randomPairs, rng), scaleFactor);
         if (::testing::Test::HasFailure()) return;
     }

@@ -1,3 +1,4 @@
+// Quotients of floats, real and complex.
 #include <bit>
 
 #include "arith/divide_float_ref.h"

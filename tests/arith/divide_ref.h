@@ -5,12 +5,9 @@
 #include <cstdint>
 #include <limits>
 
-#include "vlqs/types.h"
+#include "harness/scale_ref.h"
 
 namespace vlqtest {
-
-__extension__ typedef __int128 Exact;
-__extension__ typedef unsigned __int128 ExactMagnitude;
 
 template <class T>
 T clampFloatRef(double v) {

@@ -1,3 +1,4 @@
+// Quotients of integers.
 #include "arith/divide_ref.h"
 
 #include "arith/scaled_checks.h"
@@ -114,7 +115,7 @@ TEST(Div, Scaled16sc) {
 // stays within a step or within the precision.
 TEST(Div, CloseToExact16s) {
     Rng rng(seed());
-    for (int i = 0; i < 1'000'000; ++i) {
+    for (int i = 0; i < byEffort(10'000, 100'000, 1'000'000); ++i) {
         const auto n = extremeValue<Vlq16s>(rng), d = extremeValue<Vlq16s>(rng);
         const int s = static_cast<int>(rng() % 48) - 31;
         if (d == 0) continue;
@@ -171,8 +172,8 @@ void checkRounded(Rounded<T> call, RoundedInPlace<T> inPlace) {
         for (const int mode : {vlqRndZero, vlqRndNear, vlqRndFinancial}) {
             std::vector<T> a, b;
             appendCornerPairs(a, b);
-            appendRandom(a, 25500, rng);
-            appendRandom(b, 25500, rng);
+            appendRandom(a, byEffort<std::size_t>(255, 2550, 25500), rng);
+            appendRandom(b, byEffort<std::size_t>(255, 2550, 25500), rng);
             const int len = static_cast<int>(a.size());
             auto dst = a, dstInPlace = b;
             ASSERT_EQ(vlqStsWarnDivByZero,
@@ -273,7 +274,8 @@ TEST(DivC, Scaled16u) {
 TEST(DivC, Scaled16sc) {
     Rng rng(seed());
     auto source = cornerValues<Vlq16sc>();
-    for (int i = 0; i < 7500; ++i) source.push_back(extremeElement<Vlq16sc>(rng));
+    for (int i = 0; i < byEffort(75, 750, 7500); ++i)
+        source.push_back(extremeElement<Vlq16sc>(rng));
     auto constants = cornerValues<Vlq16sc>();
     for (int i = 0; i < 40; ++i) constants.push_back(extremeElement<Vlq16sc>(rng));
     const auto check = [](Vlq16s got, Exact n, Exact d, int s) {

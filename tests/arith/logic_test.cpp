@@ -1,3 +1,4 @@
+// Bitwise operations.
 #include "arith/logic_ref.h"
 
 #include "harness/sweep.h"

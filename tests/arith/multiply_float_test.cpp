@@ -1,3 +1,4 @@
+// Products of floats, real and complex.
 #include "arith/multiply_float_ref.h"
 
 #include "harness/element.h"

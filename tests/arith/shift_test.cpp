@@ -1,3 +1,4 @@
+// Shifts by a constant count.
 #include "arith/shift_ref.h"
 
 #include <limits>

@@ -1,3 +1,4 @@
+// Conversions to and from half-precision numbers.
 #include "convert/half_ref.h"
 
 #include <xmmintrin.h>

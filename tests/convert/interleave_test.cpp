@@ -1,3 +1,4 @@
+// Interleaved samples to one vector per channel, and back.
 #include "convert/interleave_ref.h"
 
 #include <xmmintrin.h>

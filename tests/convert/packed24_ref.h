@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "convert/floating_ref.h"
-#include "convert/integer_ref.h"
+#include "harness/scale_ref.h"
 
 namespace vlqtest {
 
@@ -17,9 +17,10 @@ inline std::int32_t unpackRef(const std::uint8_t* p, bool isSigned) {
 inline void packRef(std::vector<std::uint8_t>& bytes, std::int64_t value) {
     for (int i = 0; i < 3; ++i) bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
 }
-inline std::int64_t saturate24Ref(Wide value, bool isSigned) {
-    return static_cast<std::int64_t>(
-        clampTo(value, isSigned ? -8388608 : 0, isSigned ? 8388607 : 16777215));
+// Scaled and saturated to 24 bits.
+inline std::int64_t scale24Ref(Exact value, std::int32_t scaleFactor, bool isSigned) {
+    return static_cast<std::int64_t>(scaleRef(
+        value, scaleFactor, vlqRndNear, isSigned ? -8388608 : 0, isSigned ? 8388607 : 16777215));
 }
 inline std::int64_t floatTo24Ref(float value, bool isSigned, std::int32_t scaleFactor) {
     const float product = scaleFactor == 0 ? value : value * stepwiseFactor<float>(scaleFactor);

@@ -1,3 +1,4 @@
+// Conversions to and from packed 24-bit integers.
 #include "convert/packed24_ref.h"
 
 #include <xmmintrin.h>
@@ -120,16 +121,14 @@ std::vector<T> powersAndNeighbours() {
 TEST(Packed24, From32s) {
     checkToPacked<Vlq32s>(
         vlqsConvert_32s24s_Sfs,
-        [](Vlq32s v, int s) { return saturate24Ref(scaleRef(v, std::clamp(s, -31, 31), 1), true); },
-        kScaleFactors, powersAndNeighbours<Vlq32s>());
+        [](Vlq32s v, int s) { return scale24Ref(v, std::min(s, 31), true); }, kScaleFactors,
+        powersAndNeighbours<Vlq32s>());
 }
 TEST(Packed24, From32u) {
     checkToPacked<Vlq32u>(
         vlqsConvert_32u24u_Sfs,
-        [](Vlq32u v, int s) {
-            return saturate24Ref(scaleRef(v, std::clamp(s, -31, 31), 1), false);
-        },
-        kScaleFactors, powersAndNeighbours<Vlq32u>());
+        [](Vlq32u v, int s) { return scale24Ref(v, std::min(s, 31), false); }, kScaleFactors,
+        powersAndNeighbours<Vlq32u>());
 }
 
 std::vector<float> floatEdges() {

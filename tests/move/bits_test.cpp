@@ -1,3 +1,4 @@
+// Copying and packing of bit streams.
 #include "move/bits_ref.h"
 
 #include <limits>

@@ -1,3 +1,4 @@
+// Reversal of vectors.
 #include <algorithm>
 #include <array>
 

@@ -1,3 +1,4 @@
+// Zero, set, copy and move, also where the two vectors overlap.
 #include <array>
 
 #include "harness/sweep.h"

@@ -1,3 +1,4 @@
+// Reversed byte order.
 #include <algorithm>
 #include <array>
 
