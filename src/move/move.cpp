@@ -8,8 +8,8 @@ namespace {
 using vlq::Byte;
 using Pattern = vlq::Vec<Byte>;
 
-// The long runs are functions of their own, called last: so the short ones, where the call itself
-// is the cost, go without a stack frame.
+// Long vectors are handled by functions of their own in tail calls, so that short ones, where the call
+// itself is the cost, need no stack frame.
 template <std::size_t Period>
 [[gnu::noinline]] VlqStatus fillLongRun(Byte* dst, std::size_t bytes, Pattern pattern) {
     vlq::fillLong<Period>(dst, bytes, pattern);

@@ -1,7 +1,7 @@
-// Element-wise loops: dst[i] = op(src[i]...). A short head brings dst to a vector boundary, blocks
-// follow, and a partial vector takes what remains, all with the same operation, so a result does
-// not depend on alignment or length. Each block is read whole before it is written: dst may be
-// one of the sources. Nothing outside the vectors is touched.
+// Element-wise loops: dst[i] = op(src[i]...). A short head aligns dst to a vector boundary, blocks
+// follow, and a partial vector takes the rest, all with the same operation, so that results do not
+// depend on alignment or length. Each block is read completely before it is written, so dst may be
+// one of the sources. Nothing outside the vectors is read or written.
 #pragma once
 
 #include "frame/simd/cache.h"
@@ -36,7 +36,7 @@ inline Block<T, N> loadBlockPartial(const T* p, int count) {
     }
     return block;
 }
-// All bits in the lanes past the first `count`.
+// All bits set in the lanes after the first `count`.
 template <class T>
 inline Vec<T> unusedLanes(std::ptrdiff_t count) {
     BitsOf<T> mask[Vec<T>::lanes];
@@ -94,9 +94,10 @@ inline constexpr bool marksUnused = requires {
     requires Op::kMarkUnused;
 };
 
-// op takes one Block a source and gives a Block of D; a block is one vector of the narrowest type.
-// Elements that belong together, as the two parts of a complex value, are a group: len counts
-// whole groups' elements and no group is split over two vectors.
+// op takes one Block per source and returns a Block of D; a block is as many elements as one vector of
+// the narrowest type holds.
+// Elements that belong together, as the two parts of a complex value, form a group. len counts
+// elements and is a multiple of the group; no group is split over two vectors.
 template <int group = 1, class D, class Op, class... S>
 inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     constexpr int count = kVecBytes / detail::kNarrowest<D, S...>;
@@ -125,8 +126,8 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
         partial(head);
         advance(head);
     }
-    // The compiler may outline what ends the vector and hand it op by address. The loops have their
-    // own, whose constants then stay in registers; captures by value keep them reachable.
+    // The compiler may outline the partial blocks and pass them op by address. The loops use a copy,
+    // so that its constants stay in registers.
     const Op hot = op;
     constexpr int unroll = kMapUnroll;
     if (detail::bypassesCache(dst, len, src...)) [[unlikely]]
@@ -147,7 +148,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
     if (len > 0) partial(static_cast<int>(len));
 }
 
-// All types of one size: op takes and gives plain vectors.
+// All types of one size: op takes and returns single vectors.
 template <int group = 1, class D, class Op, class... S>
 inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     static_assert(((sizeof(S) == sizeof(D)) && ...));
@@ -156,7 +157,7 @@ inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
         src...);
 }
 
-// One element at a time, for operations that no vector instruction serves: dst[i] = op(src[i]...).
+// One element at a time, for operations without vector instructions: dst[i] = op(src[i]...).
 template <class D, class Op, class... S>
 inline void mapScalars(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
     const auto element = []<class T>(const T* p) {

@@ -10,7 +10,7 @@ namespace vlq {
 // Bytes that one thread can expect to keep in the last-level cache. The C library asked the
 // processor when it was loaded, so this costs a few nanoseconds. Server processors and hypervisors
 // report the caches of all cores together, of which a core fills only the slice nearest to it:
-// hence the limit. It also stands in where nothing is reported.
+// hence the limit, which also serves where nothing is reported.
 inline std::size_t cacheBytes() {
     constexpr long limit = 32L << 20;
     long bytes = 0;
