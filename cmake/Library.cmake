@@ -4,6 +4,10 @@
 find_package(Threads REQUIRED)
 file(GLOB_RECURSE VLQS_SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/*.cpp)
 
+# A transform keeps its public name in a backtrace: its body does not end in a jump to a kernel.
+file(GLOB VLQS_TRANSFORMS CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/fourier/fft_*.cpp)
+set_source_files_properties(${VLQS_TRANSFORMS} PROPERTIES COMPILE_OPTIONS -fno-optimize-sibling-calls)
+
 set(VLQS_simd_bytes_s2 16)
 set(VLQS_simd_bytes_v3 32)
 set(VLQS_simd_bytes_v4 64)
@@ -39,6 +43,12 @@ function(vlqs_add_library target level)
   target_compile_options(${target} PRIVATE
     -march=${VLQS_arch_${level}} -fvisibility=hidden -fvisibility-inlines-hidden
     -ffp-contract=off -fno-math-errno -fno-exceptions)
+  # A function with a wide vector among its arguments returns with the upper halves of the registers
+  # in use, and leaves it to its caller to clear them, which GCC's callers do not. This pass makes
+  # such arguments out of references.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT level STREQUAL "s2")
+    target_compile_options(${target} PRIVATE -fno-ipa-sra)
+  endif()
   target_link_libraries(${target} PUBLIC vlqcore PRIVATE m Threads::Threads)
   set_target_properties(${target} PROPERTIES
     OUTPUT_NAME vlqs

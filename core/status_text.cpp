@@ -3,13 +3,13 @@
 
 const char* vlqGetStatusString(VlqStatus status) {
     switch (status) {
-        case vlqStsWarnBitWidth: return "A bit width was brought into 0 to 32.";
+        case vlqStsWarnBitWidth: return "A bit width was clamped to 0 to 32.";
         case vlqStsWarnNaN: return "A sample is not a number.";
         case vlqStsWarnLnNegative: return "Logarithm of a negative sample.";
         case vlqStsWarnLnZero: return "Logarithm of a zero sample.";
         case vlqStsWarnDivByZero: return "A sample was divided by zero.";
         case vlqStsWarnEvenMask: return "An even median mask was shortened by one.";
-        case vlqStsWarnInvZero: return "A zero sample was to be inverted.";
+        case vlqStsWarnInvZero: return "A zero sample was inverted.";
         case vlqStsWarnSqrtNegArg: return "Square root of a negative sample.";
         case vlqStsOk: return "The call succeeded.";
         case vlqStsBadArg: return "A mode or parameter is outside its set.";
@@ -21,9 +21,9 @@ const char* vlqGetStatusString(VlqStatus status) {
         case vlqStsBadCauchyParam: return "The Cauchy parameter is not positive.";
         case vlqStsBadScale: return "The scale stored with the taps is negative.";
         case vlqStsBadOrder: return "A transform order is out of range.";
-        case vlqStsBadFlag: return "A normalisation flag is outside its set.";
-        case vlqStsBadSpec: return "The record is dead or of another kind.";
-        case vlqStsThresholdRange: return "The low threshold lies above the high one.";
+        case vlqStsBadFlag: return "A normalization flag is outside its set.";
+        case vlqStsBadSpec: return "The state or spec is not alive or is of another kind.";
+        case vlqStsThresholdRange: return "The low threshold is above the high one.";
         case vlqStsThresholdNegative: return "A threshold on magnitudes is negative.";
         case vlqStsBadDlyIndex: return "A delay-line index is out of range.";
         case vlqStsBadFilterOrder: return "An IIR order is out of range.";

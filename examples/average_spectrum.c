@@ -1,3 +1,4 @@
+/* Windowed frames through the real transform, their power summed line by line. */
 #include "average_spectrum.h"
 
 #include <math.h>

@@ -1,3 +1,4 @@
+/* The glyphs of the bitmap font: printable ASCII, five pixels wide. */
 #include "bitmap_font.h"
 
 /* Sixteen characters a block, in ASCII order from the space, each block as it looks. */

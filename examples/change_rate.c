@@ -1,3 +1,4 @@
+/* Reads a recording in blocks, changes its sampling rate and writes it to another file. */
 #include "change_rate.h"
 
 #include <errno.h>

@@ -1,3 +1,4 @@
+/* Messages and a progress bar on standard error. */
 #include "console.h"
 
 #include <stdarg.h>

@@ -1,3 +1,4 @@
+/* The level of a signal in dBFS. */
 #include "level.h"
 
 #include <math.h>

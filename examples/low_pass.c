@@ -1,10 +1,9 @@
+/* Designs the low-pass filter of the examples by the window method. */
 #include "low_pass.h"
 
 #include <math.h>
 
-/* By the window method.
- *
- * The ideal low-pass with cut-off f (a share of the sample rate) has the impulse response
+/* The ideal low-pass with cut-off f (a share of the sample rate) has the impulse response
  * sin(2 pi f t) / (pi t), which never ends. It is centred on the taps, cut to their number, and
  * faded by a Hamming window, which keeps the ripple at a five-hundredth (53 dB) where plain
  * cutting would leave a tenth. The price is a slope: about 3.3 / count of the sample rate from pass

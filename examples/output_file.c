@@ -1,3 +1,4 @@
+/* Output under a temporary name that becomes the final one on success. */
 #include "output_file.h"
 
 #include <errno.h>

@@ -6,9 +6,8 @@
 
 typedef struct {
     const char* path; /* where the file will be */
-    char*
-        temporary; /* where it is until it is complete, in the same folder; null when there is none */
-    int descriptor; /* open for writing; the caller closes it */
+    char* temporary; /* where it is until it is complete, in the same folder; null: there is none */
+    int descriptor;  /* open for writing; the caller closes it */
 } OutputFile;
 
 /* Creates the temporary file. From now on a signal that ends the program removes it. At most two

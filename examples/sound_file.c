@@ -1,3 +1,4 @@
+/* Opens sound files of 16-bit samples with libsndfile. */
 #include "sound_file.h"
 
 #include <errno.h>
@@ -51,25 +52,32 @@ static bool isCompleteWav(const char* path) {
     return complete;
 }
 
-SNDFILE* openSound(const char* path, SF_INFO* info) {
+SNDFILE* openWav(const char* path, SF_INFO* info) {
     if (!isCompleteWav(path)) return NULL;
 
     *info = (SF_INFO){0};
     SNDFILE* sound = sf_open(path, SFM_READ, info);
     if (!sound) {
         complain("%s is not a WAV file that can be read.", path);
-        return NULL;
-    }
-    if ((info->format & SF_FORMAT_SUBMASK) != SF_FORMAT_PCM_16) {
-        SF_FORMAT_INFO kind = {.format = info->format & SF_FORMAT_SUBMASK};
-        if (sf_command(NULL, SFC_GET_FORMAT_INFO, &kind, sizeof kind) != 0)
-            kind.name = "another kind";
-        complain("%s holds %s samples, but this program filters 16-bit ones.", path, kind.name);
     } else if (info->frames < 1) {
         complain("%s holds no samples.", path);
     } else {
         return sound;
     }
+    if (sound) sf_close(sound);
+    return NULL;
+}
+
+const char* sampleKind(const SF_INFO* info) {
+    SF_FORMAT_INFO kind = {.format = info->format & SF_FORMAT_SUBMASK};
+    const int failure = sf_command(NULL, SFC_GET_FORMAT_INFO, &kind, sizeof kind);
+    return failure == 0 ? kind.name : "another kind of";
+}
+
+SNDFILE* openSound(const char* path, SF_INFO* info) {
+    SNDFILE* sound = openWav(path, info);
+    if (!sound || (info->format & SF_FORMAT_SUBMASK) == SF_FORMAT_PCM_16) return sound;
+    complain("%s holds %s samples, but this program takes 16-bit ones.", path, sampleKind(info));
     sf_close(sound);
     return NULL;
 }

@@ -1,3 +1,4 @@
+/* Draws average spectra as a plot and writes it as PNG. */
 #include "spectrum_png.h"
 
 #include <math.h>

@@ -17,6 +17,7 @@
 #include "vlqs/convert.h"
 #include "vlqs/fft.h"
 #include "vlqs/fir.h"
+#include "vlqs/limit.h"
 #include "vlqs/move.h"
 
 #endif

@@ -1,15 +1,25 @@
 #!/usr/bin/env bash
-# Measures the error of the transforms on every build that this processor supports, with the program
-# that tools/run-bench.sh has built, and writes docs/accuracy.md and its plot docs/accuracy.svg.
+# Builds the programs that measure errors, runs them on every build that this processor supports, and
+# writes docs/accuracy.md and its plot docs/accuracy.svg. bench/maths/*_accuracy.cpp print rows
+# "build, function, interval, largest error in ulp, limit in ulp", separated by tabs.
 set -eu
 cd "$(dirname "$0")/.."
+mkdir -p build
+{ cmake --preset bench && cmake --build --preset bench --target accuracy -j "$(nproc)"; } >build/accuracy-build.log 2>&1 ||
+    { tail -n 40 build/accuracy-build.log; exit 1; }
 
 rows=$(mktemp)
-trap 'rm -f "$rows"' EXIT
+maths=$(mktemp)
+trap 'rm -f "$rows" "$maths"' EXIT
 for folder in build/bench/lib/s2 build/bench/lib/v3 build/bench/lib/v4; do
     tag=$(basename "$folder")
     if [ "$tag" = s2 ] || /lib64/ld-linux-x86-64.so.2 --help | grep -q "x86-64-$tag (supported"; then
-        LD_LIBRARY_PATH=$folder:build/bench/lib/core build/bench/bin/fourier_fft_accuracy >>"$rows"
+        export LD_LIBRARY_PATH=$folder:build/bench/lib/core
+        build/bench/bin/fourier_fft_accuracy >>"$rows"
+        for program in build/bench/bin/maths_*_accuracy; do
+            if [ -x "$program" ]; then "$program" >>"$maths"; fi
+        done
+        unset LD_LIBRARY_PATH
     fi
 done
 
@@ -39,7 +49,7 @@ PLOT
 awk -F '\t' '
     BEGIN {
         print "# Accuracy of the power-of-two transforms\n"
-        print "Written by `make bench`; the program is `bench/fourier/fft_accuracy.cpp`.\n"
+        print "Written by `make accuracy`; the program is `bench/fourier/fft_accuracy.cpp`.\n"
         print "The samples are uniform in (-1, 1). The error is |measured - exact| / |exact| in the L2 norm, where the"
         print "exact transform is computed in 80-bit arithmetic, and it is given in units of sqrt(log2 N) u, with"
         print "u = 2^-24 in single and 2^-53 in double precision. The limit is 0.75 forward and 1.5 for the round trip,"
@@ -74,4 +84,28 @@ awk -F '\t' '
             }
         }
     }' "$rows" >docs/accuracy.md
+
+if [ -s "$maths" ]; then
+    awk -F '\t' '
+        BEGIN {
+            print "\n# Accuracy of the mathematical functions\n"
+            print "The largest error found in each interval, in units in the last place.\n"
+            print "| function | interval | s2 | v3 | v4 | limit |\n|---|---|---:|---:|---:|---:|"
+        }
+        {
+            k = $2 FS $3
+            if (!(k in limit)) keys[++count] = k
+            error[k, $1] = $4; limit[k] = $5
+            if ($4 + 0 > $5 + 0) tooLarge = 1
+        }
+        function cell(k, tag) { return ((k, tag) in error) ? error[k, tag] : "-" }
+        END {
+            for (i = 1; i <= count; i++) {
+                k = keys[i]
+                split(k, name, FS)
+                printf "| %s | %s | %s | %s | %s | %s |\n", name[1], name[2], cell(k, "s2"), cell(k, "v3"), cell(k, "v4"), limit[k]
+            }
+            if (tooLarge) { print "an error is over its limit" > "/dev/stderr"; exit 1 }
+        }' "$maths" >>docs/accuracy.md
+fi
 echo "docs/accuracy.md"

@@ -40,28 +40,10 @@ processor=$(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
     echo "Times are the fastest of 25 repetitions, in ns for one element of the given size; rows marked"
     echo "\`call\` give ns for one call. Ours and the peer run in one process, interleaved, on the same data,"
     echo "one thread unless the row says otherwise. The number in brackets is ours over the peer: below 1 we are"
-    echo "faster. s2, v3 and v4 are the SSE2, AVX2 and AVX-512 builds; the bar is the ratio or time aimed at."
-    awk -F '\t' '
-        function flush(  i, k, t) {
-            if (!count) return
-            printf "\n## %s\n\n| work | size | s2 | v3 | v4 | peer | bar |\n|---|---:|---:|---:|---:|---|---:|\n", title
-            for (i = 1; i <= count; i++) {
-                k = order[i]
-                printf "| %s | %s |", work[k], size[k]
-                for (t = 1; t <= 3; t++) printf " %s |", ((tag[t], k) in cell) ? cell[tag[t], k] : "-"
-                printf " %s | %s |\n", peer[k], bar[k]
-            }
-            delete order; delete cell; delete seen; count = 0
-        }
-        BEGIN { tag[1] = "s2"; tag[2] = "v3"; tag[3] = "v4" }
-        /^@/ { flush(); title = substr($0, 2); gsub("_", " ", title); next }
-        {
-            k = $2 SUBSEP $3 SUBSEP $5
-            if (!(k in seen)) { seen[k] = 1; order[++count] = k; work[k] = $2; size[k] = $3; peer[k] = $5 }
-            if ($8 > 0 || !(k in bar)) bar[k] = ((k in bar) && bar[k] != "" && bar[k] != $8 && $8 > 0) ? bar[k] " / " $8 : ($8 > 0 ? $8 : "")
-            cell[$1, k] = sprintf("%.4g", $4) ($6 > 0 ? sprintf(" (%.2f)", $7) : "")
-        }
-        END { flush() }' "$results"
+    echo "faster. s2, v3 and v4 are the SSE2, AVX2 and AVX-512 builds; the bar is the ratio aimed at. VOLK runs"
+    echo "its best kernels with the instructions of the build beside it, FFTW all that it has: the bars of the"
+    echo "transforms are what the best library reaches with the build's instructions over FFTW as it is."
+    awk -f tools/bench-report.awk "$results"
 } >docs/benchmarks.md
 echo "docs/benchmarks.md"
 tools/run-accuracy.sh

@@ -1,27 +1,37 @@
 #!/usr/bin/env bash
-# Builds and runs every test, and ends with the line "N passed, N failed".
+# Builds and runs the tests, and ends with the line "N passed, N failed".
 #
-#   release   every test program on every build that this processor supports, GCC
-#   clang     the same test programs on the libraries as Clang builds them
-#   sanitize  address and undefined-behaviour sanitizers, the baseline build
-#   tsan      the threaded paths under the thread sanitizer, with a negative control
-#   install   the installed package as its users see it
-#   names     every exported name is called by a test
+#   layers     rules of the source that no compiler checks
+#   release    every test program on every build that this processor supports, GCC
+#   clang      the same test programs on the baseline build as Clang compiles it
+#   sanitize   and as GCC compiles it with the address and undefined-behaviour sanitizers
+#   install    the installed package as its users see it
+#   names      every exported name is called by a test
+# and those that take longer, in `all` alone:
+#   clang-all  the test programs on the other two builds as Clang compiles them
+#   tsan       the threaded paths under the thread sanitizer, with a negative control
+#   full       the release stage with the complete random sets
+# and for a developer's loop:
+#   quick      the baseline build alone, every test in its smallest sweep
 #
-# Usage: tools/run-tests.sh [stage...]; all stages without arguments.
+# Usage: tools/run-tests.sh [all | stage...]; the first group without arguments.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 repo=$PWD
-stages=${*:-release clang sanitize tsan install names}
+usual="layers release clang sanitize install names"
+stages=${*:-$usual}
+[ "$stages" != all ] || stages="$usual clang-all tsan full"
 jobs=$(nproc)
-logs=build/test-logs
+# The builds have their own number of jobs, whatever `make` was called with.
+unset MAKEFLAGS MFLAGS MAKELEVEL
+export logs=build/test-logs
 rm -rf "$logs"
 mkdir -p "$logs"
 passed=0 failed=0
 
-tags=s2
+supported=s2
 for level in v3 v4; do
-    if /lib64/ld-linux-x86-64.so.2 --help | grep -q "x86-64-$level (supported"; then tags="$tags $level"; fi
+    if /lib64/ld-linux-x86-64.so.2 --help | grep -q "x86-64-$level (supported"; then supported="$supported $level"; fi
 done
 
 record() {  # record PASSED FAILED
@@ -29,12 +39,26 @@ record() {  # record PASSED FAILED
     failed=$((failed + $2))
 }
 
-build() {  # build PRESET: configures and builds; a failure counts as one failed test
-    if { cmake --preset "$1" && cmake --build --preset "$1" -j "$jobs"; } >"$logs/build-$1.log" 2>&1; then return 0; fi
+TIMEFORMAT='%0R s, CPU %0U s and %0S s in the kernel'
+timed() {  # timed LABEL COMMAND...: prints how long the command took
+    local label=$1 status
+    shift
+    { time "$@" 2>&3; } 3>&2 2>"$logs/time"
+    status=$?
+    echo "$label: $(cat "$logs/time")"
+    return $status
+}
+
+build() {  # build PRESET [TARGET...]: configures and builds; a failure counts as one failed test
+    local log=$logs/build-$1.log
+    timed "build of $1" build_quietly "$@" && return 0
     echo "[ FAIL ] build of preset $1:"
-    tail -n 40 "$logs/build-$1.log"
+    grep -E -A 15 'FAILED:|error:|Error' "$log" | head -n 60
     record 0 1
     return 1
+}
+build_quietly() {
+    { cmake --preset "$1" && cmake --build --preset "$1" -j "$jobs" --target "${@:2}"; } >"$logs/build-$1.log" 2>&1
 }
 
 # One GoogleTest program on one build of the library; its counts go to NAME.counts.
@@ -42,7 +66,7 @@ run_program() {  # run_program PROGRAM LIBRARIES LABEL
     local name log
     name=$3-$(basename "$1")
     log=$logs/$name.log
-    ASAN_OPTIONS=allocator_may_return_null=1 LSAN_OPTIONS=suppressions=tests/harness/lsan.supp LD_LIBRARY_PATH=$2 timeout 900 "$1" >"$log" 2>&1
+    timeout 900 env LD_LIBRARY_PATH="$2" ${preload:+LD_PRELOAD="$preload"} "$1" >"$log" 2>&1
     local code=$? good bad
     good=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) test.*/\1/p' "$log" | tail -n 1)
     bad=$(sed -n 's/^\[  FAILED  \] \([0-9]*\) test.*/\1/p' "$log" | tail -n 1)
@@ -56,30 +80,29 @@ run_program() {  # run_program PROGRAM LIBRARIES LABEL
     fi
 }
 export -f run_program
-export logs
 
-run_programs() {  # run_programs LABEL PROGRAM-FOLDER LIBRARY-FOLDER
-    local tag
-    for tag in $tags; do
-        for program in "$2"/*_test; do
+run_programs() {  # run_programs LABEL LIBRARY-FOLDER TAG...
+    local label=$1 libraries=$2 tag program good bad count=0
+    shift 2
+    for tag; do
+        for program in build/release/bin/*_test; do
             case $program in  # code of one instruction set runs with that build alone
                 *_simd_"$tag"_test) ;;
                 *_simd_*_test) continue ;;
             esac
-            printf '%s\0%s\0%s\0' "$program" "$3/$tag:$3/core" "$1-$tag"
+            printf '%s\0%s\0%s\0' "$program" "$repo/$libraries/$tag:$repo/$libraries/core" "$label-$tag"
         done
-    done | xargs -0 -n 3 -P "$jobs" bash -c 'run_program "$@"' _
-    local good bad count=0
+    done | timed "run of $label" xargs -0 -n 3 -P "$jobs" bash -c 'run_program "$@"' _
     while read -r good bad; do
         record "$good" "$bad"
         count=$((count + good + bad))
-    done < <(cat "$logs/$1"-*.counts)
-    echo "$1: $count tests"
+    done < <(cat "$logs/$label"-*.counts)
+    echo "$count tests"
 }
 
 run_script() {  # run_script COMMAND...: counts its lines "[ PASS ] ..." and "[ FAIL ] ..."
     local log=$logs/script.log
-    "$@" >"$log" 2>&1
+    timed "$(basename "$(dirname "$1")")" "$@" >"$log" 2>&1
     local code=$? good bad
     cat "$log"
     good=$(grep -c '^\[ PASS \]' "$log")
@@ -88,18 +111,34 @@ run_script() {  # run_script COMMAND...: counts its lines "[ PASS ] ..." and "[ 
     record "$good" "$bad"
 }
 
+run_sanitized() {
+    export ASAN_OPTIONS=allocator_may_return_null=1 UBSAN_OPTIONS=print_stacktrace=1
+    # The programs are not instrumented: the sanitizer's runtime comes first all the same.
+    preload=$(gcc -print-file-name=libasan.so)
+    export preload
+    run_programs sanitize build/sanitize/lib s2
+    unset preload
+}
+
+run_stage() {
+    case $1 in
+        layers) run_script tests/layers/run.sh "$repo" ;;
+        release) build release all && run_programs release build/release/lib $supported ;;
+        clang) build release all && build clang vlqs vlqcore && run_programs clang build/clang/lib s2 ;;
+        sanitize) build release all && build sanitize vlqs vlqcore && run_sanitized ;;
+        install) build release all && run_script tests/install/run.sh "$repo" "$repo/build/release" ;;
+        names) build release all && run_script tests/names/run.sh "$repo" "$repo/build/release" ;;
+        clang-all) build release all && build clang all && run_programs clang-all build/clang/lib ${supported#s2} ;;
+        tsan) run_script tests/tsan/run.sh "$repo" "$repo/build/tsan" ;;
+        full) build release all && VLQS_FULL=1 run_programs full build/release/lib $supported ;;
+        quick) build release quick && VLQS_QUICK=1 run_programs quick build/release/lib s2 ;;
+        *) echo "no stage $1" && exit 1 ;;
+    esac
+}
+
 for stage in $stages; do
     echo "== $stage"
-    case $stage in
-        release) build release && run_programs release "$repo/build/release/bin" "$repo/build/release/lib" ;;
-        clang) build release && build clang && run_programs clang "$repo/build/release/bin" "$repo/build/clang/lib" ;;
-        # The baseline build alone: all three would take longer than everything else together.
-        sanitize) build sanitize && tags=s2 run_programs sanitize "$repo/build/sanitize/bin" "$repo/build/sanitize/lib" ;;
-        tsan) run_script tests/tsan/run.sh "$repo" "$repo/build/tsan" ;;
-        install) build release && run_script tests/install/run.sh "$repo" "$repo/build/release" ;;
-        names) build release && run_script tests/names/run.sh "$repo" "$repo/build/release" ;;
-        *) echo "no stage $stage" && exit 1 ;;
-    esac
+    run_stage "$stage"
 done
 
 echo "$passed passed, $failed failed"

@@ -205,7 +205,6 @@ int main(int argc, char** argv) {
     const Vectors<Vlq8u> u = vectors<Vlq8u>();
     const Vectors<Vlq32s> n = vectors<Vlq32s>();
 
-    volk_32f_x2_add_32f(f.d, f.a, f.b, kL1);  // its first call looks at the processor
     vlqbench::add({"add 32f", kL1, kL1, "VOLK", 1, [=] { vlqsAdd_32f(f.a, f.b, f.d, kL1); },
                    [=] { volk_32f_x2_add_32f(f.d, f.a, f.b, kL1); }});
     vlqbench::add({"add 32f", kL1, kL1, "plain loop", 1, [=] { vlqsAdd_32f(f.a, f.b, f.d, kL1); },

@@ -1,24 +1,16 @@
 // Complex FFT in both precisions: forward and inverse out of place against FFTW on the same data;
 // in place against out of place, and without a work buffer against the same with an allocation, our
 // own. FFT_ORDERS=from-to takes some of the orders.
-#include <fftw3.h>
-
-#include <cstdio>
-#include <cstdlib>
-#include <string>
 #include <vector>
 
-#include "harness/bench.h"
+#include "fourier/fft_bench.h"
 #include "vlqs/fft.h"
-#include "vlqs/frame.h"
 
 namespace {
 
-struct Bar {
-    int order;
-    double s2, v3, v4;
-};
-// Ratio to the peer that the best of all libraries reaches with the build's instructions.
+using vlqbench::Bar;
+using vlqbench::zeros;
+
 constexpr Bar kBars[] = {
     {4, 0.46, 0.25, 0.25},  {5, 1.08, 0.64, 0.48},  {6, 1.51, 0.82, 0.82},  {7, 1.68, 0.98, 0.70},
     {8, 1.77, 0.94, 0.69},  {9, 1.84, 0.92, 0.70},  {10, 1.86, 0.92, 0.73}, {11, 1.86, 0.94, 0.71},
@@ -29,11 +21,6 @@ constexpr Bar kDoubleBars[] = {
     {8, 1.93, 0.91, 0.63},  {9, 1.92, 0.94, 0.60},  {10, 1.82, 0.92, 0.63}, {11, 1.85, 0.89, 0.71},
     {12, 1.74, 0.89, 0.62}, {13, 1.51, 0.93, 0.56}, {14, 1.70, 1.00, 0.64}, {15, 1.33, 0.93, 0.76},
     {16, 1.29, 0.94, 0.86}, {18, 1.53, 1.00, 0.85}, {20, 0.97, 0.80, 0.72}, {22, 0.59, 0.51, 0.50}};
-
-double barOf(const Bar& bar) {
-    const std::string tag = vlqbench::buildTag();
-    return tag == "s2" ? bar.s2 : tag == "v3" ? bar.v3 : bar.v4;
-}
 
 struct Single {
     using Value = Vlq32fc;
@@ -62,14 +49,6 @@ struct Double {
     static constexpr auto execute = fftw_execute;
 };
 
-// A vector of zeros on a cache line.
-template <class Value>
-Value* zeros(int n) {
-    auto* values = reinterpret_cast<Value*>(vlqsMalloc_8u(n * static_cast<int>(sizeof(Value))));
-    for (int i = 0; i < n; ++i) values[i] = Value{};
-    return values;
-}
-
 template <class Precision>
 void addOrder(int order, double bar) {
     using Value = typename Precision::Value;
@@ -83,9 +62,8 @@ void addOrder(int order, double bar) {
     Vlq8u* work = vlqsMalloc_8u(bytes);
     auto* in = reinterpret_cast<typename Precision::Peer*>(zeros<Value>(n));
     auto* out = reinterpret_cast<typename Precision::Peer*>(zeros<Value>(n));
-    // Measuring plans for the longest takes minutes.
-    const unsigned effort = order > 20 ? FFTW_ESTIMATE : FFTW_MEASURE;
-    const char* peer = order > 20 ? "FFTW, estimated plan" : "FFTW";
+    const unsigned effort = vlqbench::planEffort(order);
+    const std::string peer = std::string("FFTW") + vlqbench::planRemark(order);
     const auto forwardPlan = Precision::plan(n, in, out, FFTW_FORWARD, effort);
     const auto inversePlan = Precision::plan(n, in, out, FFTW_BACKWARD, effort);
     for (int i = 0; i < n; ++i) {
@@ -126,15 +104,7 @@ void addOrder(int order, double bar) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    fftwf_set_timelimit(20);
-    fftw_set_timelimit(20);
-    int from = 0, to = 99;
-    if (const char* only = std::getenv("FFT_ORDERS")) std::sscanf(only, "%d-%d", &from, &to);
-    for (const Bar& bar : kBars) {
-        if (bar.order >= from && bar.order <= to) addOrder<Single>(bar.order, barOf(bar));
-    }
-    for (const Bar& bar : kDoubleBars) {
-        if (bar.order >= from && bar.order <= to) addOrder<Double>(bar.order, barOf(bar));
-    }
+    vlqbench::eachOrder(kBars, addOrder<Single>);
+    vlqbench::eachOrder(kDoubleBars, addOrder<Double>);
     return vlqbench::run(argc, argv);
 }

@@ -1,23 +1,15 @@
-// Real FFT in Perm form in both precisions: both directions against FFTW, in place against out of
+// Real FFT in Perm layout in both precisions: both directions against FFTW, in place against out of
 // place. FFT_ORDERS=from-to takes some of the orders.
-#include <fftw3.h>
-
-#include <cstdio>
-#include <cstdlib>
-#include <string>
 #include <vector>
 
-#include "harness/bench.h"
+#include "fourier/fft_bench.h"
 #include "vlqs/fft.h"
-#include "vlqs/frame.h"
 
 namespace {
 
-struct Bar {
-    int order;
-    double s2, v3, v4;
-};
-// Time over FFTW's that we mean to reach; none is stated below order 5.
+using vlqbench::Bar;
+using vlqbench::zeros;
+
 constexpr Bar kBars[] = {{3, 0, 0, 0},           {4, 0, 0, 0},           {5, 0.88, 0.72, 0.72},
                          {6, 0.97, 0.72, 0.72},  {7, 1.14, 0.74, 0.74},  {8, 1.20, 0.83, 0.78},
                          {9, 1.34, 0.73, 0.70},  {10, 1.31, 0.72, 0.51}, {11, 1.40, 0.69, 0.47},
@@ -30,11 +22,6 @@ constexpr Bar kDoubleBars[] = {
     {11, 1.69, 0.87, 0.58}, {12, 1.71, 0.88, 0.70}, {13, 1.63, 0.84, 0.73}, {14, 1.42, 0.88, 0.65},
     {15, 1.41, 0.94, 0.77}, {16, 1.30, 0.96, 0.79}, {18, 1.39, 1.00, 0.83}, {20, 0.50, 0.49, 0.42},
     {22, 0.39, 0.35, 0.31}};
-
-double barOf(const Bar& bar) {
-    const std::string tag = vlqbench::buildTag();
-    return tag == "s2" ? bar.s2 : tag == "v3" ? bar.v3 : bar.v4;
-}
 
 struct Single {
     using Real = Vlq32f;
@@ -63,14 +50,6 @@ struct Double {
     static constexpr auto execute = fftw_execute;
 };
 
-// A vector of zeros on a cache line.
-template <class Real>
-Real* zeros(int n) {
-    auto* values = reinterpret_cast<Real*>(vlqsMalloc_8u(n * static_cast<int>(sizeof(Real))));
-    for (int i = 0; i < n; ++i) values[i] = 0;
-    return values;
-}
-
 template <class Precision>
 void addOrder(int order, double bar) {
     using Real = typename Precision::Real;
@@ -78,9 +57,9 @@ void addOrder(int order, double bar) {
     auto* x = zeros<Real>(n + 2);
     auto* y = zeros<Real>(n + 2);
     auto* spectrum = reinterpret_cast<typename Precision::Peer*>(y);
-    // Measuring plans for the longest takes minutes. Destroyed input is FFTW's quickest c2r.
-    const unsigned effort = order > 20 ? FFTW_ESTIMATE : FFTW_MEASURE;
-    const std::string peer = order > 20 ? ", estimated plan" : "";
+    // c2r may overwrite its input: FFTW's fastest variant.
+    const unsigned effort = vlqbench::planEffort(order);
+    const std::string peer = vlqbench::planRemark(order);
     const auto forward = Precision::forwardPlan(n, x, spectrum, effort);
     const auto inverse = Precision::inversePlan(n, spectrum, x, effort);
     for (int i = 0; i < n + 2; ++i) x[i] = y[i] = 0;
@@ -120,15 +99,7 @@ void addOrder(int order, double bar) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    fftwf_set_timelimit(20);
-    fftw_set_timelimit(20);
-    int from = 0, to = 99;
-    if (const char* only = std::getenv("FFT_ORDERS")) std::sscanf(only, "%d-%d", &from, &to);
-    for (const Bar& bar : kBars) {
-        if (bar.order >= from && bar.order <= to) addOrder<Single>(bar.order, barOf(bar));
-    }
-    for (const Bar& bar : kDoubleBars) {
-        if (bar.order >= from && bar.order <= to) addOrder<Double>(bar.order, barOf(bar));
-    }
+    vlqbench::eachOrder(kBars, addOrder<Single>);
+    vlqbench::eachOrder(kDoubleBars, addOrder<Double>);
     return vlqbench::run(argc, argv);
 }

@@ -1,3 +1,4 @@
+// Runs the rows with Google Benchmark and prints or appends the fastest repetition of each.
 #include "harness/bench.h"
 
 #include <benchmark/benchmark.h>
@@ -8,6 +9,7 @@
 #include <map>
 #include <vector>
 
+#include "harness/volk.h"
 #include "vlqs.h"
 
 namespace vlqbench {
@@ -53,7 +55,10 @@ void registerSide(const std::string& name, const std::function<void()>& call) {
 
 }  // namespace
 
-void add(Row row) { rows().push_back(std::move(row)); }
+void add(Row row) {
+    if (rows().empty()) limitVolkToBuild();
+    rows().push_back(std::move(row));
+}
 
 const char* buildTag() { return vlqsGetLibVersion()->targetTag; }
 

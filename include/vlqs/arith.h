@@ -17,6 +17,9 @@ VLQS_BEGIN_DECLS
  * destination's type and `round` rounds to an integer.
  *
  * Mind the order of the operands: Sub is `src2 - src1` and Div is `src2 / src1`.
+ *
+ * Very long results that are not in place are written past the cache, so that they do not evict the
+ * caller's working set.
  */
 
 /**
@@ -44,8 +47,7 @@ VLQS_BEGIN_DECLS
  * below 1. Complex variants: #vlqStsBadSize for @p len below 1, #vlqStsNullPtr, #vlqStsBadSize for
  * @p len of 2^30 or more.
  *
- * **Memory.** Allocates nothing. Very long float sums that are not in place are written past the
- * cache.
+ * **Memory.** Allocates nothing.
  *
  * @arg @c src1        first operand
  * @arg @c src2        second operand, the minuend of a difference
@@ -204,7 +206,7 @@ VlqStatus vlqsSub_64fc_I(const Vlq64fc* src, Vlq64fc* srcDst, Vlq32s len);
  * 2^28 or more the count wraps, and the call copies the wrapped count or returns #vlqStsBadSize.
  * The copy of the 64-bit integer variants returns #vlqStsBadSize for @p len of 2^31 or more.
  *
- * **Memory.** Allocates nothing. Very long results of vlqsAddC_64fc() are written past the cache.
+ * **Memory.** Allocates nothing.
  *
  * @arg @c src         vector operand
  * @arg @c val         constant operand

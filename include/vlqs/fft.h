@@ -55,8 +55,8 @@ typedef struct VlqsFFTSpec_R_64f VlqsFFTSpec_R_64f; /**< double precision */
  * `Free` releases the spec.
  *
  * **Normalization.** @p flag says which direction is multiplied, and by what: #vlqNormFwdByN
- * (forward by 1/N), #vlqNormInvByN (inverse by 1/N), #vlqNormBySqrtN (both by 1/sqrt(N), in single
- * precision accurate to about 22 bits) or #vlqNormNone.
+ * (forward by 1/N), #vlqNormInvByN (inverse by 1/N), #vlqNormBySqrtN (both by 1/sqrt(N), an IEEE
+ * square root and division, exact for even orders) or #vlqNormNone.
  *
  * **Flag or hint?** @p flag comes first, @p hint second; both are integers. A flag of 0 or 3 is
  * refused, but an exchanged pair of 1 and 2 is not: `(vlqNormInvByN, vlqHintFast)` exchanged scales

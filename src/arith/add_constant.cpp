@@ -1,5 +1,5 @@
-// Sums and differences of a vector and a constant. Where a constant makes the call a copy, a fill or
-// a clear, that function's body is called instead of a kernel.
+// Sums and differences of a vector and a constant. Where a constant makes the call a copy, a fill
+// or a clear, that function's body is called instead of a kernel.
 #include "arith/add_constant_kernels.h"
 #include "frame/loop/bulk.h"
 #include "frame/loop/element_views.h"

@@ -1,5 +1,6 @@
-// Sums and differences with a constant: 32-bit results, whose saturation limits are known before the
-// loop, and 64-bit sums, which are exact to 65 bits at every scale factor and have a rounding mode.
+// Sums and differences with a constant: 32-bit results, whose saturation limits are known before
+// the loop, and 64-bit sums, which are exact to 65 bits at every scale factor and have a rounding
+// mode.
 #pragma once
 
 #include <algorithm>
@@ -23,8 +24,8 @@ inline Vec<std::int32_t> sampleFor(std::int64_t e, std::int32_t val) {
 template <class Op>
 inline constexpr bool falls = Op::inverse(0, 0) > Op::inverse(1, 0);
 
-// Scale factor 0. With a given constant, results can saturate at one limit only, and only for samples
-// near one limit.
+// Scale factor 0. With a given constant, results can saturate at one limit only, and only for
+// samples near one limit.
 template <class Op, bool upperSamples>
 class ConstantSaturated {
 public:
@@ -42,8 +43,8 @@ private:
     V val_, end_, limit_;
 };
 
-// Negative scale factors. A result of 0 or -1 never saturates, so the samples for both limits can be
-// clamped to the samples' own range.
+// Negative scale factors. A result of 0 or -1 never saturates, so the samples for both limits can
+// be clamped to the samples' own range.
 template <class Op>
 class ConstantLeft {
 public:
@@ -87,8 +88,8 @@ struct RoundHalf {
     }
 };
 
-// The last scale factor with results other than 0 is one too many for a shift of the half. One bit is
-// shifted off first and kept, as a sticky bit, in the odd bit.
+// The last scale factor with results other than 0 is one too many for a shift of the half. One bit
+// is shifted off first and kept, as a sticky bit, in the odd bit.
 template <class T, Rounding rounding>
 struct ScaleRightLast {
     ScaleRight<T, rounding> scale{8 * sizeof(T)};
@@ -111,8 +112,8 @@ inline void withPositiveScale(std::int32_t scaleFactor, Run run) {
         run([](Vec<T>, Vec<T>) { return Vec<T>::zero(); });
 }
 
-// Calls run with the operation that sums two vectors, scaled and rounded. It is exact at every scale
-// factor.
+// Calls run with the operation that sums two vectors, scaled and rounded. It is exact at every
+// scale factor.
 template <class T, class Run>
 inline void withScaleAndRounding(std::int32_t scaleFactor, VlqRoundMode mode, Run run) {
     using V = Vec<T>;

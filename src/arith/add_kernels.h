@@ -1,6 +1,6 @@
-// Sums and differences. Each operation provides what the scale rule needs: the saturated result, half
-// the result with ties to even, and the exact result, which has one bit too many for its lane, as a
-// half and an odd bit.
+// Sums and differences. Each operation provides what the scale rule needs: the saturated result,
+// half the result with ties to even, and the exact result, which has one bit too many for its lane,
+// as a half and an odd bit.
 #pragma once
 
 #include "frame/loop/map.h"
@@ -43,8 +43,8 @@ struct Sum {
         return {(a & b) + shiftRight(odd, 1), odd};
     }
 };
-// The 64-bit sum is 0 from a scale factor of 64 on, as callers expect, though the largest sums would
-// still round to 1 or -1.
+// The 64-bit sum is 0 from a scale factor of 64 on, as callers expect, though the largest sums
+// would still round to 1 or -1.
 template <>
 inline constexpr int Sum::vanishesFrom<std::int64_t> = 64;
 
@@ -82,8 +82,8 @@ struct Difference {
                 return floor + (up & ~(floor == Vec<T>::broadcast(std::numeric_limits<T>::max())));
         }
     }
-    // Half of all bits that differ, less those that only b has: those are counted as positive but are
-    // negative.
+    // Half of all bits that differ, less those that only b has: those are counted as positive but
+    // are negative.
     template <class T>
     static Halved<T> halved(Vec<T> a, Vec<T> b) {
         if constexpr (std::is_unsigned_v<T>) {
@@ -163,8 +163,8 @@ struct WidenedToSum {
 };
 
 // ---- with a scale factor ------------------------------------------------------------------------
-// The scale factor at which only the carry of an unsigned sum is left: 1 where a + b is greater than
-// the carry's weight, at which it is a tie.
+// The scale factor at which only the carry of an unsigned sum is left: 1 where a + b is greater
+// than the carry's weight, at which it is a tie.
 template <class T>
 struct CarryOfSum {
     Vec<T> operator()(Vec<T> a, Vec<T> b) const {

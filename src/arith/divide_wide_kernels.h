@@ -1,5 +1,5 @@
-// Exact quotients of 64-bit integers by a constant: clamp(round(n * 2^-scaleFactor / divisor)), with
-// ties to even. That rounding is symmetric about 0, so magnitudes are divided.
+// Exact quotients of 64-bit integers by a constant: clamp(round(n * 2^-scaleFactor / divisor)),
+// with ties to even. That rounding is symmetric about 0, so magnitudes are divided.
 #pragma once
 
 #include <bit>
@@ -28,11 +28,11 @@ struct Magnitude {
     }
 };
 
-// floor(size / divisor) for size < 2^63 + 2^61 and 2 <= divisor < 2^62, by one multiplication with a
-// 64-bit reciprocal. If the reciprocal is rounded down, quotients come out too small, which adding it
-// once more corrects; if it is rounded up, they come out too large. The smaller of the two rounding
-// errors is below half a divisor, too small to change a quotient of this range.
-// After: A. D. Robison, N-bit unsigned division via N-bit multiply-add, 2005.
+// floor(size / divisor) for size < 2^63 + 2^61 and 2 <= divisor < 2^62, by one multiplication with
+// a 64-bit reciprocal. If the reciprocal is rounded down, quotients come out too small, which
+// adding it once more corrects; if it is rounded up, they come out too large. The smaller of the
+// two rounding errors is below half a divisor, too small to change a quotient of this range. After:
+// A. D. Robison, N-bit unsigned division via N-bit multiply-add, 2005.
 class Reciprocal {
 public:
     explicit Reciprocal(std::uint64_t divisor)
@@ -112,8 +112,8 @@ private:
     std::uint64_t flip_;
 };
 
-// Times 2^up, 1 <= up, over an odd divisor of at least 3: there are no ties. The division of 128 by 64
-// bits is algorithm 4 of: N. Moller, T. Granlund, Improved division by invariant integers, 2011.
+// Times 2^up, 1 <= up, over an odd divisor of at least 3: there are no ties. The division of 128 by
+// 64 bits is algorithm 4 of: N. Moller, T. Granlund, Improved division by invariant integers, 2011.
 class ShiftedUpQuotient {
 public:
     ShiftedUpQuotient(std::uint64_t divisor, std::int64_t up, bool negative)

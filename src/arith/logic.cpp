@@ -9,7 +9,7 @@ using vlq::clear;
 using vlq::copy;
 
 template <class T, class Op>
-VlqStatus twoVectors(const T* src1, const T* src2, T* dst, Vlq32s len, Op op) {
+VlqStatus twoVectors(const T* src1, const T* src2, T* dst, Vlq32s len, const Op& op) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     vlq::map(dst, len, op, src1, src2);
@@ -17,15 +17,15 @@ VlqStatus twoVectors(const T* src1, const T* src2, T* dst, Vlq32s len, Op op) {
 }
 
 template <class T, class Op>
-VlqStatus oneVector(const T* src, T* dst, Vlq32s len, Op op) {
+VlqStatus oneVector(const T* src, T* dst, Vlq32s len, const Op& op) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     vlq::map(dst, len, op, src);
     return vlqStsOk;
 }
 
-// A constant of 0 makes the operation a clear or a copy, which makes the remaining checks and returns
-// the status.
+// A constant of 0 makes the operation a clear or a copy, which makes the remaining checks and
+// returns the status.
 template <class T>
 VlqStatus andConstant(const T* src, T val, T* dst, Vlq32s len) {
     if (val == 0) return src ? clear(dst, len) : vlqStsNullPtr;

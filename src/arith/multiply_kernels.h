@@ -16,8 +16,8 @@ inline Vec<T> roundHalf(Vec<T> e) {
 }
 
 // ---- 16-bit results from the halves of the product ----------------------------------------------
-// For large scale factors the quotient is in the upper 16 bits of the products, so that no lane needs
-// widening. `lower` and `upper` are the two halves of each product.
+// For large scale factors the quotient is in the upper 16 bits of the products, so that no lane
+// needs widening. `lower` and `upper` are the two halves of each product.
 class RoundUpperHalf {
 public:
     using V = Vec<std::int16_t>;

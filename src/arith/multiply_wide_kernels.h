@@ -80,8 +80,8 @@ struct SumOfProduct32sInDouble {
     }
 };
 
-// Complex values. One factor is split into its upper and lower half, so that the products with either
-// and their sums are exact. Adding the two rounds only what is out of range anyway.
+// Complex values. One factor is split into its upper and lower half, so that the products with
+// either and their sums are exact. Adding the two rounds only what is out of range anyway.
 struct ComplexProduct32scInDouble {
     Vec<double> factor;
     Vec<std::int64_t> operator()(Vec<std::int64_t> x, Vec<std::int64_t> y) const {
@@ -111,8 +111,8 @@ inline void withScale32s(std::int32_t scaleFactor, Run run) {
 // ---- one element at a time ----------------------------------------------------------------------
 __extension__ typedef __int128 Int128;
 
-// Calls run with the scaling as an operation on one exact integer. scaleFactor is below the width of
-// Wide.
+// Calls run with the scaling as an operation on one exact integer. scaleFactor is below the width
+// of Wide.
 template <class T, class Wide, class Run>
 inline void withScalarScale(std::int64_t scaleFactor, Run run) {
     if (scaleFactor == 0)
@@ -129,8 +129,8 @@ struct ComplexExact32s {
     template <class>
     static constexpr int vanishesFrom = 64;
 };
-// Parts in 64 bits. The only part that does not fit is 2^63, when all four parts are -2^31; 2^63 - 1
-// gives the same result at every scale factor.
+// Parts in 64 bits. The only part that does not fit is 2^63, when all four parts are -2^31; 2^63 -
+// 1 gives the same result at every scale factor.
 template <class Scale>
 struct ComplexProduct32sc {
     Scale scale;
@@ -204,9 +204,9 @@ struct NonFiniteProduct64s {
     }
 };
 
-// Values above the range become the largest one, and so does NaN, because minimum returns its second
-// operand for it. Below the range the conversion gives the lowest integer, which the narrowing
-// saturates.
+// Values above the range become the largest one, and so does NaN, because minimum returns its
+// second operand for it. Below the range the conversion gives the lowest integer, which the
+// narrowing saturates.
 inline constexpr int kTop16s = std::numeric_limits<std::int16_t>::max();
 
 struct ProductInDouble16s {

@@ -73,8 +73,8 @@ VlqStatus vlq::vlqsConvert_64s64f(const Vlq64s* src, Vlq64f* dst, Vlq32u len) {
     return plain(src, dst, len, ToDouble<Unscaled<double>>{});
 }
 
-// The lowest scale factors keep every 16-bit sample finite. For 32-bit samples the power of two itself
-// is kept finite, not the result.
+// The lowest scale factors keep every 16-bit sample finite. For 32-bit samples the power of two
+// itself is kept finite, not the result.
 VlqStatus vlq::vlqsConvert_16s32f_Sfs(const Vlq16s* src, Vlq32f* dst, Vlq32s len,
                                       Vlq32s scaleFactor) {
     return toScaled<ToFloat>(src, dst, len, scaleFactor, -112, 126);

@@ -11,8 +11,8 @@
 
 namespace vlq::convert {
 
-// Whether a product rounds to the same integer with subnormals kept or flushed to zero: at these scale
-// factors every product that is subnormal, or has a subnormal factor, is below one half.
+// Whether a product rounds to the same integer with subnormals kept or flushed to zero: at these
+// scale factors every product that is subnormal, or has a subnormal factor, is below one half.
 template <class T>
 bool subnormalsVanish(std::int32_t scaleFactor) {
     return scaleFactor >= std::numeric_limits<T>::min_exponent &&
@@ -30,9 +30,9 @@ struct Times {
     Vec<T> operator()(Vec<T> v) const { return v * Vec<T>::broadcast(factor); }
 };
 
-// Values above the range become the largest one, and so does NaN, because minimum returns its second
-// operand for it. Below the range the conversion gives the lowest integer, which the narrowing
-// saturates.
+// Values above the range become the largest one, and so does NaN, because minimum returns its
+// second operand for it. Below the range the conversion gives the lowest integer, which the
+// narrowing saturates.
 template <class To, class Scale, Rounding rounding>
 struct ToInteger {
     Scale scale;

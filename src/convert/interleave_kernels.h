@@ -9,8 +9,8 @@
 
 namespace vlq::splitjoin {
 
-// A sample x of b bits becomes (2 x + 1) / (2^b - 1): the lowest is -1, the highest 1, and none is 0.
-// It is rounded twice, after the product and after the sum.
+// A sample x of b bits becomes (2 x + 1) / (2^b - 1): the lowest is -1, the highest 1, and none is
+// 0. It is rounded twice, after the product and after the sum.
 struct ToUnit {
     float step, half;
     Vec<float> operator()(Vec<std::int32_t> v) const {
@@ -95,8 +95,8 @@ inline void split(const T* src, float* const* dstRows, std::int32_t channels, st
     }
 }
 
-// Samples are interleaved in a tile of floats and converted from there: whole frames if any fit, else
-// parts of one frame.
+// Samples are interleaved in a tile of floats and converted from there: whole frames if any fit,
+// else parts of one frame.
 inline constexpr int kTile = 1024;
 
 template <int kBytes, class T>

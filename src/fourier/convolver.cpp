@@ -1,3 +1,4 @@
+// Filtering by transforms: choice of the method by order.
 #include "fourier/convolver.h"
 
 #include <cstring>
@@ -34,14 +35,14 @@ void multiplyPerm(const Vlq64f* src, Vlq64f* srcDst, int len) {
 void multiply(const Vlq32fc* src, Vlq32fc* srcDst, int len) { vlqsMul_32fc_I(src, srcDst, len); }
 void multiply(const Vlq64fc* src, Vlq64fc* srcDst, int len) { vlqsMul_64fc_I(src, srcDst, len); }
 
-// Whether one pass does the product and the recombinations on both sides of it: where there are
-// tables for the half-length transform, and one factor for each value.
+// Whether the product of the spectra and the recombinations before and after it run as one pass: at
+// orders with tables for the half-length transform and one recombination factor for each value.
 template <class T>
 bool isOnePass(int order) {
     return order >= RealLimits<T>::complexTables && order < RealLimits<T>::twoLevel;
 }
 
-// Whether the complex transform of an order may leave its values in blocks of the build's vectors.
+// Whether the complex transform of an order can leave its values in blocks of full-width vectors.
 template <class T>
 bool isInBlocks(int order) {
     return order > ComplexLimits<T>::straightLine && order <= ComplexLimits<T>::inCache &&
@@ -62,7 +63,7 @@ VlqStatus makeReal(T* response, T* filter, const Spec* spec, Vlq8u* buf) {
 template <class T, class Spec>
 VlqStatus applyReal(const T* src, T* dst, const T* filter, const Spec* spec, Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
-    if (spec->ident != kTag<Spec>) return vlqStsBadSpec;
+    if (spec->tag != kTag<Spec>) return vlqStsBadSpec;
     const int order = spec->order;
     if (!isOnePass<T>(order)) {
         const VlqStatus status = forwardPerm(src, dst, spec, buf);
@@ -72,7 +73,7 @@ VlqStatus applyReal(const T* src, T* dst, const T* filter, const Spec* spec, Vlq
     }
     const WorkBuffer work(buf, spec->workBytes);
     if (work.refused()) return vlqStsNoMemory;
-    T* const buffer = reinterpret_cast<T*>(work.data());
+    T* const buffer = work.as<T>();
     const T* const angles = spec->realTwiddleInv;
     if (isInBlocks<T>(order - 1)) {
         const Blocks<T> between{buffer}, values{dst};
@@ -91,7 +92,7 @@ VlqStatus applyReal(const T* src, T* dst, const T* filter, const Spec* spec, Vlq
 template <class T, class C, class Spec>
 VlqStatus applyComplex(const C* src, C* dst, const C* filter, const Spec* spec, Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
-    if (spec->ident != kTag<Spec>) return vlqStsBadSpec;
+    if (spec->tag != kTag<Spec>) return vlqStsBadSpec;
     const WorkBuffer work(buf, spec->workBytes);
     if (work.refused()) return vlqStsNoMemory;
     T* const values = reinterpret_cast<T*>(dst);

@@ -1,13 +1,13 @@
-// Filtering by transforms: a signal convolved with a fixed response, round the end of a transform's
-// N elements. For the library's own use.
+// Filtering by transforms: circular convolution of N elements with a fixed impulse response, for the
+// library's own use.
 #pragma once
 
 #include "vlqs/fft.h"
 
 namespace vlq::fft {
 
-// filter = the response in the form that applyFilter wants. Both have N elements; the filter lies
-// on a 64-byte boundary, the response is written over. The inverse of spec divides by N.
+// filter = the response as applyFilter needs it. Both have N elements; the filter is on a 64-byte
+// boundary, the response is overwritten. The spec normalizes the inverse transform by N.
 VlqStatus makeFilter(Vlq32f* response, Vlq32f* filter, const VlqsFFTSpec_R_32f* spec, Vlq8u* buf);
 VlqStatus makeFilter(Vlq64f* response, Vlq64f* filter, const VlqsFFTSpec_R_64f* spec, Vlq8u* buf);
 VlqStatus makeFilter(Vlq32fc* response, Vlq32fc* filter, const VlqsFFTSpec_C_32fc* spec,

@@ -1,3 +1,4 @@
+// Complex FFT in floating point: the exported functions.
 #include "fourier/kernel/complex_transform.h"
 #include "fourier/plan/complex_plan.h"
 #include "fourier/plan/lifecycle.h"
@@ -11,7 +12,6 @@ template <class SpecType, class T>
 struct ComplexKind {
     using Spec = SpecType;
     using Element = T;
-    static constexpr Vlq32s ident = kTag<SpecType>;
     static constexpr int largestOrder = ComplexLimits<T>::largest;
     static PlanSizes sizes(int order) { return complexSizes<T>(order); }
     static void build(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cursor& cursor) {
@@ -31,7 +31,7 @@ template <class Kind, Direction direction, class Value>
 VlqStatus interleaved(const Value* src, Value* dst, const typename Kind::Spec* spec, Vlq8u* buf) {
     using T = typename Kind::Element;
     if (!spec) return vlqStsNullPtr;
-    if (spec->ident != Kind::ident) return vlqStsBadSpec;
+    if (spec->tag != kTag<typename Kind::Spec>) return vlqStsBadSpec;
     if (!src || !dst) return vlqStsNullPtr;
     const WorkBuffer work(buf, spec->workBytes);
     if (work.refused()) return vlqStsNoMemory;
@@ -45,7 +45,7 @@ template <class Kind, Direction direction, class T>
 VlqStatus split(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, const typename Kind::Spec* spec,
                 Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
-    if (spec->ident != Kind::ident) return vlqStsBadSpec;
+    if (spec->tag != kTag<typename Kind::Spec>) return vlqStsBadSpec;
     if (!srcRe || !srcIm || !dstRe || !dstIm) return vlqStsNullPtr;
     const WorkBuffer work(buf, spec->workBytes);
     if (work.refused()) return vlqStsNoMemory;
@@ -81,13 +81,13 @@ VlqStatus vlq::vlqsFFTInitAlloc_C_32f(VlqsFFTSpec_C_32f** outSpec, Vlq32s order,
     return initAlloc<C_32f>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_C_32fc(const VlqsFFTSpec_C_32fc* spec, Vlq32s* bufBytes) {
-    return getBufSize<C_32fc>(spec, bufBytes);
+    return getBufSize(spec, bufBytes);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_C_32f(const VlqsFFTSpec_C_32f* spec, Vlq32s* bufBytes) {
-    return getBufSize<C_32f>(spec, bufBytes);
+    return getBufSize(spec, bufBytes);
 }
-VlqStatus vlq::vlqsFFTFree_C_32fc(VlqsFFTSpec_C_32fc* spec) { return release<C_32fc>(spec); }
-VlqStatus vlq::vlqsFFTFree_C_32f(VlqsFFTSpec_C_32f* spec) { return release<C_32f>(spec); }
+VlqStatus vlq::vlqsFFTFree_C_32fc(VlqsFFTSpec_C_32fc* spec) { return release(spec); }
+VlqStatus vlq::vlqsFFTFree_C_32f(VlqsFFTSpec_C_32f* spec) { return release(spec); }
 
 VlqStatus vlq::vlqsFFTFwd_CToC_32fc(const Vlq32fc* src, Vlq32fc* dst,
                                     const VlqsFFTSpec_C_32fc* spec, Vlq8u* buf) {
@@ -145,13 +145,13 @@ VlqStatus vlq::vlqsFFTInitAlloc_C_64f(VlqsFFTSpec_C_64f** outSpec, Vlq32s order,
     return initAlloc<C_64f>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_C_64fc(const VlqsFFTSpec_C_64fc* spec, Vlq32s* bufBytes) {
-    return getBufSize<C_64fc>(spec, bufBytes);
+    return getBufSize(spec, bufBytes);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_C_64f(const VlqsFFTSpec_C_64f* spec, Vlq32s* bufBytes) {
-    return getBufSize<C_64f>(spec, bufBytes);
+    return getBufSize(spec, bufBytes);
 }
-VlqStatus vlq::vlqsFFTFree_C_64fc(VlqsFFTSpec_C_64fc* spec) { return release<C_64fc>(spec); }
-VlqStatus vlq::vlqsFFTFree_C_64f(VlqsFFTSpec_C_64f* spec) { return release<C_64f>(spec); }
+VlqStatus vlq::vlqsFFTFree_C_64fc(VlqsFFTSpec_C_64fc* spec) { return release(spec); }
+VlqStatus vlq::vlqsFFTFree_C_64f(VlqsFFTSpec_C_64f* spec) { return release(spec); }
 
 VlqStatus vlq::vlqsFFTFwd_CToC_64fc(const Vlq64fc* src, Vlq64fc* dst,
                                     const VlqsFFTSpec_C_64fc* spec, Vlq8u* buf) {

@@ -15,7 +15,6 @@ template <class SpecType, class T>
 struct RealKind {
     using Spec = SpecType;
     using Element = T;
-    static constexpr Vlq32s ident = kTag<SpecType>;
     static constexpr int largestOrder = RealLimits<T>::largest;
     static PlanSizes sizes(int order) { return realSizes<T>(order); }
     static void build(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cursor& cursor) {
@@ -128,7 +127,7 @@ void longInverse(const FloatSpec<T>& spec, const T* src, T* dst, void* work) {
 template <class Kind, Direction direction, Layout layout, class T>
 VlqStatus transform(const T* src, T* dst, const typename Kind::Spec* spec, Vlq8u* buf) {
     if (!spec) return vlqStsNullPtr;
-    if (spec->ident != Kind::ident) return vlqStsBadSpec;
+    if (spec->tag != kTag<typename Kind::Spec>) return vlqStsBadSpec;
     if (!src || !dst) return vlqStsNullPtr;
     if (spec->order <= RealLimits<T>::inRegisters) {
         shortTransform<direction, layout>(*spec, src, dst);
@@ -158,9 +157,9 @@ VlqStatus vlq::vlqsFFTInitAlloc_R_32f(VlqsFFTSpec_R_32f** outSpec, Vlq32s order,
     return initAlloc<R_32f>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_R_32f(const VlqsFFTSpec_R_32f* spec, Vlq32s* bufBytes) {
-    return getBufSize<R_32f>(spec, bufBytes);
+    return getBufSize(spec, bufBytes);
 }
-VlqStatus vlq::vlqsFFTFree_R_32f(VlqsFFTSpec_R_32f* spec) { return release<R_32f>(spec); }
+VlqStatus vlq::vlqsFFTFree_R_32f(VlqsFFTSpec_R_32f* spec) { return release(spec); }
 
 VlqStatus vlq::vlqsFFTFwd_RToCCS_32f(const Vlq32f* src, Vlq32f* dst, const VlqsFFTSpec_R_32f* spec,
                                      Vlq8u* buf) {
@@ -218,9 +217,9 @@ VlqStatus vlq::vlqsFFTInitAlloc_R_64f(VlqsFFTSpec_R_64f** outSpec, Vlq32s order,
     return initAlloc<R_64f>(outSpec, order, flag, hint);
 }
 VlqStatus vlq::vlqsFFTGetBufSize_R_64f(const VlqsFFTSpec_R_64f* spec, Vlq32s* bufBytes) {
-    return getBufSize<R_64f>(spec, bufBytes);
+    return getBufSize(spec, bufBytes);
 }
-VlqStatus vlq::vlqsFFTFree_R_64f(VlqsFFTSpec_R_64f* spec) { return release<R_64f>(spec); }
+VlqStatus vlq::vlqsFFTFree_R_64f(VlqsFFTSpec_R_64f* spec) { return release(spec); }
 
 VlqStatus vlq::vlqsFFTFwd_RToCCS_64f(const Vlq64f* src, Vlq64f* dst, const VlqsFFTSpec_R_64f* spec,
                                      Vlq8u* buf) {

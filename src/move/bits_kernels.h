@@ -85,9 +85,9 @@ inline void packBits(const std::uint32_t* src, const std::int32_t* widths, std::
     int count = offset;
     if (offset != 0) waiting = static_cast<std::uint64_t>(*dst & (0xFF00u >> offset) & 0xFFu) << 56;
 
-    // Each iteration stores the first 32 bits of the accumulator, complete or not; the incomplete ones
-    // are stored again later. At the very end, with less than 32 bits of room, that would write beyond
-    // the last byte.
+    // Each iteration stores the first 32 bits of the accumulator, complete or not; the incomplete
+    // ones are stored again later. At the very end, with less than 32 bits of room, that would
+    // write beyond the last byte.
     Byte* const wordsEnd = dst + (offset + total) / 32 * 4;
     for (std::ptrdiff_t i = 0; i < len; ++i) {
         const int width = clampedWidth(loadScalar(widths + i));

@@ -8,11 +8,12 @@ namespace {
 using vlq::Byte;
 using Pattern = vlq::Vec<Byte>;
 
-// Long vectors are handled by functions of their own in tail calls, so that short ones, where the call
-// itself is the cost, need no stack frame.
-template <std::size_t Period>
-[[gnu::noinline]] VlqStatus fillLongRun(Byte* dst, std::size_t bytes, Pattern pattern) {
-    vlq::fillLong<Period>(dst, bytes, pattern);
+// Long vectors are handled by functions of their own in tail calls, so that short ones, where the
+// call itself is the cost, need no stack frame. No vectors are among their arguments, lest they
+// return with the upper halves of the registers in use.
+template <class T>
+[[gnu::noinline]] VlqStatus fillLongRun(Byte* dst, std::size_t bytes, T val) {
+    vlq::fillLong<sizeof(T)>(dst, bytes, vlq::repeated(val));
     return vlqStsOk;
 }
 [[gnu::noinline]] VlqStatus copyLongRun(Byte* dst, const Byte* src, std::size_t bytes) {
@@ -24,11 +25,11 @@ template <std::size_t Period>
     return vlqStsOk;
 }
 
-template <std::size_t Period, class T>
-VlqStatus fill(T* dst, Vlq32s len, Pattern pattern) {
+template <class T, class Value>
+VlqStatus fill(T* dst, Vlq32s len, Value val, Pattern pattern) {
     auto* to = reinterpret_cast<Byte*>(dst);
     const std::size_t bytes = static_cast<std::size_t>(len) * sizeof(T);
-    if (bytes > vlq::kShort) return fillLongRun<Period>(to, bytes, pattern);
+    if (bytes > vlq::kShort) return fillLongRun(to, bytes, val);
     vlq::fillShort(to, bytes, pattern);
     return vlqStsOk;
 }
@@ -37,14 +38,14 @@ template <class T>
 VlqStatus zero(T* dst, Vlq32s len) {
     if (!dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    return fill<1>(dst, len, vlq::opaque(Pattern::zero()));
+    return fill(dst, len, Byte{0}, vlq::opaque(Pattern::zero()));
 }
 
 template <class T>
 VlqStatus set(T val, T* dst, Vlq32s len) {
     if (!dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    return fill<sizeof(T)>(dst, len, vlq::repeated(val));
+    return fill(dst, len, val, vlq::repeated(val));
 }
 
 template <class T>

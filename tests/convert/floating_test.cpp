@@ -1,4 +1,5 @@
-// Conversions between integers and floats, and between floats, in every state of the control register.
+// Conversions between integers and floats, and between floats, in every state of the control
+// register.
 #include "convert/floating_ref.h"
 
 #include <xmmintrin.h>
@@ -165,8 +166,8 @@ TEST(FloatToInteger, NotANumberAs64s) {
     EXPECT_EQ(0x80000000u, words[1]);
 }
 
-// call(src, dst, len) against ref(element), under each control word. Where the result depends on it,
-// the reference is computed under it too.
+// call(src, dst, len) against ref(element), under each control word. Where the result depends on
+// it, the reference is computed under it too.
 template <class From, class To, class Call, class Ref>
 void checkElements(Call call, Ref ref, bool followsControlWord) {
     sweep(sizeof(From), {5003}, [&](Case& c) {

@@ -19,8 +19,8 @@ template <class S, class D, class Length = Vlq32s>
 using ScaledByMode = VlqStatus (*)(const S*, D*, Length, VlqRoundMode, Vlq32s);
 
 // ---- over the source ----------------------------------------------------------------------------
-// dst begins where src does: the result is that of separate vectors, and no byte beyond the source is
-// written.
+// dst begins where src does: the result is that of separate vectors, and no byte beyond the source
+// is written.
 template <class S, class D, class Call>
 void checkOverSource(Call call) {
     static_assert(sizeof(D) <= sizeof(S));

@@ -1,5 +1,5 @@
-// Plain references of the complex transform: sizes from their formulas, and the transform itself
-// in extended precision.
+// Plain references of the complex FFT: the transform in extended precision, and the sizes of a spec
+// from their formulas.
 #pragma once
 
 #include <algorithm>
@@ -19,7 +19,7 @@ inline Extended unitRoot(std::size_t k, std::size_t n, int sign) {
     return {std::cos(angle), static_cast<long double>(sign) * std::sin(angle)};
 }
 
-// By definition, n^2 products.
+// By the definition, n^2 products.
 inline std::vector<Extended> dftByDefinition(const std::vector<Extended>& x, int sign) {
     const std::size_t n = x.size();
     std::vector<Extended> result(n);
@@ -29,8 +29,8 @@ inline std::vector<Extended> dftByDefinition(const std::vector<Extended>& x, int
     return result;
 }
 
-// The last step of halving: joins the transforms of the even and of the odd samples, which stand
-// in the two halves of result. roots holds the roots of unity of a multiple of n.
+// The last step of halving: combines the transforms of the even and of the odd samples, the two
+// halves of result. roots holds the roots of unity of a multiple of n.
 inline void joinHalves(Extended* result, std::size_t n, const std::vector<Extended>& roots) {
     const std::size_t half = n / 2;
     for (std::size_t k = 0; k < half; ++k) {
@@ -56,9 +56,13 @@ inline std::vector<Extended> unitRoots(std::size_t n, int sign) {
     for (std::size_t k = 0; k < n; ++k) roots[k] = unitRoot(k, n, sign);
     return roots;
 }
+// The fast transform; n is a power of two. The roots of the last lengths are kept.
 inline std::vector<Extended> dft(const std::vector<Extended>& x, int sign) {
+    static std::vector<Extended> kept[2];
+    std::vector<Extended>& roots = kept[sign > 0];
+    if (roots.size() != x.size()) roots = unitRoots(x.size(), sign);
     std::vector<Extended> result(x.size());
-    dftByHalves(x.data(), result.data(), x.size(), 1, unitRoots(x.size(), sign));
+    dftByHalves(x.data(), result.data(), x.size(), 1, roots);
     return result;
 }
 
@@ -67,7 +71,7 @@ struct Sizes {
     bool operator==(const Sizes&) const = default;
 };
 
-// How the large orders are cut: outer bits and columns of a tile, as powers of two.
+// The decomposition of the large orders: outer bits and columns of a tile, as powers of two.
 struct Cut {
     int outer, columns;
 };
@@ -84,7 +88,8 @@ inline Cut cutOf(bool single, int order) {
                          : Cut{8, 5};
 }
 
-// Sizes of a record with its tables, scratch and work buffer, for elements of `element` bytes.
+// Sizes of a spec with its tables, of the scratch of init and of the work buffer, for elements of
+// `element` bytes.
 inline Sizes complexSizes(std::size_t element, int order) {
     const bool single = element == 4;
     auto down64 = [](std::int64_t x) { return x / 64 * 64; };

@@ -1,12 +1,13 @@
+// Complex FFT in floating point against its definition: values, normalization, placement, planning
+// and checks.
 #include "fourier/fft_complex_ref.h"
-
-#include <xmmintrin.h>
 
 #include <algorithm>
 #include <cstring>
 
 #include "harness/buffer.h"
 #include "harness/core_double.h"
+#include "harness/effort.h"
 #include "harness/random.h"
 #include "vlqs/fft.h"
 
@@ -16,10 +17,11 @@ using namespace vlqtest;
 
 constexpr Vlq32s kFlags[] = {vlqNormFwdByN, vlqNormInvByN, vlqNormBySqrtN, vlqNormNone};
 
-// First words of a record, for tests that look at the memory they gave.
+// The first fields of a spec, for tests that read the memory they provided.
 template <class T>
 struct Head {
-    Vlq32s ident, order, doFwdScale, doInvScale;
+    Vlq32u tag;
+    Vlq32s order, doFwdScale, doInvScale;
     T normFactor;
     Vlq32s hint, workBytes, owned;
 };
@@ -30,29 +32,21 @@ Head<typename Kind::Element> headOf(const void* spec) {
     return head;
 }
 
-// What differs between the precisions: unit is half a unit in the last place of 1, rootError how
-// far a reciprocal root may be off.
+// What differs between the precisions: unit is half a unit in the last place of 1.
 struct Single {
     using Element = Vlq32f;
     static constexpr int largest = 28;
-    static constexpr double unit = 0x1p-24, rootError = 0x1p-22;
+    static constexpr double unit = 0x1p-24;
     static constexpr double eightPoint = 0x1.6a09e8p-1;
-    // The processor's estimate, refined once in single precision.
-    static float inverseRoot(float x) {
-        const float y = _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(x)));
-        return y * -0.5f * (x * y * y - 3.0f);
-    }
 };
 struct Double {
     using Element = Vlq64f;
     static constexpr int largest = 27;
-    static constexpr double unit = 0x1p-53, rootError = 0x1p-52;
+    static constexpr double unit = 0x1p-53;
     static constexpr double eightPoint = 0.70710678118654752440;
-    static double inverseRoot(double x) { return 1.0 / std::sqrt(x); }
 };
 
-// The data of the two forms. Vectors hold whole values, or the real parts and then the imaginary
-// parts.
+// The data of both kinds. Vectors hold whole values, or the real parts and then the imaginary parts.
 template <class T>
 struct InterleavedData {
     static std::vector<T> fromParts(const std::vector<T>& parts) {
@@ -76,7 +70,7 @@ struct SplitData {
 // The kinds under one set of names.
 struct Interleaved32 : Single, InterleavedData<Vlq32f> {
     using Spec = VlqsFFTSpec_C_32fc;
-    static constexpr Vlq32s word = 4;
+    static constexpr Vlq32u tag = 4;
     static constexpr auto getSize = vlqsFFTGetSize_C_32fc;
     static constexpr auto init = vlqsFFTInit_C_32fc;
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32fc;
@@ -95,7 +89,7 @@ struct Interleaved32 : Single, InterleavedData<Vlq32f> {
 };
 struct Split32 : Single, SplitData<Vlq32f> {
     using Spec = VlqsFFTSpec_C_32f;
-    static constexpr Vlq32s word = 5;
+    static constexpr Vlq32u tag = 5;
     static constexpr auto getSize = vlqsFFTGetSize_C_32f;
     static constexpr auto init = vlqsFFTInit_C_32f;
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_32f;
@@ -113,7 +107,7 @@ struct Split32 : Single, SplitData<Vlq32f> {
 };
 struct Interleaved64 : Double, InterleavedData<Vlq64f> {
     using Spec = VlqsFFTSpec_C_64fc;
-    static constexpr Vlq32s word = 7;
+    static constexpr Vlq32u tag = 7;
     static constexpr auto getSize = vlqsFFTGetSize_C_64fc;
     static constexpr auto init = vlqsFFTInit_C_64fc;
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64fc;
@@ -132,7 +126,7 @@ struct Interleaved64 : Double, InterleavedData<Vlq64f> {
 };
 struct Split64 : Double, SplitData<Vlq64f> {
     using Spec = VlqsFFTSpec_C_64f;
-    static constexpr Vlq32s word = 8;
+    static constexpr Vlq32u tag = 8;
     static constexpr auto getSize = vlqsFFTGetSize_C_64f;
     static constexpr auto init = vlqsFFTInit_C_64f;
     static constexpr auto initAlloc = vlqsFFTInitAlloc_C_64f;
@@ -159,12 +153,12 @@ using Kinds = ::testing::Types<Interleaved32, Split32, Interleaved64, Split64>;
 TYPED_TEST_SUITE(FftComplex, Kinds);
 
 template <class Kind>
-class Record {
+class Plan {
 public:
-    Record(int order, Vlq32s flag) {
+    Plan(int order, Vlq32s flag) {
         EXPECT_EQ(vlqStsOk, Kind::initAlloc(&spec, order, flag, vlqHintNone));
     }
-    ~Record() { EXPECT_EQ(vlqStsOk, Kind::free(spec)); }
+    ~Plan() { EXPECT_EQ(vlqStsOk, Kind::free(spec)); }
     typename Kind::Spec* spec = nullptr;
 };
 
@@ -184,35 +178,41 @@ TYPED_TEST(FftComplex, AgreesWithTheDefinition) {
     using T = typename Kind::Element;
     Rng rng(seed());
     for (int order = 0; order <= 19; ++order) {
+        if (order == 18 && sizeof(T) == 4 && effort() != Effort::full) continue;  // as 17
+        if (order == 19 && sizeof(T) == 8 && effort() != Effort::full) continue;  // as 18
         const std::size_t n = std::size_t{1} << order;
         const auto x = Kind::fromParts(uniformVector<T>(2 * n, -1, 1, rng));
         std::vector<Extended> exact(n);
         for (std::size_t i = 0; i < n; ++i) exact[i] = Kind::at(x, i);
-        const Record<Kind> record(order, vlqNormNone);
+        const Plan<Kind> plan(order, vlqNormNone);
         const double bound = order == 0 ? 0 : 0.75 * std::sqrt(order) * Kind::unit;
         for (const bool forward : {true, false}) {
             const auto want = dft(exact, forward ? -1 : 1);
             std::vector<T> y(2 * n);
             ASSERT_EQ(vlqStsOk,
-                      Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
+                      Kind::transform(forward, x.data(), y.data(), plan.spec, nullptr, order));
             EXPECT_LE(errorOf<Kind>(y, want), bound)
                 << "order " << order << (forward ? " forward" : " inverse");
         }
     }
 }
 
-// Where the reference would take long: the transform of a few impulses is a sum of as many roots.
+// Where the reference would be slow: the transform of a few impulses is a sum of as many roots.
 TYPED_TEST(FftComplex, ImpulsesAtLargeOrders) {
     using Kind = TypeParam;
     using T = typename Kind::Element;
     for (int order = 16; order <= 23; ++order) {
+        // The shortest and the longest order of each way to cut a transform.
+        const bool between = sizeof(T) == 4 ? order == 17 || order == 20 || order == 21
+                                            : order == 16 || order == 19 || order == 20;
+        if (between && effort() != Effort::full) continue;
         const std::size_t n = std::size_t{1} << order;
         const std::size_t at[] = {1, n / 2 + 3 * (n >> 9) + 77, n - 5};
         std::vector<T> parts(2 * n), y(2 * n);
         for (const std::size_t i : at) parts[i] = 1;
         const auto x = Kind::fromParts(parts);
-        const Record<Kind> record(order, vlqNormNone);
-        ASSERT_EQ(vlqStsOk, Kind::transform(true, x.data(), y.data(), record.spec, nullptr, order));
+        const Plan<Kind> plan(order, vlqNormNone);
+        ASSERT_EQ(vlqStsOk, Kind::transform(true, x.data(), y.data(), plan.spec, nullptr, order));
         for (std::size_t k = 0; k < n; k += k % 1024 == 1023 ? n / 64 + 1 : 1) {
             Extended want;
             for (const std::size_t i : at) want += unitRoot(i * k % n, n, -1);
@@ -222,46 +222,44 @@ TYPED_TEST(FftComplex, ImpulsesAtLargeOrders) {
     }
 }
 
-TYPED_TEST(FftComplex, NormalisesAndReturns) {
+TYPED_TEST(FftComplex, NormalizesAndReturns) {
     using Kind = TypeParam;
     using T = typename Kind::Element;
     Rng rng(seed());
     for (const int order : {0, 1, 2, 3, 4, 5, 6, 7, 10, 11, 14, 15, 16, 17, 19, 20}) {
+        if (order == 20 && effort() != Effort::full) continue;
         const std::size_t n = std::size_t{1} << order;
         const auto x = uniformVector<T>(2 * n, -1, 1, rng);
-        const Record<Kind> plain(order, vlqNormNone);
+        const Plan<Kind> plain(order, vlqNormNone);
         for (const Vlq32s flag : kFlags) {
-            const Record<Kind> record(order, flag);
-            const auto head = headOf<Kind>(record.spec);
+            // Flags select the factor; the paths of the long transforms do not depend on it.
+            if (order > 16 && flag != vlqNormBySqrtN && effort() != Effort::full) continue;
+            const Plan<Kind> plan(order, flag);
+            const auto head = headOf<Kind>(plan.spec);
             std::vector<T> unscaled(2 * n), y(2 * n), z(2 * n);
             for (const bool forward : {true, false}) {
                 ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), unscaled.data(), plain.spec,
                                                     nullptr, order));
-                ASSERT_EQ(vlqStsOk, Kind::transform(forward, x.data(), y.data(), record.spec,
-                                                    nullptr, order));
-                const bool scaled = forward ? head.doFwdScale : head.doInvScale;
-                long double worst = 0;
-                for (std::size_t i = 0; i < 2 * n; ++i) {
-                    const long double factor = scaled ? head.normFactor : 1;
-                    worst = std::max(worst, std::abs(y[i] - unscaled[i] * factor));
+                ASSERT_EQ(vlqStsOk,
+                          Kind::transform(forward, x.data(), y.data(), plan.spec, nullptr, order));
+                // Every output is multiplied by the factor, and nothing else changes.
+                if (forward ? head.doFwdScale : head.doInvScale) {
+                    for (T& value : unscaled) value *= head.normFactor;
                 }
-                const double level =
-                    std::sqrt(static_cast<double>(n)) * (scaled ? double{head.normFactor} : 1);
-                EXPECT_LE(worst, scaled ? 64 * Kind::unit * level : 0)
-                    << "order " << order << " flag " << flag;
+                EXPECT_EQ(unscaled, y) << "order " << order << " flag " << flag;
             }
-            // Forward and back: the input again, or N times it without normalisation.
+            // Forward and back: the input again, or N times it without normalization.
             ASSERT_EQ(vlqStsOk,
-                      Kind::transform(true, x.data(), y.data(), record.spec, nullptr, order));
+                      Kind::transform(true, x.data(), y.data(), plan.spec, nullptr, order));
             ASSERT_EQ(vlqStsOk,
-                      Kind::transform(false, y.data(), z.data(), record.spec, nullptr, order));
+                      Kind::transform(false, y.data(), z.data(), plan.spec, nullptr, order));
             std::vector<Extended> want(n);
             const long double factor = flag == vlqNormNone ? static_cast<long double>(n) : 1;
             for (std::size_t i = 0; i < n; ++i) want[i] = factor * Kind::at(x, i);
-            const double estimate =
-                flag == vlqNormBySqrtN ? 2 * Kind::rootError : 0;  // of the reciprocal root, twice
+            // Root and quotient are rounded, and the factor applies twice.
+            const double rootError = flag == vlqNormBySqrtN ? 4 * Kind::unit : 0;
             EXPECT_LE(errorOf<Kind>(z, want),
-                      2 * 0.75 * std::sqrt(std::max(order, 1)) * Kind::unit + estimate)
+                      2 * 0.75 * std::sqrt(std::max(order, 1)) * Kind::unit + rootError)
                 << "order " << order << " flag " << flag;
         }
     }
@@ -272,27 +270,29 @@ TYPED_TEST(FftComplex, OrderZeroCopiesExactly) {
     using T = typename Kind::Element;
     const std::vector<T> x = {T(0x1.23456789abcdfp-3), T(-0.0)};
     for (const Vlq32s flag : {vlqNormNone, vlqNormFwdByN}) {
-        const Record<Kind> record(0, flag);
+        const Plan<Kind> plan(0, flag);
         std::vector<T> y(2);
-        ASSERT_EQ(vlqStsOk, Kind::transform(true, x.data(), y.data(), record.spec, nullptr, 0));
+        ASSERT_EQ(vlqStsOk, Kind::transform(true, x.data(), y.data(), plan.spec, nullptr, 0));
         EXPECT_EQ(0, std::memcmp(x.data(), y.data(), 2 * sizeof(T)));
     }
 }
 
-// An odd order begins with transforms of eight points: an impulse at n / 8 meets no other factor
-// than theirs on its way to value 1. (The straight-line kernel of order 5 ends with them.)
+// An odd order begins with eight-point transforms: on its way to value 1, an impulse at n / 8 is
+// multiplied by their factor only. (The straight-line kernel of order 5 ends with them.)
 TYPED_TEST(FftComplex, EightPointFactor) {
     using Kind = TypeParam;
     using T = typename Kind::Element;
     for (const int order : {3, 7, 9, 11, 13, 15, 17, 19, 21, 23}) {
+        // Orders 19 and 21 begin as order 17 does.
+        if ((order == 19 || order == 21) && effort() != Effort::full) continue;
         const std::size_t n = std::size_t{1} << order;
-        const Record<Kind> record(order, vlqNormNone);
+        const Plan<Kind> plan(order, vlqNormNone);
         std::vector<T> parts(2 * n), y(2 * n);
         parts[n / 8] = 1;
         const auto x = Kind::fromParts(parts);
         for (const bool forward : {true, false}) {
             ASSERT_EQ(vlqStsOk,
-                      Kind::transform(forward, x.data(), y.data(), record.spec, nullptr, order));
+                      Kind::transform(forward, x.data(), y.data(), plan.spec, nullptr, order));
             const Extended value = Kind::at(y, 1);
             EXPECT_EQ(Kind::eightPoint, static_cast<double>(value.real())) << "order " << order;
             EXPECT_EQ(forward ? -Kind::eightPoint : Kind::eightPoint,
@@ -310,13 +310,13 @@ TYPED_TEST(FftComplex, PlacementDoesNotMatter) {
     for (int order = 0; order <= 20; ++order) {
         const std::size_t n = std::size_t{1} << order;
         const std::vector<T> x = uniformVector<T>(2 * n, -1, 1, rng);
-        const Record<Kind> record(order, vlqNormBySqrtN);
+        const Plan<Kind> plan(order, vlqNormBySqrtN);
         Vlq32s workBytes = -1;
-        ASSERT_EQ(vlqStsOk, Kind::getBufSize(record.spec, &workBytes));
+        ASSERT_EQ(vlqStsOk, Kind::getBufSize(plan.spec, &workBytes));
         for (const bool forward : {true, false}) {
             std::vector<T> want(2 * n);
             ASSERT_EQ(vlqStsOk,
-                      Kind::transform(forward, x.data(), want.data(), record.spec, nullptr, order));
+                      Kind::transform(forward, x.data(), want.data(), plan.spec, nullptr, order));
             const Placement places[][3] = {{{0}, {0}, {0}},
                                            {{4}, {0}, {1}},
                                            {{0}, {4}, {8}},
@@ -330,14 +330,14 @@ TYPED_TEST(FftComplex, PlacementDoesNotMatter) {
                 Buffer<T> dst(2 * n, place[1]);
                 Buffer<Vlq8u> work(static_cast<std::size_t>(workBytes), place[2]);
                 Vlq8u* buf = workBytes ? work.data() : nullptr;
-                ASSERT_EQ(vlqStsOk, Kind::transform(forward, src.data(), dst.data(), record.spec,
-                                                    buf, order));
+                ASSERT_EQ(vlqStsOk,
+                          Kind::transform(forward, src.data(), dst.data(), plan.spec, buf, order));
                 ASSERT_TRUE(same(dst, want)) << "order " << order;
                 ASSERT_TRUE(same(src, x)) << "order " << order;
                 ASSERT_TRUE(work.marginsIntact()) << "order " << order;
                 dst.assign(x);
-                ASSERT_EQ(vlqStsOk, Kind::transform(forward, dst.data(), dst.data(), record.spec,
-                                                    buf, order));
+                ASSERT_EQ(vlqStsOk,
+                          Kind::transform(forward, dst.data(), dst.data(), plan.spec, buf, order));
                 ASSERT_TRUE(same(dst, want)) << "in place, order " << order;
                 ASSERT_TRUE(work.marginsIntact()) << "order " << order;
             }
@@ -360,11 +360,11 @@ TYPED_TEST(FftComplex, Sizes) {
     }
 }
 
-// A record and its scratch at every kind of address, between protected pages.
-TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
+// A spec and its scratch at any address, and next to protected pages.
+TYPED_TEST(FftComplex, SpecStaysInItsMemory) {
     using Kind = TypeParam;
     using T = typename Kind::Element;
-    for (int order = 0; order <= 21; ++order) {
+    for (int order = 0; order <= byEffort(16, 19, 21); ++order) {
         const Sizes sizes = complexSizes(sizeof(T), order);
         const Placement places[] = {{0}, {1}, {63}, {16}, {0, true}};
         for (const Placement place : places) {
@@ -381,7 +381,7 @@ TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
             EXPECT_EQ(0u, address % 64);
             EXPECT_LT(address - given, 64u);
             const auto head = headOf<Kind>(spec);
-            EXPECT_EQ(Kind::word, head.ident);
+            EXPECT_EQ(Kind::tag, head.tag);
             EXPECT_EQ(order, head.order);
             EXPECT_EQ(vlqHintAccurate, head.hint);
             EXPECT_EQ(sizes.work ? sizes.work - 64 : 0, head.workBytes);
@@ -390,7 +390,7 @@ TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
             EXPECT_EQ(vlqStsOk, Kind::getBufSize(spec, &bytes));
             EXPECT_EQ(sizes.work, bytes);
             EXPECT_EQ(vlqStsOk, Kind::free(spec));
-            EXPECT_EQ(0, headOf<Kind>(spec).ident);
+            EXPECT_EQ(0u, headOf<Kind>(spec).tag);
             EXPECT_EQ(vlqStsBadSpec, Kind::free(spec));
         }
     }
@@ -399,18 +399,19 @@ TYPED_TEST(FftComplex, RecordStaysInItsMemory) {
 TYPED_TEST(FftComplex, Flags) {
     using Kind = TypeParam;
     using T = typename Kind::Element;
-    for (const int order : {0, 5, 6, 11, 16}) {
+    for (int order = 0; order <= 17; ++order) {
         const T n = static_cast<T>(std::int64_t{1} << order);
         for (const Vlq32s flag : kFlags) {
-            const Record<Kind> record(order, flag);
-            const auto head = headOf<Kind>(record.spec);
+            const Plan<Kind> plan(order, flag);
+            const auto head = headOf<Kind>(plan.spec);
             EXPECT_EQ(flag == vlqNormFwdByN || flag == vlqNormBySqrtN, head.doFwdScale);
             EXPECT_EQ(flag == vlqNormInvByN || flag == vlqNormBySqrtN, head.doInvScale);
             EXPECT_EQ(1, head.owned);
             if (flag == vlqNormNone)
                 EXPECT_EQ(T(0), head.normFactor);
             else if (flag == vlqNormBySqrtN)
-                EXPECT_EQ(Kind::inverseRoot(n), head.normFactor);
+                EXPECT_EQ(1 / (order % 2 ? std::sqrt(n) : std::ldexp(T(1), order / 2)),
+                          head.normFactor);
             else
                 EXPECT_EQ(1 / n, head.normFactor);
         }
@@ -441,10 +442,10 @@ TYPED_TEST(FftComplex, PlanningChecks) {
     EXPECT_EQ(vlqStsNullPtr, Kind::init(&spec, 11, 3, 0, nullptr, nullptr));
     std::memset(memory, 0xFF, sizeof memory);
     EXPECT_EQ(vlqStsBadFlag, Kind::init(&spec, 11, 3, 0, memory, nullptr));
-    EXPECT_EQ(0, headOf<Kind>(memory).ident);
+    EXPECT_EQ(0u, headOf<Kind>(memory).tag);
     std::memset(memory, 0xFF, sizeof memory);
     EXPECT_EQ(vlqStsNullPtr, Kind::init(&spec, 11, 1, 0, memory, nullptr));
-    EXPECT_EQ(0, headOf<Kind>(memory).ident);
+    EXPECT_EQ(0u, headOf<Kind>(memory).tag);
     EXPECT_EQ(nullptr, spec);
     EXPECT_EQ(vlqStsOk, Kind::init(&spec, 10, 1, 0, memory, nullptr));
     EXPECT_EQ(vlqStsOk, Kind::init(&spec, 11, 1, 0, memory, scratch));
@@ -503,7 +504,7 @@ TYPED_TEST(FftComplex, AllocationFailures) {
     }
 }
 
-// The checks of a call: a foreign record is one of the other form.
+// The checks of a call: a foreign spec is one of another kind.
 template <class Value, class Spec, class Other>
 void checkInterleaved(VlqStatus (*call)(const Value*, Value*, const Spec*, Vlq8u*),
                       VlqStatus (*callInPlace)(Value*, const Spec*, Vlq8u*), const Spec* spec,
@@ -537,10 +538,10 @@ void checkSplit(VlqStatus (*call)(const T*, const T*, T*, T*, const Spec*, Vlq8u
 }
 
 TEST(FftComplexChecks, Transforms) {
-    const Record<Interleaved32> c32fc(6, 8);
-    const Record<Split32> c32f(6, 8);
-    const Record<Interleaved64> c64fc(6, 8);
-    const Record<Split64> c64f(6, 8);
+    const Plan<Interleaved32> c32fc(6, 8);
+    const Plan<Split32> c32f(6, 8);
+    const Plan<Interleaved64> c64fc(6, 8);
+    const Plan<Split64> c64f(6, 8);
     checkInterleaved(vlqsFFTFwd_CToC_32fc, vlqsFFTFwd_CToC_32fc_I, c32fc.spec, c32f.spec);
     checkInterleaved(vlqsFFTInv_CToC_32fc, vlqsFFTInv_CToC_32fc_I, c32fc.spec, c64fc.spec);
     checkInterleaved(vlqsFFTFwd_CToC_64fc, vlqsFFTFwd_CToC_64fc_I, c64fc.spec, c64f.spec);
@@ -551,7 +552,7 @@ TEST(FftComplexChecks, Transforms) {
     checkSplit(vlqsFFTInv_CToC_64f, vlqsFFTInv_CToC_64f_I, c64f.spec, c32f.spec);
 }
 
-TYPED_TEST(FftComplex, DeadRecord) {
+TYPED_TEST(FftComplex, FreedSpec) {
     using Kind = TypeParam;
     using T = typename Kind::Element;
     alignas(64) Vlq8u memory[256] = {};

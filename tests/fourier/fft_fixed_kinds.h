@@ -1,17 +1,17 @@
 // The fixed-point kinds under one set of names, for tests that run over all of them.
 #pragma once
 
-#include "fourier/fft_fixed_ref.h"
+#include "fourier/fft_real_ref.h"
 #include "vlqs/fft.h"
 
 namespace vlqtest {
 
-// How a kind is planned; `word` is what its record begins with.
-template <class SpecType, Vlq32s identWord, int largestOrder, auto getSizeCall, auto initCall,
+// How a kind is planned; `tag` is the first field of its spec.
+template <class SpecType, Vlq32u specTag, int largestOrder, auto getSizeCall, auto initCall,
           auto initAllocCall, auto getBufSizeCall, auto freeCall>
 struct Planning {
     using Spec = SpecType;
-    static constexpr Vlq32s word = identWord;
+    static constexpr Vlq32u tag = specTag;
     static constexpr int largest = largestOrder;
     static constexpr auto getSize = getSizeCall;
     static constexpr auto init = initCall;
@@ -20,7 +20,7 @@ struct Planning {
     static constexpr auto free = freeCall;
 };
 
-// A transform out of place, or in place where both signals are one.
+// A transform out of place, or in place where both pointers are equal.
 template <auto apart, auto inPlace>
 struct Call {
     template <class T, class Spec>
@@ -42,7 +42,7 @@ struct ComplexData {
     using Signal = T;
     using Spectrum = T;
     static constexpr bool isReal = false, is16 = sizeof(T) == 2, inDouble = sizeof(T) == 4;
-    static constexpr Layout layouts[] = {Layout::perm};  // stands for none
+    static constexpr Layout layouts[] = {Layout::perm};  // unused
     static std::size_t signalLength(std::size_t n) { return 2 * n; }
     static std::size_t spectrumLength(std::size_t n, Layout) { return 2 * n; }
 };
@@ -95,7 +95,7 @@ struct RealSignal {
     static constexpr bool isReal = true;
     static std::size_t signalLength(std::size_t n) { return n; }
     static std::size_t spectrumLength(std::size_t n, Layout layout) {
-        return elementsOf(layout, n);
+        return layoutSize(layout, n);
     }
     static std::vector<long double> exact(bool forward, const std::vector<long double>& x,
                                           std::size_t n, Layout layout) {

@@ -1,3 +1,4 @@
+// Fixed-point FFT against its definition: values, scaling, placement, planning and checks.
 #include "fourier/fft_fixed_kinds.h"
 
 #include <algorithm>
@@ -30,18 +31,18 @@ using Kinds16 = ::testing::Types<C_16sc, C_16s, R_16s>;
 TYPED_TEST_SUITE(FftFixed16, Kinds16);
 
 template <class Kind>
-class Record {
+class Plan {
 public:
-    Record(int order, Vlq32s flag, VlqHint hint = vlqHintNone) {
+    Plan(int order, Vlq32s flag, VlqHint hint = vlqHintNone) {
         EXPECT_EQ(vlqStsOk, Kind::initAlloc(&spec, order, flag, hint));
     }
-    ~Record() { EXPECT_EQ(vlqStsOk, Kind::free(spec)); }
-    Record(const Record&) = delete;
-    Record& operator=(const Record&) = delete;
+    ~Plan() { EXPECT_EQ(vlqStsOk, Kind::free(spec)); }
+    Plan(const Plan&) = delete;
+    Plan& operator=(const Plan&) = delete;
     typename Kind::Spec* spec = nullptr;
 };
 
-long double normalisation(bool forward, Vlq32s flag, int order) {
+long double normalization(bool forward, Vlq32s flag, int order) {
     if (flag == vlqNormBySqrtN) return std::sqrt(std::ldexp(1.0L, -order));
     return flag == (forward ? vlqNormFwdByN : vlqNormInvByN) ? std::ldexp(1.0L, -order) : 1;
 }
@@ -60,20 +61,19 @@ void checkAgainstDefinition(int order, Vlq32s flag, VlqHint hint, Layout layout,
     const std::vector<From> x = extremeVector<From>(from, rng);
     const auto exact =
         Kind::exact(forward, std::vector<long double>(x.begin(), x.end()), n, layout);
-    const Record<Kind> record(order, flag, hint);
+    const Plan<Kind> plan(order, flag, hint);
     for (const Vlq32s scale : {0, order / 2, order + 1, order + 7, -3}) {
         std::vector<To> y(to);
         VlqStatus status;
         if constexpr (forward)
-            status = Kind::forward(x.data(), y.data(), record.spec, scale, nullptr, order, layout);
+            status = Kind::forward(x.data(), y.data(), plan.spec, scale, nullptr, order, layout);
         else
-            status = Kind::inverse(x.data(), y.data(), record.spec, scale, nullptr, order, layout);
+            status = Kind::inverse(x.data(), y.data(), plan.spec, scale, nullptr, order, layout);
         ASSERT_EQ(vlqStsOk, status);
-        const long double factor = normalisation(forward, flag, order) * std::ldexp(1.0L, -scale);
+        const long double factor = normalization(forward, flag, order) * std::ldexp(1.0L, -scale);
         long double peak = 0;
         for (const long double v : exact) peak = std::max(peak, std::abs(v * factor));
-        // A half, and what the arithmetic adds: factors of 14 bits in integers, else the precision
-        // and the estimate of a reciprocal root.
+        // A half, and the errors of the arithmetic: factors of 14 bits in integers, else rounding.
         const bool single = !Kind::inDouble;
         const long double relative =
             inIntegers(Kind::is16, order, hint) ? 0x1p-13L
@@ -119,14 +119,14 @@ void checkPlacement(int order, VlqHint hint, Layout layout, Rng& rng) {
     const std::size_t signal = Kind::signalLength(n), spectrum = Kind::spectrumLength(n, layout);
     const std::size_t from = forward ? signal : spectrum, to = forward ? spectrum : signal;
     const std::vector<From> x = extremeVector<From>(from, rng);
-    const Record<Kind> record(order, vlqNormBySqrtN, hint);
+    const Plan<Kind> plan(order, vlqNormBySqrtN, hint);
     Vlq32s bytes = -1;
-    ASSERT_EQ(vlqStsOk, Kind::getBufSize(record.spec, &bytes));
+    ASSERT_EQ(vlqStsOk, Kind::getBufSize(plan.spec, &bytes));
     auto call = [&](const From* src, To* dst, Vlq8u* buf) {
         if constexpr (forward)
-            return Kind::forward(src, dst, record.spec, order / 2, buf, order, layout);
+            return Kind::forward(src, dst, plan.spec, order / 2, buf, order, layout);
         else
-            return Kind::inverse(src, dst, record.spec, order / 2, buf, order, layout);
+            return Kind::inverse(src, dst, plan.spec, order / 2, buf, order, layout);
     };
     std::vector<To> want(to);
     ASSERT_EQ(vlqStsOk, call(x.data(), want.data(), nullptr));
@@ -207,13 +207,13 @@ TYPED_TEST(FftFixed, Sizes) {
 }
 
 template <class Kind>
-Vlq32s wordOf(const void* spec) {
-    Vlq32s word;
-    std::memcpy(&word, spec, sizeof word);
-    return word;
+Vlq32u tagOf(const void* spec) {
+    Vlq32u tag;
+    std::memcpy(&tag, spec, sizeof tag);
+    return tag;
 }
 
-TYPED_TEST(FftFixed, RecordStaysInItsMemory) {
+TYPED_TEST(FftFixed, SpecStaysInItsMemory) {
     using Kind = TypeParam;
     for (int order = 0; order <= 18; ++order) {
         for (const VlqHint hint : kHints) {
@@ -228,7 +228,7 @@ TYPED_TEST(FftFixed, RecordStaysInItsMemory) {
                 ASSERT_TRUE(memory.marginsIntact()) << "order " << order;
                 ASSERT_TRUE(scratch.marginsIntact()) << "order " << order;
                 EXPECT_EQ(0u, reinterpret_cast<std::uintptr_t>(spec) % 64);
-                EXPECT_EQ(Kind::word, wordOf<Kind>(spec));
+                EXPECT_EQ(Kind::tag, tagOf<Kind>(spec));
                 Vlq32s bytes = -1;
                 EXPECT_EQ(vlqStsOk, Kind::getBufSize(spec, &bytes));
                 // The size query counts the slack of the inner work area once more.
@@ -239,7 +239,7 @@ TYPED_TEST(FftFixed, RecordStaysInItsMemory) {
                 EXPECT_EQ(sizes.work - (inner && !(Kind::is16 && order == 0) ? 64 : 0), bytes)
                     << "order " << order;
                 EXPECT_EQ(vlqStsOk, Kind::free(spec));
-                EXPECT_EQ(0, wordOf<Kind>(spec));
+                EXPECT_EQ(0u, tagOf<Kind>(spec));
                 EXPECT_EQ(vlqStsBadSpec, Kind::free(spec));
                 EXPECT_EQ(vlqStsBadSpec, Kind::getBufSize(spec, &bytes));
             }
@@ -271,11 +271,11 @@ TYPED_TEST(FftFixed, PlanningChecks) {
     for (const int order : {2, 11}) {
         std::memset(memory, 0xFF, sizeof memory);
         EXPECT_EQ(vlqStsBadFlag, Kind::init(&spec, order, 3, 0, memory, scratch));
-        EXPECT_EQ(0, wordOf<Kind>(memory));
+        EXPECT_EQ(0u, tagOf<Kind>(memory));
     }
     std::memset(memory, 0xFF, sizeof memory);
     EXPECT_EQ(vlqStsNullPtr, Kind::init(&spec, 11, 1, 0, memory, nullptr));
-    EXPECT_EQ(0, wordOf<Kind>(memory));
+    EXPECT_EQ(0u, tagOf<Kind>(memory));
     EXPECT_EQ(nullptr, spec);
     EXPECT_EQ(vlqStsOk, Kind::init(&spec, 10, 1, 0, memory, nullptr));
     EXPECT_EQ(vlqStsNullPtr, Kind::getBufSize(nullptr, &a));
@@ -328,7 +328,7 @@ TYPED_TEST(FftFixed, AllocationFailures) {
 
 TYPED_TEST(FftFixed, TransformChecks) {
     using Kind = TypeParam;
-    const Record<Kind> record(3, 8);
+    const Plan<Kind> plan(3, 8);
     std::vector<typename Kind::Signal> x(64);
     std::vector<typename Kind::Spectrum> y(64);
     alignas(64) Vlq8u none[256] = {};
@@ -340,13 +340,13 @@ TYPED_TEST(FftFixed, TransformChecks) {
         EXPECT_EQ(vlqStsBadSpec, Kind::inverse(nullptr, x.data(), foreign, 0, nullptr, 3, layout));
         if constexpr (!std::is_same_v<Kind, C_16s> && !std::is_same_v<Kind, C_32s>) {
             EXPECT_EQ(vlqStsNullPtr,
-                      Kind::forward(nullptr, y.data(), record.spec, 0, nullptr, 3, layout));
+                      Kind::forward(nullptr, y.data(), plan.spec, 0, nullptr, 3, layout));
             EXPECT_EQ(vlqStsNullPtr,
-                      Kind::forward(x.data(), nullptr, record.spec, 0, nullptr, 3, layout));
+                      Kind::forward(x.data(), nullptr, plan.spec, 0, nullptr, 3, layout));
             EXPECT_EQ(vlqStsNullPtr,
-                      Kind::inverse(nullptr, x.data(), record.spec, 0, nullptr, 3, layout));
+                      Kind::inverse(nullptr, x.data(), plan.spec, 0, nullptr, 3, layout));
             EXPECT_EQ(vlqStsNullPtr,
-                      Kind::inverse(y.data(), nullptr, record.spec, 0, nullptr, 3, layout));
+                      Kind::inverse(y.data(), nullptr, plan.spec, 0, nullptr, 3, layout));
         }
     }
 }
@@ -364,8 +364,8 @@ void checkSplitPointers(VlqStatus (*call)(const T*, const T*, T*, T*, const Spec
     EXPECT_EQ(vlqStsNullPtr, inPlace(v, nullptr, spec, 0, nullptr));
 }
 TEST(FftFixedChecks, Split) {
-    const Record<C_16s> short16(3, 8);
-    const Record<C_32s> short32(3, 8);
+    const Plan<C_16s> short16(3, 8);
+    const Plan<C_32s> short32(3, 8);
     checkSplitPointers(vlqsFFTFwd_CToC_16s_Sfs, vlqsFFTFwd_CToC_16s_ISfs, short16.spec);
     checkSplitPointers(vlqsFFTInv_CToC_16s_Sfs, vlqsFFTInv_CToC_16s_ISfs, short16.spec);
     checkSplitPointers(vlqsFFTFwd_CToC_32s_Sfs, vlqsFFTFwd_CToC_32s_ISfs, short32.spec);
@@ -377,7 +377,7 @@ TYPED_TEST(FftFixed16, OnePoint) {
     using Kind = TypeParam;
     const Layout layout = Kind::layouts[0];
     for (const VlqHint hint : kHints) {
-        const Record<Kind> record(0, vlqNormBySqrtN, hint);
+        const Plan<Kind> plan(0, vlqNormBySqrtN, hint);
         for (const int sample : {-32768, -32767, -3, -2, -1, 0, 1, 2, 3, 5, 7, 32767}) {
             for (const Vlq32s scale :
                  {-40, -32, -31, -20, -15, -1, 0, 1, 2, 15, 16, 17, 31, 32, 100}) {
@@ -392,10 +392,10 @@ TYPED_TEST(FftFixed16, OnePoint) {
                 want = std::clamp<std::int64_t>(want, -32768, 32767);
                 const Vlq16s x[2] = {static_cast<Vlq16s>(sample), static_cast<Vlq16s>(sample)};
                 Vlq16s y[2] = {9, 9};
-                ASSERT_EQ(vlqStsOk, Kind::forward(x, y, record.spec, scale, nullptr, 0, layout));
+                ASSERT_EQ(vlqStsOk, Kind::forward(x, y, plan.spec, scale, nullptr, 0, layout));
                 EXPECT_EQ(want, y[0]) << sample << " scale " << scale;
                 EXPECT_EQ(Kind::isReal ? 0 : want, y[1]);
-                ASSERT_EQ(vlqStsOk, Kind::inverse(x, y, record.spec, scale, nullptr, 0, layout));
+                ASSERT_EQ(vlqStsOk, Kind::inverse(x, y, plan.spec, scale, nullptr, 0, layout));
                 EXPECT_EQ(want, y[0]) << sample << " scale " << scale;
             }
         }
@@ -411,7 +411,7 @@ TYPED_TEST(FftFixed16, Halves) {
         const Layout layout = Kind::layouts[Kind::isReal ? 2 : 0];
         const std::size_t len = Kind::isReal ? n : 2 * n;
         for (const VlqHint hint : kHints) {
-            const Record<Kind> record(order, vlqNormNone, hint);
+            const Plan<Kind> plan(order, vlqNormNone, hint);
             for (int trial = 0; trial < 200; ++trial) {
                 const auto x = extremeVector<Vlq16s>(len, rng);
                 const std::vector<long double> exactInput(x.begin(), x.end());
@@ -419,11 +419,11 @@ TYPED_TEST(FftFixed16, Halves) {
                     const auto exact = Kind::exact(forward, exactInput, n, layout);
                     for (const Vlq32s scale : {0, 1, 2, 3, 5}) {
                         std::vector<Vlq16s> y(len);
-                        const VlqStatus status =
-                            forward ? Kind::forward(x.data(), y.data(), record.spec, scale, nullptr,
-                                                    order, layout)
-                                    : Kind::inverse(x.data(), y.data(), record.spec, scale, nullptr,
-                                                    order, layout);
+                        const VlqStatus status = forward
+                                                     ? Kind::forward(x.data(), y.data(), plan.spec,
+                                                                     scale, nullptr, order, layout)
+                                                     : Kind::inverse(x.data(), y.data(), plan.spec,
+                                                                     scale, nullptr, order, layout);
                         ASSERT_EQ(vlqStsOk, status);
                         for (std::size_t i = 0; i < len; ++i) {
                             const long double v = std::ldexp(std::nearbyint(exact[i]), -scale);
@@ -445,16 +445,16 @@ TYPED_TEST(FftFixed16, Fields) {
     struct Head {
         Vlq32s ident, order, fwdShift, invShift, halfStep, hint, workBytes, useFloat, owned;
     };
-    auto headOf = [](const Record<Kind>& record) {
+    auto headOf = [](const Plan<Kind>& plan) {
         Head head;
-        std::memcpy(&head, static_cast<const void*>(record.spec), sizeof head);
+        std::memcpy(&head, static_cast<const void*>(plan.spec), sizeof head);
         return head;
     };
     for (int order = 0; order <= 6; ++order) {
         for (const VlqHint hint : kHints) {
             for (const Vlq32s flag : kFlags) {
-                const Head head = headOf(Record<Kind>(order, flag, hint));
-                EXPECT_EQ(Kind::word, head.ident);
+                const Head head = headOf(Plan<Kind>(order, flag, hint));
+                EXPECT_EQ(Kind::tag, head.ident);
                 EXPECT_EQ(order, head.order);
                 EXPECT_EQ(hint, head.hint);
                 EXPECT_EQ(1, head.owned);
@@ -478,18 +478,18 @@ TYPED_TEST(FftFixed16, ExtremeScales) {
     for (const int order : {1, 3, 6}) {
         const std::size_t n = std::size_t{1} << order;
         const Layout layout = Kind::layouts[0];
-        const Record<Kind> record(order, vlqNormNone);
+        const Plan<Kind> plan(order, vlqNormNone);
         std::vector<Vlq16s> x(Kind::signalLength(n)), y(Kind::spectrumLength(n, layout));
         x[0] = 100;
         for (const Vlq32s scale : {20, 31, 1000, 2147483647}) {
-            ASSERT_EQ(vlqStsOk, Kind::forward(x.data(), y.data(), record.spec, scale, nullptr,
-                                              order, layout));
+            ASSERT_EQ(vlqStsOk,
+                      Kind::forward(x.data(), y.data(), plan.spec, scale, nullptr, order, layout));
             for (const Vlq16s v : y) EXPECT_EQ(0, v);
         }
         ASSERT_EQ(vlqStsOk,
-                  Kind::forward(x.data(), y.data(), record.spec, -12, nullptr, order, layout));
+                  Kind::forward(x.data(), y.data(), plan.spec, -12, nullptr, order, layout));
         EXPECT_EQ(32767, y[0]);
-        ASSERT_EQ(vlqStsOk, Kind::forward(x.data(), y.data(), record.spec, -2147483647 - 1, nullptr,
+        ASSERT_EQ(vlqStsOk, Kind::forward(x.data(), y.data(), plan.spec, -2147483647 - 1, nullptr,
                                           order, layout));
         EXPECT_EQ(order > 3 ? 32767 : 0, y[0]);
     }
@@ -497,12 +497,12 @@ TYPED_TEST(FftFixed16, ExtremeScales) {
 
 // The shift to the right stops at 31, which is not enough for sums beyond 2^30.
 TEST(FftFixedScale, ShiftsOfMoreThan31Are31) {
-    const Record<C_16sc> record(3, vlqNormNone);
+    const Plan<C_16sc> plan(3, vlqNormNone);
     const Vlq16sc x[8] = {{32767, 0},  {32767, 32767},   {0, 32767},  {-32768, 32767},
                           {-32768, 0}, {-32768, -32768}, {0, -32768}, {32767, -32768}};
     for (const Vlq32s scale : {18, 19, 1000, 2147483647}) {
         Vlq16sc y[8];
-        ASSERT_EQ(vlqStsOk, vlqsFFTFwd_CToC_16sc_Sfs(x, y, record.spec, scale, nullptr));
+        ASSERT_EQ(vlqStsOk, vlqsFFTFwd_CToC_16sc_Sfs(x, y, plan.spec, scale, nullptr));
         EXPECT_EQ(1, y[1].re) << scale;
         EXPECT_EQ(0, y[0].re) << scale;
     }
@@ -511,27 +511,27 @@ TEST(FftFixedScale, ShiftsOfMoreThan31Are31) {
 // Past the range of the floating type the scale is infinite, and infinity times 0 is stored as the
 // conversions store what is not a number.
 TEST(FftFixedScale, ZerosOf16BitsUnderAnInfiniteScale) {
-    const Record<R_16s> record(5, vlqNormNone);
+    const Plan<R_16s> plan(5, vlqNormNone);
     Vlq16s x[32] = {100}, y[34];
-    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_16s_Sfs(x, y, record.spec, -127, nullptr));
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_16s_Sfs(x, y, plan.spec, -127, nullptr));
     EXPECT_EQ(32767, y[0]);
     EXPECT_EQ(0, y[1]);
     EXPECT_EQ(0, y[33]);
-    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_16s_Sfs(x, y, record.spec, -128, nullptr));
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_16s_Sfs(x, y, plan.spec, -128, nullptr));
     EXPECT_EQ(32767, y[0]);
     EXPECT_EQ(32767, y[1]);
     EXPECT_EQ(32767, y[33]);
 }
 TEST(FftFixedScale, ZerosOf32BitsUnderAnInfiniteScale) {
-    const Record<R_32s> record(5, vlqNormNone);
+    const Plan<R_32s> plan(5, vlqNormNone);
     Vlq32s x[32] = {100}, y[34];
-    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_32s_Sfs(x, y, record.spec, -1023, nullptr));
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_32s_Sfs(x, y, plan.spec, -1023, nullptr));
     EXPECT_EQ(0, y[1]);
-    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_32s_Sfs(x, y, record.spec, -1024, nullptr));
+    ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_32s_Sfs(x, y, plan.spec, -1024, nullptr));
     EXPECT_EQ(2147483647, y[1]);
 
-    // This form writes its two zeros after the conversion.
-    const Record<R_16s32s> mixed(5, vlqNormNone);
+    // This kind writes its two zeros after the conversion.
+    const Plan<R_16s32s> mixed(5, vlqNormNone);
     const Vlq16s shorts[32] = {100};
     ASSERT_EQ(vlqStsOk, vlqsFFTFwd_RToCCS_16s32s_Sfs(shorts, y, mixed.spec, -128, nullptr));
     EXPECT_EQ(2147483647, y[3]);

@@ -1,3 +1,4 @@
+// Products and expansion of packed spectra against plain loops, to the bit.
 #include "fourier/packed_ref.h"
 
 #include <cmath>
@@ -9,8 +10,7 @@ namespace {
 
 using namespace vlqtest;
 
-// Bit for bit, but any not-a-number stands for any other: which operand's payload a sum keeps is
-// the processor's choice.
+// To the bit, but all NaNs are equal: which operand's payload a sum keeps is the processor's choice.
 template <class T>
 void quietPayloads(std::vector<T>& values) {
     for (T& v : values) {

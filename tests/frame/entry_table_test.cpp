@@ -133,6 +133,32 @@ TEST(EntryTable, NeedsNoLibraryOfCpp) {
               needed);
 }
 
+// The function that a line of a disassembly names between < and >, without an offset into it.
+std::string functionIn(const std::string& line) {
+    const auto open = line.find('<'), close = line.find('>');
+    return open < close ? line.substr(open + 1, close - open - 1) : "";
+}
+
+// A body that ends in a jump is in no backtrace of what it jumps to.
+TEST(EntryTable, TransformsAreInTheBacktraceOfTheirKernels) {
+    std::string body;
+    std::set<std::string> seen, jumping;
+    for (const std::string& line : linesOf("objdump -d --no-show-raw-insn")) {
+        if (line.empty()) continue;
+        if (line.back() == ':') body = functionIn(line);
+        const bool isTransform = body.find("vlqsFFTFwd") != std::string::npos ||
+                                 body.find("vlqsFFTInv") != std::string::npos;
+        if (!isTransform || body.rfind("_ZN3vlq", 0) != 0) continue;
+        seen.insert(body);
+        const std::string target = functionIn(line);
+        const bool leaves = line.find("\tjmp ") != std::string::npos && !target.empty() &&
+                            target.rfind(body, 0) != 0;
+        if (leaves) jumping.insert(body);
+    }
+    EXPECT_GT(seen.size(), 80u);
+    EXPECT_EQ(std::set<std::string>{}, jumping);
+}
+
 TEST(EntryTable, EachStubJumpsThroughItsOwnSlot) {
     const auto exports = nameList();
     const Stub first = stubOf(exports[0].name);

@@ -1,3 +1,4 @@
+// A pool of page regions between protected pages.
 #include "harness/buffer.h"
 
 #include <sys/mman.h>

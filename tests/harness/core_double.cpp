@@ -1,3 +1,4 @@
+// The test programs' own core library.
 #include "harness/core_double.h"
 
 #include <atomic>

@@ -1,3 +1,4 @@
+// Reads the effort of a run from the environment.
 #include "harness/effort.h"
 
 #include <cstdlib>

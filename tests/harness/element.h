@@ -36,6 +36,9 @@ inline bool sameNumber(float a, float b) {
 inline bool sameNumber(double a, double b) {
     return (std::isnan(a) && std::isnan(b)) || std::memcmp(&a, &b, sizeof a) == 0;
 }
+template <class T>
+requires std::is_integral_v<T>
+bool sameNumber(T a, T b) { return a == b; }
 template <ComplexElement T>
 bool sameNumber(T a, T b) {
     return sameNumber(a.re, b.re) && sameNumber(a.im, b.im);

@@ -1,3 +1,4 @@
+// The main function of every test program.
 #include <gtest/gtest.h>
 
 #include <cstdio>

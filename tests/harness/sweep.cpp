@@ -1,3 +1,4 @@
+// The cases of the sweep, and how a failing one is reported.
 #include "harness/sweep.h"
 
 #include <sstream>

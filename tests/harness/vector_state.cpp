@@ -1,3 +1,4 @@
+// Redirects the entry table to thunks that look at the vector registers after each call.
 #include "harness/vector_state.h"
 
 #include <cpuid.h>

@@ -8,10 +8,10 @@
 
 /* Functions that only the header has. */
 static int forwardsWork(void) {
-    const Vlq32s taps[2] = {1, 2}, past[2] = {3, 4}, other[2] = {5, 6};
+    const Vlq32s taps[2] = {1, 2}, history[2] = {3, 4}, other[2] = {5, 6};
     Vlq32s line[2] = {0, 0};
     VlqsFIRState_32s* filter = NULL;
-    int ok = vlqsFIRInitAlloc_32s(&filter, taps, 2, past) == vlqStsOk &&
+    int ok = vlqsFIRInitAlloc_32s(&filter, taps, 2, history) == vlqStsOk &&
              vlqsFIRGetDlyLine_32s(filter, line) == vlqStsOk;
     ok = ok && line[0] == 3 && line[1] == 4;
     ok = ok && vlqsFIRSetDlyLine_32s(filter, other) == vlqStsOk &&

@@ -65,8 +65,8 @@ check "pkg-config in a moved tree" pkgconfig_consumer moved_pc "$moved"
 
 # One static library, which needs nothing but the C library.
 static_build() {
-    cmake -S "$repo" -B "$stage/build" -DBUILD_SHARED_LIBS=OFF -DVLQS_LEVEL=s2 &&
-        cmake --build "$stage/build" -j "$(nproc)" && cmake --install "$stage/build" --prefix "$stage/static"
+    cmake -S "$repo" -B "$build-static" -DBUILD_SHARED_LIBS=OFF -DVLQS_LEVEL=s2 -DVLQS_WERROR=ON &&
+        cmake --build "$build-static" -j "$(nproc)" && cmake --install "$build-static" --prefix "$stage/static"
 }
 needs_libc_alone() {  # needs_libc_alone PROGRAM
     ! readelf -d "$1" | grep NEEDED | grep -vE '\[(libc|libm)\.so\.6\]'

@@ -98,7 +98,7 @@ TEST(Team, RunsEachShareOnce) {
 // ---- filters on a team --------------------------------------------------------------------------
 
 // Long enough for a team on any machine: direct and by transforms.
-constexpr int kSamples = 1 << 20;
+constexpr int kSamples = 1 << 22;
 constexpr int kTapCounts[] = {20, 300};
 
 class Teams : public testing::Test {
@@ -342,7 +342,7 @@ TEST_F(Teams, AreNotCutShortByACancellation) {
 }
 
 TEST_F(Teams, ServeTwentyCallersAtOnce) {
-    const auto src = noise(1 << 17, 1), taps = noise(257, 5);
+    const auto src = noise(1 << 20, 1), taps = noise(257, 5);
     const auto want = filtered(src, 257, 1);
     Core::setThreads(2);
     std::atomic<int> wrong{0};
@@ -355,7 +355,7 @@ TEST_F(Teams, ServeTwentyCallersAtOnce) {
             for (int call = 0; call < 5; ++call) {
                 const std::vector<float> past(257);
                 vlqsFIRSetDlyLine_32f(state, past.data());
-                if (vlqsFIR_32f(src.data(), dst.data(), 1 << 17, state) != vlqStsOk) ++wrong;
+                if (vlqsFIR_32f(src.data(), dst.data(), 1 << 20, state) != vlqStsOk) ++wrong;
                 if (!sameBits(want, dst)) ++wrong;
             }
             vlqsFIRFree_32f(state);

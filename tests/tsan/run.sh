@@ -7,8 +7,8 @@ set -u
 repo=$(realpath "$1")
 mkdir -p "$2"
 build=$(realpath "$2")
-cc=${CLANG:-clang-14}
-cxx=${CLANGXX:-clang++-14}
+cc=clang-14
+cxx=clang++-14
 log=$build/tsan.log
 export TSAN_OPTIONS="halt_on_error=1 exitcode=66"
 failed=0

@@ -78,7 +78,7 @@ template <int Rows, class T, int A>
 
 // A vectors of outputs.
 template <int A, class T>
-inline void complexTile(const T* tapsWide, const T* x, T* dst, int tapsLen) {
+[[gnu::noinline]] void complexTile(const T* tapsWide, const T* x, T* dst, int tapsLen) {
     constexpr int lanes = Vec<T>::lanes;
     constexpr int group = kComplexRows * (lanes / 2);
     Vec<T> byRe[A], byIm[A];

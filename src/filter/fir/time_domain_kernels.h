@@ -63,7 +63,7 @@ template <int Rows, class T, int A>
 
 // A vectors of outputs.
 template <int A, class T>
-inline void convolveTile(const T* tapsWide, const T* x, T* dst, int tapsLen) {
+[[gnu::noinline]] void convolveTile(const T* tapsWide, const T* x, T* dst, int tapsLen) {
     constexpr int lanes = Vec<T>::lanes;
     constexpr int replicas = kReplicas<T>;
     Vec<T> even[A], odd[A];

@@ -14,27 +14,27 @@ namespace {
 template <class T>
 constexpr Vlq64s passTableBytes(int order) {
     return roundDown(
-        static_cast<Vlq64s>(2 * sizeof(T)) * powerOfTwo(order) + (sizeof(T) == 4 ? 71 : 79), 64);
+        static_cast<Vlq64s>(2 * sizeof(T)) * pow2(order) + (sizeof(T) == 4 ? 71 : 79), 64);
 }
 template <class T>
 constexpr Vlq64s passWorkBytes(int order) {
-    return roundDown(static_cast<Vlq64s>(2 * sizeof(T)) * powerOfTwo(order) + 63, 64);
+    return roundDown(static_cast<Vlq64s>(2 * sizeof(T)) * pow2(order) + 63, 64);
 }
 // N / 4 + 1 32-bit indices, padded: the bit-reversal table.
-constexpr Vlq64s plainReversalBytes(int order) { return roundDown(powerOfTwo(order) + 67, 64); }
+constexpr Vlq64s plainReversalBytes(int order) { return roundDown(pow2(order) + 67, 64); }
 
 // The bit reversal in tiles of 2^t by 2^t values: one index for each tile, then the swap list of a
 // tile.
 template <class T>
 constexpr Vlq64s tiledReversalBytes(int order) {
     constexpr int t = sizeof(T) == 4 ? 6 : 5;
-    return 4 * powerOfTwo(order - 2 * t) + 4 * powerOfTwo(2 * t - 2) + 64;
+    return 4 * pow2(order - 2 * t) + 4 * pow2(2 * t - 2) + 64;
 }
 
 template <class T>
 constexpr Vlq64s quarterWaveBytes(int order) {
     constexpr Vlq64s element = sizeof(T);
-    return roundDown(element * (powerOfTwo(order - 2) + 1) + 63, 64);
+    return roundDown(element * (pow2(order - 2) + 1) + 63, 64);
 }
 
 template <class T>
@@ -50,7 +50,7 @@ int splitLaneOf(int bytes, int lane) {
 template <class T>
 T* buildPassTable(const PassPlan& plan, int order, const SineTable<T>& sine, Cursor& cursor) {
     const int lanes = plan.bytes / static_cast<int>(sizeof(T));
-    T* const table = cursor.take<T>(2 * (powerOfTwo(order) - plan.first), kTableAlignment);
+    T* const table = cursor.take<T>(2 * (pow2(order) - plan.first), kTableAlignment);
     T* next = table;
     int spanBits = std::countr_zero(static_cast<unsigned>(plan.first));
     auto append = [&](int unitBits, Vlq64s factor, Vlq64s column) {
@@ -65,7 +65,7 @@ T* buildPassTable(const PassPlan& plan, int order, const SineTable<T>& sine, Cur
     for (int pass = 0; pass < plan.count; ++pass) {
         const int radix = plan.radix[pass],
                   radixBits = std::countr_zero(static_cast<unsigned>(radix));
-        const Vlq64s span = powerOfTwo(spanBits);
+        const Vlq64s span = pow2(spanBits);
         for (Vlq64s k = 0; k < span; k += lanes) {
             if (radix == 16) {
                 for (int i = 1; i < 4; ++i) append(spanBits + 2, i, k);
@@ -87,7 +87,7 @@ void buildColumnTable(int bits, const SineTable<T>& sine, T* next) {
     const ColumnPlan plan = columnPlan(bits);
     for (int step = 0; step + 1 < plan.count; ++step) {
         const int radix = plan.radix[step];
-        for (Vlq64s j = 0; j < powerOfTwo(bits) / radix; ++j) {
+        for (Vlq64s j = 0; j < pow2(bits) / radix; ++j) {
             for (int q = 0; q < radix; ++q, next += 2) {
                 const Twiddle<T> w = twiddle(sine, bits, j * q);
                 next[0] = w.re;
@@ -103,7 +103,7 @@ void buildColumnTable(int bits, const SineTable<T>& sine, T* next) {
 template <class T>
 T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor& cursor) {
     constexpr int columns = kTileColumns<T>, lanes = Vec<T>::lanes;
-    const Vlq64s rows = powerOfTwo(rowBits), tiles = powerOfTwo(columnBits) / columns;
+    const Vlq64s rows = pow2(rowBits), tiles = pow2(columnBits) / columns;
     const int order = rowBits + columnBits;
     T* const table = cursor.take<T>(2 * rows * (columns + tiles), kTableAlignment);
     T* next = table;
@@ -131,7 +131,7 @@ T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor
 template <class T>
 T* buildJoinTable(int order, const SineTable<T>& sine, Cursor& cursor) {
     constexpr int lanes = Vec<T>::lanes;
-    const Vlq64s length = powerOfTwo(order - 4);
+    const Vlq64s length = pow2(order - 4);
     T* const table = cursor.take<T>(12 * length, kTableAlignment);
     T* next = table;
     for (Vlq64s k = 0; k < length; k += lanes) {
@@ -202,8 +202,8 @@ PlanSizes largeSizes(int order) {
     int level = order;
     while (level > ComplexLimits<T>::inCache) {
         const Level step = levelOf<T>(level);
-        sizes.spec += value * powerOfTwo(level - 1);
-        sizes.work = std::max(sizes.work, value * powerOfTwo(step.outerBits + step.tileBits));
+        sizes.spec += value * pow2(level - 1);
+        sizes.work = std::max(sizes.work, value * pow2(step.outerBits + step.tileBits));
         level -= step.outerBits;
     }
     sizes.spec += passTableBytes<T>(level);

@@ -7,11 +7,15 @@
 
 namespace vlq::fft {
 
+// Every table is on a cache line of its own, and so is the spec.
+inline constexpr std::size_t kTableAlignment = 64;
+
 // Fields in one order for every kind; a table that a kind or an order does not need is null. The
 // transforms sort as they go, so the bit-reversal table has a place but no user.
 template <class T>
 struct FloatSpec {
-    Vlq32s ident;       // identification tag of the kind; 0 once freed
+    static constexpr std::size_t kAlignment = kTableAlignment;
+    Vlq32u tag;         // names the kind; 0 once freed
     Vlq32s order;       // N = 2^order
     Vlq32s doFwdScale;  // 1 when the forward transform multiplies by normFactor
     Vlq32s doInvScale;  // 1 when the inverse transform does
@@ -26,8 +30,6 @@ struct FloatSpec {
     RelPtr<T> outerTwiddle[3];  // one for each level of the large-order decomposition
 };
 
-inline constexpr std::size_t kTableAlignment = 64;
-
 // What a size query returns, in bytes. Each nonzero size includes the slack that aligning the
 // caller's memory may take.
 struct PlanSizes {
@@ -36,11 +38,12 @@ struct PlanSizes {
     Vlq64s work;
 };
 
-constexpr Vlq64s powerOfTwo(int exponent) { return Vlq64s{1} << exponent; }
+// 2^exponent, as a length.
+constexpr Vlq64s pow2(int exponent) { return Vlq64s{1} << exponent; }
 
-// The identification tag of each kind.
+// The tag of each kind: a number.
 template <class Spec>
-inline constexpr Vlq32s kTag = 0;
+inline constexpr Vlq32u kTag = 0;
 
 }  // namespace vlq::fft
 
@@ -55,16 +58,16 @@ struct vlq::VlqsFFTSpec_R_64f : vlq::fft::FloatSpec<Vlq64f> {};
 namespace vlq::fft {
 
 template <>
-inline constexpr Vlq32s kTag<VlqsFFTSpec_C_32fc> = 4;
+inline constexpr Vlq32u kTag<VlqsFFTSpec_C_32fc> = 4;
 template <>
-inline constexpr Vlq32s kTag<VlqsFFTSpec_C_32f> = 5;
+inline constexpr Vlq32u kTag<VlqsFFTSpec_C_32f> = 5;
 template <>
-inline constexpr Vlq32s kTag<VlqsFFTSpec_R_32f> = 6;
+inline constexpr Vlq32u kTag<VlqsFFTSpec_R_32f> = 6;
 template <>
-inline constexpr Vlq32s kTag<VlqsFFTSpec_C_64fc> = 7;
+inline constexpr Vlq32u kTag<VlqsFFTSpec_C_64fc> = 7;
 template <>
-inline constexpr Vlq32s kTag<VlqsFFTSpec_C_64f> = 8;
+inline constexpr Vlq32u kTag<VlqsFFTSpec_C_64f> = 8;
 template <>
-inline constexpr Vlq32s kTag<VlqsFFTSpec_R_64f> = 9;
+inline constexpr Vlq32u kTag<VlqsFFTSpec_R_64f> = 9;
 
 }  // namespace vlq::fft

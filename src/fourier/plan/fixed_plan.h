@@ -2,8 +2,6 @@
 // does the work.
 #pragma once
 
-#include <new>
-
 #include "fourier/plan/lifecycle.h"
 
 namespace vlq::fft {
@@ -11,7 +9,8 @@ namespace vlq::fft {
 // 16-bit samples. Orders 0 to 3 may run in integers and then have no floating spec.
 template <class Inner>
 struct FixedSpec16 {
-    Vlq32s ident;
+    static constexpr std::size_t kAlignment = kTableAlignment;
+    Vlq32u tag;
     Vlq32s order;
     Vlq32s fwdShift;  // normalization of the integer path: shift to the right ...
     Vlq32s invShift;
@@ -29,7 +28,8 @@ struct FixedSpec16 {
 // 32-bit spectra: always in floating point, which also normalizes.
 template <class Inner>
 struct FixedSpec32 {
-    Vlq32s ident;
+    static constexpr std::size_t kAlignment = kTableAlignment;
+    Vlq32u tag;
     Vlq32s order;
     Vlq32s hint;
     Vlq32s workBytes;
@@ -45,7 +45,7 @@ constexpr bool runsInIntegers(int order, VlqHint hint) {
 
 inline constexpr Vlq64s kFixedHeader = 128;  // a header and its alignment
 
-// A fixed-point Kind names its Spec, ident, is16, Float with the calls of the floating kind, and
+// A fixed-point Kind names its Spec, is16, Float with the calls of the floating kind, and
 // dataBytes(), the size of the floating values in the work buffer; a 16-bit one also integerWork().
 // Sizes that do not fit 32 bits, at the largest orders, wrap.
 template <class Kind>
@@ -94,36 +94,44 @@ VlqStatus fixedInit(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, Vl
     if (!outSpec) return vlqStsNullPtr;
     if (order < 0 || order > Kind::largestOrder) return vlqStsBadOrder;
     if (!specMem) return vlqStsNullPtr;
-    Spec* const spec = ::new (alignUp(specMem, kTableAlignment)) Spec{};
-    spec->hint = hint;
-    spec->order = order;
-    if (!isNormalization(flag)) return vlqStsBadFlag;
-    bool useFloat = true;
-    if constexpr (Kind::is16) {
-        setShifts(*spec, order, flag);
-        useFloat = !runsInIntegers(order, hint);
-        spec->useFloat = useFloat;
-        if (!useFloat && order > 0) spec->workBytes = static_cast<Vlq32s>(Kind::integerWork(order));
-    }
-    if (useFloat) {
+    auto build = [&](Spec& spec, Cursor& cursor) -> VlqStatus {
+        spec.hint = hint;
+        spec.order = order;
+        if (!isNormalization(flag)) return vlqStsBadFlag;
+        if constexpr (Kind::is16) {
+            setShifts(spec, order, flag);
+            spec.useFloat = !runsInIntegers(order, hint);
+            if (!spec.useFloat) {
+                if (order > 0) spec.workBytes = static_cast<Vlq32s>(Kind::integerWork(order));
+                return vlqStsOk;
+            }
+        }
         typename Float::Spec* inner = nullptr;
-        Vlq8u* const rest = alignUp(reinterpret_cast<Vlq8u*>(spec + 1), kTableAlignment);
+        Vlq8u* const rest = cursor.take<Vlq8u>(0, kTableAlignment);
         VlqStatus status = Float::init(&inner, order, flag, vlqHintNone, rest, initBuf);
         Vlq32s bytes = 0;
         if (status == vlqStsOk) status = Float::getBufSize(inner, &bytes);
         if (status != vlqStsOk) return status;
         const Vlq64s innerWork = bytes > 0 ? bytes - 64 : 0;
-        spec->workBytes = static_cast<Vlq32s>(innerWork + Kind::dataBytes(order));
-        spec->floatSpec = inner;
-    }
-    spec->ident = Kind::ident;
-    *outSpec = spec;
-    return vlqStsOk;
+        spec.workBytes = static_cast<Vlq32s>(innerWork + Kind::dataBytes(order));
+        spec.floatSpec = inner;
+        return vlqStsOk;
+    };
+    Vlq32s specBytes = 0, initBytes = 0, workBytes = 0;
+    fixedGetSize<Kind>(order, vlqNormNone, hint, &specBytes, &initBytes, &workBytes);
+    return initState(outSpec, kTag<Spec>, specMem, specBytes, build);
 }
 
 template <class Kind>
 VlqStatus fixedInitAlloc(typename Kind::Spec** outSpec, Vlq32s order, Vlq32s flag, VlqHint hint) {
-    return allocateAndInit(outSpec, order, flag, hint, fixedGetSize<Kind>, fixedInit<Kind>);
+    if (!outSpec) return vlqStsNullPtr;
+    Vlq32s specBytes, initBytes, workBytes;
+    const VlqStatus status =
+        fixedGetSize<Kind>(order, flag, hint, &specBytes, &initBytes, &workBytes);
+    if (status != vlqStsOk) return status;
+    return initAllocState(outSpec, specBytes, initBytes, [&](Vlq8u* specMem, Vlq8u* initBuf) {
+        return fixedInit<Kind>(outSpec, order, flag, hint, specMem, initBuf);
+    });
 }
 
 }  // namespace vlq::fft

@@ -31,11 +31,11 @@ PlanSizes realSizes(int order) {
     sizes.spec = 0;
     if (order >= Limits::complexTables) sizes = complexSizes<T>(order - 1);
     const Vlq64s factors = order < Limits::twoLevel
-                               ? element * powerOfTwo(order) + 126
-                               : element * powerOfTwo(order - Limits::fineOrder) + 16510;
+                               ? element * pow2(order) + 126
+                               : element * pow2(order - Limits::fineOrder) + 16510;
     sizes.spec += roundDown(factors, 128) + 192;
     if (order > kConstantSineOrder) {
-        const Vlq64s quarterWave = element * (powerOfTwo(order - 2) + 1);
+        const Vlq64s quarterWave = element * (pow2(order - 2) + 1);
         sizes.init += roundUp(quarterWave, 64) + 64;
     }
     return sizes;
@@ -48,7 +48,7 @@ void buildRealTables(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cu
     if (order <= Limits::straightLine) return;
     if (order >= Limits::complexTables) buildComplexTables(spec, order - 1, sine, cursor);
 
-    const Vlq64s quarter = powerOfTwo(order - 2);
+    const Vlq64s quarter = pow2(order - 2);
     const int stride = sine.order - order;
     auto sinOf = [&](Vlq64s k) { return sine.values[k << stride]; };
     auto cosOf = [&](Vlq64s k) { return sine.values[(quarter - k) << stride]; };
@@ -77,7 +77,7 @@ void buildRealTables(FloatSpec<T>& spec, int order, const SineTable<T>& sine, Cu
     }
 
     // The fine factors in groups, then the coarse ones, interleaved.
-    constexpr Vlq64s fine = powerOfTwo(Limits::fineOrder);
+    constexpr Vlq64s fine = pow2(Limits::fineOrder);
     const Vlq64s coarse = quarter / fine;
     auto build = [&] {
         T* table = cursor.take<T>(2 * (fine + coarse), kTableAlignment);

@@ -1,4 +1,5 @@
-// Whether any element of a vector satisfies a condition, which takes vectors and returns lane masks.
+// Whether any element of a vector satisfies a condition, which takes vectors and returns lane
+// masks.
 #pragma once
 
 #include "frame/loop/map.h"
@@ -19,9 +20,9 @@ inline bool anyOf(const T* src, std::ptrdiff_t len, Condition condition) {
     return any(found);
 }
 
-// A loop's operation that also notes whether any element of the first source satisfied the condition.
-// Unused lanes have all bits set and must not satisfy it. The loop works on a copy, which keeps the
-// mask in a register and merges it into *found when it is destroyed.
+// A loop's operation that also notes whether any element of the first source satisfied the
+// condition. Unused lanes have all bits set and must not satisfy it. The loop works on a copy,
+// which keeps the mask in a register and merges it into *found when it is destroyed.
 template <class Op, class Condition, class Mask>
 class Watching {
 public:

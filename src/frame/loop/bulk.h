@@ -15,8 +15,8 @@ namespace vlq {
 
 using Byte = unsigned char;
 
-// Up to here copyShort and fillShort serve: a few loads and stores from both ends. A caller that makes
-// a tail call for longer ones needs no stack frame.
+// Up to here copyShort and fillShort serve: a few loads and stores from both ends. A caller that
+// makes a tail call for longer ones needs no stack frame.
 inline constexpr std::size_t kShort = 8 * kVecBytes;
 
 namespace detail {
@@ -51,8 +51,8 @@ inline void copyTwoWords(Byte* dst, const Byte* src, std::size_t n) {
     storeWord(dst + n - sizeof(Word), last);
 }
 
-// n from N * B to 2 * N * B: N vectors from either end, N being 1, 2 or 4. Each has a name: arrays of
-// them GCC 12 copies through the stack.
+// n from N * B to 2 * N * B: N vectors from either end, N being 1, 2 or 4. Each has a name: arrays
+// of them GCC 12 copies through the stack.
 template <int B, int N>
 [[gnu::always_inline]] inline void copyEnds(Byte* dst, const Byte* src, std::size_t n) {
     const Byte* const srcEnd = src + n;
@@ -223,8 +223,8 @@ inline void moveLong(Byte* dst, const Byte* src, std::size_t n) {
 template <class T>
 inline Vec<Byte> repeated(const T& value) {
     if constexpr (sizeof(T) == 16) {
-        // Each half in a register: the value arrived in two, and storing them to load one vector back
-        // would stall.
+        // Each half in a register: the value arrived in two, and storing them to load one vector
+        // back would stall.
         auto re = std::bit_cast<std::int64_t>(value.re), im = std::bit_cast<std::int64_t>(value.im);
         asm("" : "+r"(re), "+r"(im));
         return bitCast<Byte>(alternating(re, im));

@@ -1,5 +1,5 @@
-// What the bodies of the element-wise families share: complex vectors viewed as reals, and the clear
-// and copy functions by the type of the vector.
+// What the bodies of the element-wise families share: complex vectors viewed as reals, and the
+// clear and copy functions by the type of the vector.
 #pragma once
 
 #include "vlqs/arith.h"
@@ -41,6 +41,12 @@ inline VlqStatus clear(Vlq16sc* dst, Vlq32s len) {
 inline VlqStatus clear(Vlq32sc* dst, Vlq32s len) {
     return vlqsZero_64s(reinterpret_cast<Vlq64s*>(dst), len);
 }
+inline VlqStatus clear(Vlq32fc* dst, Vlq32s len) {
+    return vlqsZero_64s(reinterpret_cast<Vlq64s*>(dst), len);
+}
+inline VlqStatus clear(Vlq64fc* dst, Vlq32s len) {
+    return vlqsZero_64sc(reinterpret_cast<Vlq64sc*>(dst), len);
+}
 
 // ---- copy: checks both vectors and len ----------------------------------------------------------
 inline VlqStatus copy(const Vlq8u* src, Vlq8u* dst, Vlq32s len) {
@@ -66,6 +72,16 @@ inline VlqStatus copy(const Vlq64s* src, Vlq64s* dst, Vlq32s len) {
 }
 inline VlqStatus copy(const Vlq64f* src, Vlq64f* dst, Vlq32s len) {
     return vlqsCopy_64s(reinterpret_cast<const Vlq64s*>(src), reinterpret_cast<Vlq64s*>(dst), len);
+}
+inline VlqStatus copy(const Vlq16sc* src, Vlq16sc* dst, Vlq32s len) {
+    return vlqsCopy_32s(elements(src), elements(dst), len);
+}
+inline VlqStatus copy(const Vlq32fc* src, Vlq32fc* dst, Vlq32s len) {
+    return vlqsCopy_64s(reinterpret_cast<const Vlq64s*>(src), reinterpret_cast<Vlq64s*>(dst), len);
+}
+inline VlqStatus copy(const Vlq64fc* src, Vlq64fc* dst, Vlq32s len) {
+    return vlqsCopy_64sc(reinterpret_cast<const Vlq64sc*>(src), reinterpret_cast<Vlq64sc*>(dst),
+                         len);
 }
 
 }  // namespace vlq

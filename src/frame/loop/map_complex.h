@@ -7,6 +7,14 @@
 
 namespace vlq {
 
+template <class C>
+concept ComplexSample = requires(C value) {
+    value.re;
+    value.im;
+};
+template <ComplexSample C>
+using PartOf = decltype(C::re);
+
 // How the loop moves a complex value: two floats or 32-bit integers as one 64-bit element, two
 // doubles as a group of two elements.
 template <class Part>

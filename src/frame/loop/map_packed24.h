@@ -1,5 +1,5 @@
-// Element-wise loops from and to packed 24-bit integers: whole blocks, then the rest by way of a local
-// buffer. Nothing outside the vectors is read or written.
+// Element-wise loops from and to packed 24-bit integers: whole blocks, then the rest by way of a
+// local buffer. Nothing outside the vectors is read or written.
 #pragma once
 
 #include "frame/loop/map.h"

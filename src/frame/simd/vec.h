@@ -302,8 +302,10 @@ inline Vec<T, B> loadPartial(const T* p, int count) {
 }
 
 // Stores the first `count` lanes (0 to lanes) and writes nothing else.
+// The vector comes by reference: a function with wide vectors among its arguments, where it is not
+// inlined, returns with the upper halves of the registers in use.
 template <class T, int B>
-inline void storePartial(T* p, Vec<T, B> v, int count) {
+inline void storePartial(T* p, const Vec<T, B>& v, int count) {
     [[maybe_unused]] const int byteCount = count * static_cast<int>(sizeof(T));
     if constexpr (B == 16) {
         if (count >= Vec<T, B>::lanes)
@@ -412,6 +414,20 @@ inline bool any(Vec<T, B> mask) {
 #if VLQ_SIMD_BYTES >= 64
     else if constexpr (B == 64)
         return _mm512_test_epi64_mask(asInt(mask), asInt(mask)) != 0;
+#endif
+}
+
+// True when all lanes of the mask are set.
+template <class T, int B>
+inline bool all(Vec<T, B> mask) {
+    if constexpr (B == 16) return _mm_movemask_epi8(asInt(mask)) == 0xFFFF;
+#if VLQ_SIMD_BYTES >= 32
+    else if constexpr (B == 32)
+        return _mm256_movemask_epi8(asInt(mask)) == -1;
+#endif
+#if VLQ_SIMD_BYTES >= 64
+    else if constexpr (B == 64)
+        return !any(~mask);
 #endif
 }
 

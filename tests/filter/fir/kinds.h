@@ -1,4 +1,4 @@
-// The kinds of floating FIR records, each with its functions under common names.
+// The kinds of floating FIR states, each with its functions under common names.
 #pragma once
 
 #include <cmath>
@@ -315,6 +315,12 @@ T exactly(WideComplex v) {
         return {static_cast<Part<T>>(v.real()), static_cast<Part<T>>(v.imag())};
     else
         return static_cast<T>(v.real());
+}
+// Values that are wide already.
+inline WideComplex wide(WideComplex v) { return v; }
+template <>
+inline WideComplex exactly<WideComplex>(WideComplex v) {
+    return v;
 }
 template <class T, class Draw>
 std::vector<T> drawn(std::size_t n, Draw draw) {

@@ -1,5 +1,4 @@
-// Multi-rate filtering step by step at the high rate, as its rule is stated, and records under
-// test.
+// Multi-rate filtering step by step at the high rate, as its rule is stated.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,6 +10,7 @@
 #include <vector>
 
 #include "filter/fir/multirate/multirate_kinds.h"
+#include "filter/fir/values.h"
 
 namespace vlqtest {
 
@@ -91,49 +91,9 @@ Wide errorBound(const MultiRateRef::Output& y) {
     return static_cast<Wide>(2 * y.terms + 3) * kUnit<Tap> * y.magnitude;
 }
 
-inline std::size_t count(long n) { return static_cast<std::size_t>(n); }
-
-// A record that releases itself.
-template <class K>
-class MultiRate {
-public:
-    using Sample = typename K::Sample;
-    using Tap = typename K::Tap;
-    MultiRate(const std::vector<Tap>& taps, RateArguments r, const Sample* past = nullptr,
-              int scaleFactor = 0)
-        : rates(r), scale(scaleFactor) {
-        EXPECT_EQ(vlqStsOk, K::initAlloc(&state, taps.data(), static_cast<int>(taps.size()), r.up,
-                                         r.upPhase, r.down, r.downPhase, past));
-    }
-    ~MultiRate() { EXPECT_EQ(vlqStsOk, K::free(state)); }
-    MultiRate(const MultiRate&) = delete;
-    MultiRate& operator=(const MultiRate&) = delete;
-    VlqStatus run(const Sample* src, Sample* dst, int periods) {
-        return K::block(src, dst, periods, state, scale);
-    }
-    VlqStatus inPlace(Sample* srcDst, int periods) {
-        return K::inPlace(srcDst, periods, state, scale);
-    }
-    // Whole periods, in place or not.
-    std::vector<Sample> outputs(const std::vector<Sample>& src, bool useInPlace = false) {
-        const int periods = static_cast<int>(src.size()) / rates.down;
-        const std::size_t made = count(periods) * count(rates.up);
-        std::vector<Sample> dst = src;
-        dst.resize(useInPlace ? std::max(made, src.size()) : made);
-        EXPECT_EQ(vlqStsOk,
-                  useInPlace ? inPlace(dst.data(), periods) : run(src.data(), dst.data(), periods));
-        dst.resize(made);
-        return dst;
-    }
-    std::vector<Sample> line(std::size_t length) {
-        std::vector<Sample> samples(length);
-        EXPECT_EQ(vlqStsOk, K::getLine(state, samples.data()));
-        return samples;
-    }
-    typename K::State* state = nullptr;
-    RateArguments rates;
-    int scale;
-};
+inline Wide errorBound(const MultiRateRef::Output& y, Type taps) {
+    return static_cast<Wide>(2 * y.terms + 3) * unitOf(taps) * y.magnitude;
+}
 
 template <class T>
 bool sameBits(const std::vector<T>& a, const std::vector<T>& b) {

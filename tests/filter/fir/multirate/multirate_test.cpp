@@ -1,24 +1,17 @@
-// Multi-rate FIR filters through a record.
-#include "filter/fir/multirate/multirate_ref.h"
-
+// Multi-rate FIR filters through a state.
 #include <climits>
 #include <cstring>
 
-#include "harness/buffer.h"
-#include "harness/core_double.h"
+#include "filter/fir/fir_rows.h"
+#include "filter/fir/multirate/multirate_ref.h"
 
 namespace {
 
 using namespace vlqtest;
 
-int word(const void* state, int offset) {
-    int value;
-    std::memcpy(&value, static_cast<const char*>(state) + offset, sizeof value);
-    return value;
-}
-constexpr int kTapsLen = 12, kUpFactor = 16, kFirstChunk = 20, kDownFactor = 24, kTapsStride = 28,
-              kFftLen = 44, kDlyIndex = 48, kMrSamples = 60, kMrKind = 64, kDlyLen = 68,
-              kOwnsMemory = 92, kUpPhase = 96, kDownPhase = 100;
+constexpr int kTapsLen = 12, kUpFactor = 16, kFirstChunk = 20, kDownFactor = 24, kChunkOutputs = 28,
+              kFftLen = 44, kDlyIndex = 48, kPaddedPhase = 60, kMrKind = 64, kDlyLen = 68,
+              kOwned = 92, kUpPhase = 96, kDownPhase = 100;
 
 // The derived numbers, written down from their definitions.
 struct Derived {
@@ -38,114 +31,108 @@ int kindOf(int taps, int up, int down) {
     return static_cast<double>(ratio) > 0.3 ? 1 : 3;
 }
 
-template <class K>
-class FirMultiRate : public ::testing::Test {
+class Filter : public RowState {
+public:
+    Filter(const FirRow& row, const Values& taps, RateArguments r, const Values* past = nullptr,
+           int scaleFactor = 0)
+        : RowState(row, taps.len(), scaleFactor), rates(r) {
+        EXPECT_EQ(vlqStsOk, row.rateInitAlloc(&state, taps.data(), tapsLen, r,
+                                              past ? past->data() : nullptr));
+    }
+    // Whole periods, in place or not.
+    Values outputs(const Values& src, bool useInPlace = false) {
+        const int periods = src.len() / rates.down;
+        const std::size_t made = count(periods) * count(rates.up);
+        Values dst = src;
+        dst.resize(useInPlace ? std::max(made, src.size()) : made);
+        EXPECT_EQ(vlqStsOk,
+                  useInPlace ? inPlace(dst.data(), periods) : run(src.data(), dst.data(), periods));
+        dst.resize(made);
+        return dst;
+    }
+    RateArguments rates;
+};
+
+class FirMultiRate : public RowTest {
 protected:
-    void SetUp() override { Core::reset(); }
-    void TearDown() override {
-        Core::reset();
-        EXPECT_EQ(outstanding_, Core::outstanding());
-    }
-    Rng rng{seed()};
-    int below(int limit) { return static_cast<int>(rng() % count(limit)); }
     RateArguments rates(int up, int down) { return {up, below(up), down, below(down)}; }
-
-    std::vector<typename K::Tap> taps(int n) {
-        return drawn<typename K::Tap>(
-            count(n), [&] { return uniformVector<Part<typename K::Tap>>(1, -1, 1, rng)[0]; });
-    }
-    std::vector<typename K::Sample> samples(long n) {
-        return randomSamples<typename K::Sample>(count(n), rng);
-    }
     // Taps and samples whose sums every type holds exactly.
-    std::vector<typename K::Tap> wholeTaps(int n) {
-        return randomIntegers<typename K::Tap>(count(n), 7, rng);
-    }
-    std::vector<typename K::Sample> wholeSamples(long n) {
-        return randomIntegers<typename K::Sample>(count(n), 20, rng);
-    }
+    Values wholeTaps(int n) { return randomIntegers(kind.tap, count(n), 7, rng); }
+    Values wholeSamples(long n) { return randomIntegers(kind.sample, count(n), 20, rng); }
 
-    void expectExact(const std::vector<MultiRateRef::Output>& want,
-                     const std::vector<typename K::Sample>& got, const std::string& what) {
+    void expectExact(const std::vector<MultiRateRef::Output>& want, const Values& got,
+                     const std::string& what) {
         ASSERT_EQ(want.size(), got.size()) << what;
         for (std::size_t i = 0; i < got.size(); ++i)
-            ASSERT_EQ(want[i].sum, wide(got[i])) << what << ", output " << i;
+            ASSERT_EQ(want[i].sum, got[i]) << what << ", output " << i;
     }
+    Values lineOf(const MultiRateRef& ref) const { return {kind.sample, ref.line<WideComplex>()}; }
     std::string describe(int taps, RateArguments r) {
         return std::to_string(taps) + " taps, up " + std::to_string(r.up) + " phase " +
                std::to_string(r.upPhase) + ", down " + std::to_string(r.down) + " phase " +
                std::to_string(r.downPhase);
     }
-
-private:
-    int outstanding_ = Core::outstanding();
 };
+INSTANTIATE_TEST_SUITE_P(Kinds, FirMultiRate, ::testing::ValuesIn(firRows()), nameOf);
 
-using Kinds = ::testing::Types<Mr32f, Mr32f_16s, Mr32fc, Mr32fc_16sc, Mr64f, Mr64f_32f, Mr64f_32s,
-                               Mr64f_16s, Mr64fc, Mr64fc_32fc, Mr64fc_32sc, Mr64fc_16sc>;
-TYPED_TEST_SUITE(FirMultiRate, Kinds);
+// ---- states -------------------------------------------------------------------------------------
 
-// ---- records ------------------------------------------------------------------------------------
-
-TYPED_TEST(FirMultiRate, Fields) {
-    using K = TypeParam;
+TEST_P(FirMultiRate, Fields) {
     for (const int len : {1, 2, 6, 7, 10, 11, 24, 33, 96, 200}) {
         for (const int up : {1, 2, 3, 4, 5, 6, 160}) {
             for (const int down : {1, 2, 3, 6, 7, 147}) {
-                const RateArguments r = this->rates(up, down);
-                MultiRate<K> filter(this->taps(len), r);
-                EXPECT_EQ(1, word(filter.state, kOwnsMemory));
-                EXPECT_EQ(len, word(filter.state, kTapsLen));
-                if (up == 1 && down == 1 && K::kHasSingleRate) {
-                    EXPECT_EQ(K::kWord, static_cast<Vlq32u>(word(filter.state, 0)));
-                    EXPECT_EQ(0, word(filter.state, kMrKind));
+                const RateArguments r = rates(up, down);
+                Filter filter(kind, taps(len), r);
+                EXPECT_EQ(1, field(filter.state, kOwned));
+                EXPECT_EQ(len, field(filter.state, kTapsLen));
+                if (up == 1 && down == 1 && kind.hasSingleRate) {
+                    EXPECT_EQ(kind.tag, static_cast<Vlq32u>(field(filter.state, 0)));
+                    EXPECT_EQ(0, field(filter.state, kMrKind));
                     continue;
                 }
                 const Derived want(len, up, down);
-                EXPECT_EQ(K::kMultiRateWord, static_cast<Vlq32u>(word(filter.state, 0)));
-                EXPECT_EQ(up, word(filter.state, kUpFactor));
-                EXPECT_EQ(down, word(filter.state, kDownFactor));
-                EXPECT_EQ(r.upPhase, word(filter.state, kUpPhase));
-                EXPECT_EQ(r.downPhase, word(filter.state, kDownPhase));
-                EXPECT_EQ(want.line, word(filter.state, kDlyLen));
-                EXPECT_EQ(want.slots / up, word(filter.state, kMrSamples));
-                EXPECT_EQ(want.inputs, word(filter.state, kFirstChunk)) << this->describe(len, r);
-                EXPECT_EQ(want.outputs, word(filter.state, kTapsStride)) << this->describe(len, r);
-                EXPECT_EQ(-1, word(filter.state, kFftLen));
-                EXPECT_EQ(0, word(filter.state, kDlyIndex));
-                const int kind = word(filter.state, kMrKind);
-                EXPECT_EQ(isComplex<typename K::Tap> ? 1 : kindOf(len, up, down), kind)
-                    << this->describe(len, r);
+                EXPECT_EQ(kind.multiRateTag, static_cast<Vlq32u>(field(filter.state, 0)));
+                EXPECT_EQ(up, field(filter.state, kUpFactor));
+                EXPECT_EQ(down, field(filter.state, kDownFactor));
+                EXPECT_EQ(r.upPhase, field(filter.state, kUpPhase));
+                EXPECT_EQ(r.downPhase, field(filter.state, kDownPhase));
+                EXPECT_EQ(want.line, field(filter.state, kDlyLen));
+                EXPECT_EQ(want.slots / up, field(filter.state, kPaddedPhase));
+                EXPECT_EQ(want.inputs, field(filter.state, kFirstChunk)) << describe(len, r);
+                EXPECT_EQ(want.outputs, field(filter.state, kChunkOutputs)) << describe(len, r);
+                EXPECT_EQ(-1, field(filter.state, kFftLen));
+                EXPECT_EQ(0, field(filter.state, kDlyIndex));
+                EXPECT_EQ(kind.tap.isComplex ? 1 : kindOf(len, up, down),
+                          field(filter.state, kMrKind))
+                    << describe(len, r);
             }
         }
     }
 }
 
-TYPED_TEST(FirMultiRate, KindsOfTables) {
-    using K = TypeParam;
-    if (isComplex<typename K::Tap>) GTEST_SKIP() << "complex records have one kind";
-    auto kind = [&](int len, int up, int down) {
-        return word(MultiRate<K>(this->taps(len), {up, 0, down, 0}).state, kMrKind);
+TEST_P(FirMultiRate, KindsOfTables) {
+    if (kind.tap.isComplex) GTEST_SKIP() << "complex states have one kind";
+    auto tables = [&](int len, int up, int down) {
+        return field(Filter(kind, taps(len), {up, 0, down, 0}).state, kMrKind);
     };
-    EXPECT_EQ(1, kind(7, 1, 2));
-    EXPECT_EQ(2, kind(6, 1, 2));
-    EXPECT_EQ(1, kind(2, 3, 1));
-    EXPECT_EQ(3, kind(1, 3, 1));
-    EXPECT_EQ(3, word(MultiRate<K>(this->taps(10), {4, 0, 1, 0}).state, kDlyLen));
+    EXPECT_EQ(1, tables(7, 1, 2));
+    EXPECT_EQ(2, tables(6, 1, 2));
+    EXPECT_EQ(1, tables(2, 3, 1));
+    EXPECT_EQ(3, tables(1, 3, 1));
+    EXPECT_EQ(3, field(Filter(kind, taps(10), {4, 0, 1, 0}).state, kDlyLen));
 }
 
-TYPED_TEST(FirMultiRate, Sizes) {
-    using K = TypeParam;
-    auto size = [](int len, int up, int down) {
+TEST_P(FirMultiRate, Sizes) {
+    auto size = [&](int len, int up, int down) {
         Vlq32s bytes = -1;
-        EXPECT_EQ(vlqStsOk, K::size(len, up, down, &bytes));
+        EXPECT_EQ(vlqStsOk, kind.rateSize(len, up, down, &bytes));
         return bytes;
     };
     for (const int len : {1, 2, 6, 7, 63, 64, 100, 1000, 100001}) {
         Vlq32s single = 0;
-        ASSERT_EQ(vlqStsOk, K::singleSize(len, &single));
+        ASSERT_EQ(vlqStsOk, kind.stateSize(len, &single));
         EXPECT_EQ(single, size(len, 1, 1));
-        if (!std::is_same_v<typename K::Tap, float>) continue;
+        if (!(kind.tap == typeOf<Vlq32f>())) continue;
         for (const int up : {1, 2, 3, 5, 16, 160}) {
             for (const int down : {1, 2, 3, 7, 147, 1000}) {
                 if (kindOf(len, up, down) == 1) continue;
@@ -161,124 +148,113 @@ TYPED_TEST(FirMultiRate, Sizes) {
     }
     EXPECT_NE(size(7, 1, 2), size(6, 1, 2));
     // What cannot be counted in 32 bits cannot be built.
-    const auto taps = this->taps(3);
-    typename K::State* state = nullptr;
+    const Values h = taps(3);
+    void* state = nullptr;
     Vlq8u memory[64];
     EXPECT_EQ(INT_MAX, size(3, 1, INT_MAX));
     EXPECT_EQ(INT_MAX, size(3, INT_MAX, 3));
     EXPECT_EQ(INT_MAX, size(INT_MAX, INT_MAX, INT_MAX));
-    EXPECT_EQ(vlqStsNoMemory, K::init(&state, taps.data(), 3, 1, 0, INT_MAX, 0, nullptr, memory));
     EXPECT_EQ(vlqStsNoMemory,
-              K::initAlloc(&state, taps.data(), 3, INT_MAX, INT_MAX - 1, 3, 2, nullptr));
+              kind.rateInit(&state, h.data(), 3, {1, 0, INT_MAX, 0}, nullptr, memory));
+    EXPECT_EQ(vlqStsNoMemory,
+              kind.rateInitAlloc(&state, h.data(), 3, {INT_MAX, INT_MAX - 1, 3, 2}, nullptr));
     EXPECT_EQ(nullptr, state);
     EXPECT_EQ(0, Core::allocations());
 }
 
-// The told size is enough wherever the memory begins, and results do not depend on where it lies.
-TYPED_TEST(FirMultiRate, StaysInsideItsMemory) {
-    using K = TypeParam;
-    using Sample = typename K::Sample;
+// The reported size is enough wherever the memory begins, and results do not depend on where.
+TEST_P(FirMultiRate, StaysInsideItsMemory) {
     for (int round = 0; round < 60; ++round) {
-        const int len = 1 + this->below(round % 4 == 0 ? 200 : 30);
-        const RateArguments r = this->rates(1 + this->below(7), 1 + this->below(7));
-        const auto taps = this->taps(len);
+        const int len = 1 + below(round % 4 == 0 ? 200 : 30);
+        const RateArguments r = rates(1 + below(7), 1 + below(7));
+        const Values h = taps(len);
         const int line = (len + r.up - 1) / r.up;
-        const auto past = this->samples(line);
-        const int periods = 40 + this->below(200);
-        const auto src = this->samples(periods * r.down);
+        const Values past = samples(line);
+        const int periods = 40 + below(200);
+        const Values src = samples(periods * r.down);
         Vlq32s bytes;
-        ASSERT_EQ(vlqStsOk, K::size(len, r.up, r.down, &bytes));
-        std::vector<Sample> first;
-        for (int offset = 0; offset <= 64; offset += 1 + this->below(12)) {
+        ASSERT_EQ(vlqStsOk, kind.rateSize(len, r.up, r.down, &bytes));
+        Values first(kind.sample, 0);
+        for (int offset = 0; offset <= 64; offset += 1 + below(12)) {
             Buffer<Vlq8u> memory(count(bytes), {offset % 64, offset == 64});
-            typename K::State* state = nullptr;
-            ASSERT_EQ(vlqStsOk, K::init(&state, taps.data(), len, r.up, r.upPhase, r.down,
-                                        r.downPhase, past.data(), memory.data()));
-            ASSERT_EQ(0u, reinterpret_cast<std::uintptr_t>(state) %
-                              (sizeof(Part<typename K::Tap>) == 8 ? 32 : 16));
-            ASSERT_EQ(0, word(state, kOwnsMemory));
-            std::vector<Sample> dst(count(periods * std::max(r.up, r.down))), all;
+            void* state = nullptr;
+            ASSERT_EQ(vlqStsOk,
+                      kind.rateInit(&state, h.data(), len, r, past.data(), memory.data()));
+            ASSERT_EQ(0u, reinterpret_cast<std::uintptr_t>(state) % (kind.isDouble() ? 32 : 16));
+            ASSERT_EQ(0, field(state, kOwned));
+            Values dst(kind.sample, count(periods * std::max(r.up, r.down))), all(kind.sample, 0);
             for (const int block : {1, 2, 33, periods}) {
-                ASSERT_EQ(vlqStsOk, K::block(src.data(), dst.data(), block, state, 3));
-                all.insert(all.end(), dst.begin(), dst.begin() + block * r.up);
+                ASSERT_EQ(vlqStsOk, kind.block(src.data(), dst.data(), block, state, 3));
+                all.append(dst.slice(0, count(block * r.up)));
             }
-            std::copy(src.begin(), src.end(), dst.begin());
-            ASSERT_EQ(vlqStsOk, K::inPlace(dst.data(), periods, state, 3));
-            all.insert(all.end(), dst.begin(), dst.begin() + periods * r.up);
-            if (first.empty()) first = all;
-            ASSERT_TRUE(sameBits(first, all)) << this->describe(len, r) << ", offset " << offset;
+            Values inPlace = src;
+            inPlace.resize(dst.size());
+            ASSERT_EQ(vlqStsOk, kind.inPlace(inPlace.data(), periods, state, 3));
+            all.append(inPlace.slice(0, count(periods * r.up)));
+            if (first.size() == 0) first = all;
+            ASSERT_TRUE(first == all) << describe(len, r) << ", offset " << offset;
             const auto before = memory.values();
-            ASSERT_EQ(vlqStsOk, K::free(state));
-            ASSERT_TRUE(sameBits(before, memory.values()));
-            ASSERT_TRUE(memory.marginsIntact()) << this->describe(len, r) << ", offset " << offset;
+            ASSERT_EQ(vlqStsOk, kind.free(state));
+            ASSERT_TRUE(before == memory.values());
+            ASSERT_TRUE(memory.marginsIntact()) << describe(len, r) << ", offset " << offset;
         }
     }
 }
 
-TYPED_TEST(FirMultiRate, TapsAndLineRoundTrip) {
-    using K = TypeParam;
-    using Sample = typename K::Sample;
-    using Tap = typename K::Tap;
-    auto extremeTaps = [&](int n) {
-        return drawn<Tap>(count(n), [&] { return extremeValue<Part<Tap>>(this->rng); });
-    };
-    auto extremePast = [&](int n) {
-        return drawn<Sample>(count(n), [&] {
-            auto v = extremeValue<Part<Sample>>(this->rng);
-            return v == v ? v : Part<Sample>(1);
-        });
-    };
+TEST_P(FirMultiRate, TapsAndLineRoundTrip) {
+    auto extremeTaps = [&](int n) { return extremeValues(kind.tap, count(n), true, rng); };
+    auto extremePast = [&](int n) { return extremeValues(kind.sample, count(n), false, rng); };
     for (const int len : {1, 2, 5, 10, 40, 200}) {
         for (const auto& [up, down] :
              {std::pair{1, 2}, {4, 1}, {3, 2}, {5, 7}, {1, 300}, {300, 1}}) {
             const int length = (len + up - 1) / up;
-            auto taps = extremeTaps(len);
-            auto past = extremePast(length);
-            MultiRate<K> filter(taps, this->rates(up, down), past.data());
-            Buffer<Tap> gotTaps(count(len), {3});
-            Buffer<Sample> gotLine(count(length), {1});
+            Values h = extremeTaps(len);
+            Values past = extremePast(length);
+            Filter filter(kind, h, rates(up, down), &past);
+            Buffer<Vlq8u> gotTaps(h.bytes().size(), {3}), gotLine(past.bytes().size(), {1});
             for (int round = 0; round < 2; ++round) {
-                ASSERT_EQ(vlqStsOk, K::getTaps(filter.state, gotTaps.data()));
-                ASSERT_TRUE(sameBits(taps, gotTaps.values()));
-                ASSERT_EQ(vlqStsOk, K::getLine(filter.state, gotLine.data()));
-                ASSERT_TRUE(sameBits(past, gotLine.values())) << len << " taps, round " << round;
-                taps = extremeTaps(len), past = extremePast(length);
-                ASSERT_EQ(vlqStsOk, K::setTaps(Buffer<Tap>(taps, {1}).data(), filter.state));
-                ASSERT_EQ(vlqStsOk, K::setLine(filter.state, Buffer<Sample>(past, {1}).data()));
+                ASSERT_EQ(vlqStsOk, kind.getTaps(filter.state, gotTaps.data()));
+                ASSERT_TRUE(h.bytes() == gotTaps.values());
+                ASSERT_EQ(vlqStsOk, kind.getLine(filter.state, gotLine.data()));
+                ASSERT_TRUE(past.bytes() == gotLine.values()) << len << " taps, round " << round;
+                h = extremeTaps(len), past = extremePast(length);
+                ASSERT_EQ(vlqStsOk,
+                          kind.setTaps(Buffer<Vlq8u>(h.bytes(), {1}).data(), filter.state));
+                ASSERT_EQ(vlqStsOk,
+                          kind.setLine(filter.state, Buffer<Vlq8u>(past.bytes(), {1}).data()));
             }
-            ASSERT_EQ(vlqStsOk, K::setLine(filter.state, nullptr));
-            EXPECT_TRUE(sameBits(std::vector<Sample>(count(length)), filter.line(count(length))));
+            ASSERT_EQ(vlqStsOk, kind.setLine(filter.state, nullptr));
+            EXPECT_TRUE(Values(kind.sample, count(length)) == filter.line(count(length)));
             EXPECT_TRUE(gotTaps.marginsIntact() && gotLine.marginsIntact());
         }
     }
 }
 
-TYPED_TEST(FirMultiRate, NewTapsAndLine) {
-    using K = TypeParam;
+TEST_P(FirMultiRate, NewTapsAndLine) {
     for (int round = 0; round < 50; ++round) {
-        const int len = 1 + this->below(60);
-        const RateArguments r = this->rates(1 + this->below(5), 2 + this->below(5));
-        MultiRate<K> filter(this->wholeTaps(len), r);
-        const auto taps = this->wholeTaps(len);
-        ASSERT_EQ(vlqStsOk, K::setTaps(taps.data(), filter.state));
-        const auto past = this->wholeSamples((len + r.up - 1) / r.up);
-        ASSERT_EQ(vlqStsOk, K::setLine(filter.state, past.data()));
-        MultiRateRef ref(taps, r, past);
-        const auto src = this->wholeSamples((1 + this->below(40)) * r.down);
-        this->expectExact(ref.run(src), filter.outputs(src), this->describe(len, r));
-        if (this->HasFailure()) return;
+        const int len = 1 + below(60);
+        const RateArguments r = rates(1 + below(5), 2 + below(5));
+        Filter filter(kind, wholeTaps(len), r);
+        const Values h = wholeTaps(len);
+        ASSERT_EQ(vlqStsOk, kind.setTaps(h.data(), filter.state));
+        const Values past = wholeSamples((len + r.up - 1) / r.up);
+        ASSERT_EQ(vlqStsOk, kind.setLine(filter.state, past.data()));
+        MultiRateRef ref(h.all(), r, past.all());
+        const Values src = wholeSamples((1 + below(40)) * r.down);
+        expectExact(ref.run(src.all()), filter.outputs(src), describe(len, r));
+        if (HasFailure()) return;
     }
 }
 
-TYPED_TEST(FirMultiRate, RefusedMemory) {
-    using K = TypeParam;
-    const auto taps = this->taps(20);
+TEST_P(FirMultiRate, RefusedMemory) {
+    const Values h = taps(20);
     const int outstanding = Core::outstanding();
     for (const auto& [up, down] : {std::pair{1, 3}, {4, 1}, {1, 200}, {200, 3}}) {
         Core::reset();
         Core::refuseAllocation(1);
-        typename K::State* state = nullptr;
-        EXPECT_EQ(vlqStsNoMemory, K::initAlloc(&state, taps.data(), 20, up, 0, down, 0, nullptr));
+        void* state = nullptr;
+        EXPECT_EQ(vlqStsNoMemory,
+                  kind.rateInitAlloc(&state, h.data(), 20, {up, 0, down, 0}, nullptr));
         EXPECT_EQ(nullptr, state);
         EXPECT_EQ(1, Core::allocations());
         Core::refuseAllocation(0);
@@ -286,10 +262,9 @@ TYPED_TEST(FirMultiRate, RefusedMemory) {
     }
     // In place, a copy of the samples is needed where outputs overtake them.
     for (const auto& [up, down] : {std::pair{1, 3}, {3, 3}, {4, 3}}) {
-        MultiRate<K> filter(taps, {up, 0, down, 0});
-        auto x = this->samples(40);
-        const auto before = x;
-        const auto line = filter.line(count((20 + up - 1) / up));
+        Filter filter(kind, h, {up, 0, down, 0});
+        Values x = samples(40);
+        const Values before = x, line = filter.line(count((20 + up - 1) / up));
         Core::reset();
         Core::refuseAllocation(1);
         const bool overtakes = up > down;
@@ -297,10 +272,10 @@ TYPED_TEST(FirMultiRate, RefusedMemory) {
         EXPECT_EQ(overtakes ? 1 : 0, Core::allocations());
         Core::refuseAllocation(0);
         if (overtakes) {
-            EXPECT_TRUE(sameBits(before, x));
-            EXPECT_TRUE(sameBits(line, filter.line(line.size())));
+            EXPECT_TRUE(before == x);
+            EXPECT_TRUE(line == filter.line(line.size()));
             EXPECT_EQ(vlqStsNoMemory, filter.inPlace(x.data(), INT_MAX));
-            EXPECT_TRUE(sameBits(before, x));
+            EXPECT_TRUE(before == x);
         }
     }
     EXPECT_EQ(outstanding, Core::outstanding());
@@ -309,25 +284,23 @@ TYPED_TEST(FirMultiRate, RefusedMemory) {
 // ---- blocks -------------------------------------------------------------------------------------
 
 // Every pair of small factors with every pair of phases.
-TYPED_TEST(FirMultiRate, EveryPhase) {
-    using K = TypeParam;
+TEST_P(FirMultiRate, EveryPhase) {
     for (int up = 1; up <= 4; ++up) {
         for (int down = 1; down <= 4; ++down) {
             for (int upPhase = 0; upPhase < up; ++upPhase) {
                 for (int downPhase = 0; downPhase < down; ++downPhase) {
                     for (const int len : {1, 2, 3, 5, 11, 24}) {
                         const RateArguments r = {up, upPhase, down, downPhase};
-                        const auto taps = this->wholeTaps(len);
-                        const auto past = this->wholeSamples((len + up - 1) / up);
-                        MultiRate<K> filter(taps, r, past.data());
-                        MultiRateRef ref(taps, r, past);
+                        const Values h = wholeTaps(len);
+                        const Values past = wholeSamples((len + up - 1) / up);
+                        Filter filter(kind, h, r, &past);
+                        MultiRateRef ref(h.all(), r, past.all());
                         for (const int periods : {1, 3, 37}) {
-                            const auto src = this->wholeSamples(periods * down);
-                            this->expectExact(ref.run(src), filter.outputs(src, periods == 3),
-                                              this->describe(len, r));
-                            ASSERT_TRUE(sameBits(ref.template line<typename K::Sample>(),
-                                                 filter.line(ref.length())));
-                            if (this->HasFatalFailure()) return;
+                            const Values src = wholeSamples(periods * down);
+                            expectExact(ref.run(src.all()), filter.outputs(src, periods == 3),
+                                        describe(len, r));
+                            ASSERT_TRUE(lineOf(ref) == filter.line(ref.length()));
+                            if (HasFatalFailure()) return;
                         }
                     }
                 }
@@ -336,31 +309,28 @@ TYPED_TEST(FirMultiRate, EveryPhase) {
     }
 }
 
-TYPED_TEST(FirMultiRate, FactorsAndTapCounts) {
-    using K = TypeParam;
+TEST_P(FirMultiRate, FactorsAndTapCounts) {
     for (int up = 1; up <= 8; ++up) {
         for (int down = 1; down <= 8; ++down) {
-            for (int len = 1 + this->below(3); len <= 70; len += 1 + this->below(12)) {
-                const RateArguments r = this->rates(up, down);
-                const auto taps = this->wholeTaps(len);
-                const auto past = this->wholeSamples((len + up - 1) / up);
-                MultiRate<K> filter(taps, r, past.data());
-                MultiRateRef ref(taps, r, past);
-                for (const int periods : {1 + this->below(8), 10 + this->below(70)}) {
-                    const auto src = this->wholeSamples(periods * down);
-                    this->expectExact(ref.run(src), filter.outputs(src, periods % 2 == 0),
-                                      this->describe(len, r));
-                    ASSERT_TRUE(sameBits(ref.template line<typename K::Sample>(),
-                                         filter.line(ref.length())));
-                    if (this->HasFatalFailure()) return;
+            for (int len = 1 + below(3); len <= 70; len += 1 + below(12)) {
+                const RateArguments r = rates(up, down);
+                const Values h = wholeTaps(len);
+                const Values past = wholeSamples((len + up - 1) / up);
+                Filter filter(kind, h, r, &past);
+                MultiRateRef ref(h.all(), r, past.all());
+                for (const int periods : {1 + below(8), 10 + below(70)}) {
+                    const Values src = wholeSamples(periods * down);
+                    expectExact(ref.run(src.all()), filter.outputs(src, periods % 2 == 0),
+                                describe(len, r));
+                    ASSERT_TRUE(lineOf(ref) == filter.line(ref.length()));
+                    if (HasFatalFailure()) return;
                 }
             }
         }
     }
 }
 
-TYPED_TEST(FirMultiRate, LargeFactorsAndLongFilters) {
-    using K = TypeParam;
+TEST_P(FirMultiRate, LargeFactorsAndLongFilters) {
     struct Case {
         int taps, up, down, periods;
     };
@@ -378,169 +348,154 @@ TYPED_TEST(FirMultiRate, LargeFactorsAndLongFilters) {
                           {1, 90, 1, 33},
                           {6000, 1, 1900, 3},
                           {40, 2000, 3, 4}}) {
-        const RateArguments r = this->rates(c.up, c.down);
-        const auto taps = this->wholeTaps(c.taps);
-        const auto past = this->wholeSamples((c.taps + c.up - 1) / c.up);
-        MultiRate<K> filter(taps, r, past.data(),
-                            K::kScaled && sizeof(Part<typename K::Sample>) == 2 ? 4 : 0);
-        MultiRateRef ref(taps, r, past);
+        const RateArguments r = rates(c.up, c.down);
+        const Values h = wholeTaps(c.taps);
+        const Values past = wholeSamples((c.taps + c.up - 1) / c.up);
+        Filter filter(kind, h, r, &past, kind.isScaled && kind.sample.base == Type::int16 ? 4 : 0);
+        MultiRateRef ref(h.all(), r, past.all());
         for (int call = 0; call < 2; ++call) {
-            const auto src = this->wholeSamples(static_cast<long>(c.periods) * c.down);
-            const auto want = ref.run(src);
+            const Values src = wholeSamples(static_cast<long>(c.periods) * c.down);
+            const auto want = ref.run(src.all());
             const auto got = filter.outputs(src, call == 1);
             ASSERT_EQ(want.size(), got.size());
             for (std::size_t i = 0; i < got.size(); ++i) {
-                ASSERT_TRUE(isAllowed(want[i].sum, 0, filter.scale, got[i]))
-                    << this->describe(c.taps, r) << ", output " << i;
+                ASSERT_TRUE(isAllowed(kind.sample, want[i].sum, 0, filter.scale, got[i]))
+                    << describe(c.taps, r) << ", output " << i;
             }
-            ASSERT_TRUE(
-                sameBits(ref.template line<typename K::Sample>(), filter.line(ref.length())));
+            ASSERT_TRUE(lineOf(ref) == filter.line(ref.length()));
         }
     }
 }
 
-TYPED_TEST(FirMultiRate, Accuracy) {
-    using K = TypeParam;
+TEST_P(FirMultiRate, Accuracy) {
     for (int round = 0; round < 60; ++round) {
-        const int len = 1 + this->below(round % 5 == 0 ? 400 : 70);
-        const RateArguments r = this->rates(1 + this->below(8), 1 + this->below(8));
+        const int len = 1 + below(round % 5 == 0 ? 400 : 70);
+        const RateArguments r = rates(1 + below(8), 1 + below(8));
         if (r.up == 1 && r.down == 1) continue;
-        const auto taps = this->taps(len);
-        const auto past = this->samples((len + r.up - 1) / r.up);
+        const Values h = taps(len);
+        const Values past = samples((len + r.up - 1) / r.up);
         const int scales[] = {0, 3, -3, 17, 40, -100, 2000, INT_MAX};
-        MultiRate<K> filter(taps, r, past.data(), K::kScaled ? scales[round % 8] : 0);
-        MultiRateRef ref(taps, r, past);
-        const auto src = this->samples((1 + this->below(100)) * r.down);
-        const auto want = ref.run(src);
+        Filter filter(kind, h, r, &past, kind.isScaled ? scales[round % 8] : 0);
+        MultiRateRef ref(h.all(), r, past.all());
+        const Values src = samples((1 + below(100)) * r.down);
+        const auto want = ref.run(src.all());
         const auto got = filter.outputs(src, round % 2 == 0);
         for (std::size_t i = 0; i < got.size(); ++i) {
-            ASSERT_TRUE(
-                isAllowed(want[i].sum, errorBound<typename K::Tap>(want[i]), filter.scale, got[i]))
-                << this->describe(len, r) << ", output " << i << ": " << wide(got[i]) << " for "
-                << want[i].sum;
+            const Wide bound = errorBound(want[i], kind.tap);
+            ASSERT_TRUE(isAllowed(kind.sample, want[i].sum, bound, filter.scale, got[i]))
+                << describe(len, r) << ", output " << i << ": " << got[i] << " for " << want[i].sum;
         }
-        ASSERT_TRUE(sameBits(ref.template line<typename K::Sample>(), filter.line(ref.length())));
+        ASSERT_TRUE(lineOf(ref) == filter.line(ref.length()));
     }
 }
 
 // A stream cut into calls anyhow gives the bits of one call.
-TYPED_TEST(FirMultiRate, Cuts) {
-    using K = TypeParam;
-    using Sample = typename K::Sample;
+TEST_P(FirMultiRate, Cuts) {
     // Ten thousand for each type of taps.
-    const int rounds = sizeof(Part<typename K::Tap>) == 4 ? 5000 : 2500;
+    const int rounds = !kind.isDouble() ? 5000 : 2500;
     for (int round = 0; round < rounds; ++round) {
-        const int len = 1 + this->below(round % 8 == 0 ? 70 : 20);
-        const RateArguments r = this->rates(1 + this->below(round % 3 == 0 ? 8 : 4),
-                                            1 + this->below(round % 3 == 1 ? 8 : 4));
+        const int len = 1 + below(round % 8 == 0 ? 70 : 20);
+        const RateArguments r =
+            rates(1 + below(round % 3 == 0 ? 8 : 4), 1 + below(round % 3 == 1 ? 8 : 4));
         if (r.up == 1 && r.down == 1) continue;
-        const auto taps = this->taps(len);
-        const auto past = this->samples((len + r.up - 1) / r.up);
-        MultiRate<K> whole(taps, r, past.data()), cut(taps, r, past.data());
-        const int periods = 1 + this->below(round % 16 == 0 ? 300 : 50);
-        const auto src = this->samples(periods * r.down);
+        const Values h = taps(len);
+        const Values past = samples((len + r.up - 1) / r.up);
+        Filter whole(kind, h, r, &past), cut(kind, h, r, &past);
+        const int periods = 1 + below(round % 16 == 0 ? 300 : 50);
+        const Values src = samples(periods * r.down);
         const auto want = whole.outputs(src);
-        std::vector<Sample> got;
+        Values got(kind.sample, 0);
         for (int done = 0; done < periods;) {
-            const int piece = std::min(periods - done, 1 + this->below(this->below(2) ? 4 : 40));
-            const auto out =
-                cut.outputs({src.begin() + done * r.down, src.begin() + (done + piece) * r.down},
-                            this->below(2) == 0);
-            got.insert(got.end(), out.begin(), out.end());
+            const int piece = std::min(periods - done, 1 + below(below(2) ? 4 : 40));
+            got.append(
+                cut.outputs(src.slice(count(done * r.down), count(piece * r.down)), below(2) == 0));
             done += piece;
         }
-        ASSERT_TRUE(sameBits(want, got)) << this->describe(len, r) << ", " << periods << " periods";
+        ASSERT_TRUE(want == got) << describe(len, r) << ", " << periods << " periods";
         const std::size_t line = past.size();
-        ASSERT_TRUE(sameBits(whole.line(line), cut.line(line))) << this->describe(len, r);
+        ASSERT_TRUE(whole.line(line) == cut.line(line)) << describe(len, r);
     }
 }
 
-TYPED_TEST(FirMultiRate, PlacesOfVectors) {
-    using K = TypeParam;
-    using Sample = typename K::Sample;
+TEST_P(FirMultiRate, PlacesOfVectors) {
     for (int round = 0; round < 300; ++round) {
-        const int len = 1 + this->below(60);
-        const RateArguments r = this->rates(1 + this->below(6), 1 + this->below(6));
+        const int len = 1 + below(60);
+        const RateArguments r = rates(1 + below(6), 1 + below(6));
         if (r.up == 1 && r.down == 1) continue;
-        const auto taps = this->taps(len);
-        const auto past = this->samples((len + r.up - 1) / r.up);
-        MultiRate<K> plain(taps, r, past.data()), placed(taps, r, past.data());
-        const int periods = 1 + this->below(90);
-        const auto src = this->samples(periods * r.down);
+        const Values h = taps(len);
+        const Values past = samples((len + r.up - 1) / r.up);
+        Filter plain(kind, h, r, &past), placed(kind, h, r, &past);
+        const int periods = 1 + below(90);
+        const Values src = samples(periods * r.down);
         const auto want = plain.outputs(src);
-        const bool guarded = this->below(3) == 0;
-        const Buffer<Sample> from(src, {this->below(64), guarded});
-        Buffer<Sample> to(want.size(), {this->below(64), guarded});
+        const bool guarded = below(3) == 0;
+        const Buffer<Vlq8u> from(src.bytes(), {below(64), guarded});
+        Buffer<Vlq8u> to(want.bytes().size(), {below(64), guarded});
         ASSERT_EQ(vlqStsOk, placed.run(from.data(), to.data(), periods));
-        ASSERT_TRUE(same(to, want)) << this->describe(len, r);
-        ASSERT_TRUE(sameBits(src, from.values()) && from.marginsIntact());
+        ASSERT_TRUE(same(to, want.bytes())) << describe(len, r);
+        ASSERT_TRUE(src.bytes() == from.values() && from.marginsIntact());
         // In place, at any address, the vector no longer than it must be.
-        ASSERT_EQ(vlqStsOk, K::setLine(placed.state, past.data()));
-        auto both = src;
+        ASSERT_EQ(vlqStsOk, kind.setLine(placed.state, past.data()));
+        Values both = src;
         both.resize(std::max(src.size(), want.size()));
-        Buffer<Sample> srcDst(both, {this->below(64), guarded});
+        Buffer<Vlq8u> srcDst(both.bytes(), {below(64), guarded});
         ASSERT_EQ(vlqStsOk, placed.inPlace(srcDst.data(), periods));
         ASSERT_TRUE(srcDst.marginsIntact());
-        auto got = srcDst.values();
+        Values got(kind.sample, srcDst.values());
         got.resize(want.size());
-        ASSERT_TRUE(sameBits(want, got)) << this->describe(len, r);
+        ASSERT_TRUE(want == got) << describe(len, r);
     }
 }
 
-TYPED_TEST(FirMultiRate, ThreadsChangeNothing) {
-    using K = TypeParam;
-    const int above = isComplex<typename K::Tap> ? 800 : 1600;
+// The longest block is long enough for a team of several threads.
+TEST_P(FirMultiRate, ThreadsChangeNothing) {
+    const int above = kind.threadedAbove();
     for (const auto& [len, up, down] :
          {std::tuple{33, 1, 3}, {40, 3, 1}, {31, 3, 2}, {5, 1, 9}, {20, 2, 2}}) {
-        const RateArguments r = this->rates(up, down);
-        const auto taps = this->taps(len);
-        for (const int periods : {above, above + 1, 3 * above + 17}) {
-            const auto src = this->samples(static_cast<long>(periods) * down);
-            std::vector<typename K::Sample> want;
+        const RateArguments r = rates(up, down);
+        const Values h = taps(len);
+        for (const int periods : {above, above + 1, 3 * above + 17, len == 40 ? 60001 : 1}) {
+            const Values src = samples(static_cast<long>(periods) * down);
+            Values want(kind.sample, 0);
             for (const int threads : {1, 2, 5}) {
                 Core::setThreads(threads);
-                MultiRate<K> filter(taps, r);
-                auto got = filter.outputs(src);
-                const auto inPlace = filter.outputs(src, true);
-                got.insert(got.end(), inPlace.begin(), inPlace.end());
+                Filter filter(kind, h, r);
+                Values got = filter.outputs(src);
+                got.append(filter.outputs(src, true));
                 if (threads == 1) want = got;
-                ASSERT_TRUE(sameBits(want, got)) << this->describe(len, r) << ", " << threads
-                                                 << " threads, " << periods << " periods";
+                ASSERT_TRUE(want == got)
+                    << describe(len, r) << ", " << threads << " threads, " << periods << " periods";
             }
         }
     }
 }
 
 // A sample that is not finite reaches the outputs whose windows hold it and no others.
-TYPED_TEST(FirMultiRate, InfinityStaysInItsWindows) {
-    using K = TypeParam;
-    using Real = Part<typename K::Sample>;
-    if constexpr (std::is_floating_point_v<Real>) {
-        for (int round = 0; round < 200; ++round) {
-            const int len = 1 + this->below(50);
-            const RateArguments r = this->rates(1 + this->below(6), 2 + this->below(6));
-            auto taps = this->taps(len);
-            const int periods = 1 + this->below(60);
-            auto src = this->samples(periods * r.down);
-            auto& spoilt = src[count(this->below(periods * r.down))];
-            reinterpret_cast<Real&>(spoilt) = std::numeric_limits<Real>::infinity();
-            MultiRate<K> filter(taps, r);
-            MultiRateRef ref(taps, r);
-            const auto want = ref.run(src);
-            const auto got = filter.outputs(src);
-            for (std::size_t i = 0; i < got.size(); ++i) {
-                ASSERT_EQ(std::isfinite(static_cast<double>(want[i].sum.real())),
-                          std::isfinite(static_cast<double>(wide(got[i]).real())))
-                    << this->describe(len, r) << ", output " << i;
-            }
+TEST_P(FirMultiRate, InfinityStaysInItsWindows) {
+    if (!kind.sample.isFloating()) GTEST_SKIP() << "samples are finite";
+    for (int round = 0; round < 200; ++round) {
+        const int len = 1 + below(50);
+        const RateArguments r = rates(1 + below(6), 2 + below(6));
+        const Values h = taps(len);
+        const int periods = 1 + below(60);
+        Values src = samples(periods * r.down);
+        const std::size_t spoilt = count(below(periods * r.down)) * kind.sample.parts();
+        src.setPart(spoilt, std::numeric_limits<Wide>::infinity());
+        Filter filter(kind, h, r);
+        MultiRateRef ref(h.all(), r);
+        const auto want = ref.run(src.all());
+        const Values got = filter.outputs(src);
+        for (std::size_t i = 0; i < got.size(); ++i) {
+            ASSERT_EQ(std::isfinite(static_cast<double>(want[i].sum.real())),
+                      std::isfinite(static_cast<double>(got[i].real())))
+                << describe(len, r) << ", output " << i;
         }
     }
 }
 
-TYPED_TEST(FirMultiRate, FilteringAllocatesNothing) {
-    using K = TypeParam;
-    MultiRate<K> filter(this->taps(100), {2, 1, 3, 0});
-    auto src = this->samples(6000), dst = src;
+TEST_P(FirMultiRate, FilteringAllocatesNothing) {
+    Filter filter(kind, taps(100), {2, 1, 3, 0});
+    auto src = samples(6000), dst = src;
     const int before = Core::allocations();
     for (const int n : {1, 100, 2000}) {
         ASSERT_EQ(vlqStsOk, filter.run(src.data(), dst.data(), n));
@@ -550,36 +505,36 @@ TYPED_TEST(FirMultiRate, FilteringAllocatesNothing) {
 }
 
 // Factors of 1: the filter of a single rate, with its transform.
-TYPED_TEST(FirMultiRate, FactorsOfOne) {
-    using K = TypeParam;
+TEST_P(FirMultiRate, FactorsOfOne) {
     for (const int len : {1, 5, 64, 100}) {
-        const auto taps = this->wholeTaps(len);
-        const auto past = this->wholeSamples(len);
-        MultiRate<K> filter(taps, {1, 0, 1, 0}, past.data());
-        EXPECT_EQ(K::kHasSingleRate ? K::kWord : K::kMultiRateWord,
-                  static_cast<Vlq32u>(word(filter.state, 0)));
-        EXPECT_EQ(K::kHasSingleRate && len >= 64, word(filter.state, kFftLen) > 0);
-        MultiRateRef ref(taps, {1, 0, 1, 0}, past);
+        const Values h = wholeTaps(len);
+        const Values past = wholeSamples(len);
+        Filter filter(kind, h, {1, 0, 1, 0}, &past);
+        EXPECT_EQ(kind.hasSingleRate ? kind.tag : kind.multiRateTag,
+                  static_cast<Vlq32u>(field(filter.state, 0)));
+        EXPECT_EQ(kind.hasSingleRate && len >= 64, field(filter.state, kFftLen) > 0);
+        MultiRateRef ref(h.all(), {1, 0, 1, 0}, past.all());
         for (const int n : {1, 50, 200}) {
-            const auto src = this->wholeSamples(n);
-            this->expectExact(ref.run(src), filter.outputs(src, n == 50),
-                              std::to_string(len) + " taps");
-            ASSERT_TRUE(
-                sameBits(ref.template line<typename K::Sample>(), filter.line(ref.length())));
+            const Values src = wholeSamples(n);
+            expectExact(ref.run(src.all()), filter.outputs(src, n == 50),
+                        std::to_string(len) + " taps");
+            ASSERT_TRUE(lineOf(ref) == filter.line(ref.length()));
         }
         Vlq32s bytes;
-        ASSERT_EQ(vlqStsOk, K::size(len, 1, 1, &bytes));
+        ASSERT_EQ(vlqStsOk, kind.rateSize(len, 1, 1, &bytes));
         Buffer<Vlq8u> memory(count(bytes), {5});
-        typename K::State* state = nullptr;
-        ASSERT_EQ(vlqStsOk, K::init(&state, taps.data(), len, 1, 0, 1, 0, nullptr, memory.data()));
-        typename K::Sample y[4], x[4] = {};
-        ASSERT_EQ(vlqStsOk, K::block(x, y, 4, state, 0));
-        EXPECT_EQ(vlqStsOk, K::free(state));
+        void* state = nullptr;
+        ASSERT_EQ(vlqStsOk,
+                  kind.rateInit(&state, h.data(), len, {1, 0, 1, 0}, nullptr, memory.data()));
+        const Values x(kind.sample, 4);
+        Values y = x;
+        ASSERT_EQ(vlqStsOk, kind.block(x.data(), y.data(), 4, state, 0));
+        EXPECT_EQ(vlqStsOk, kind.free(state));
         EXPECT_TRUE(memory.marginsIntact());
     }
 }
 
-// Factors of one and a long block: the transform of the single-rate record, bit for bit.
+// Factors of one and a long block: the transform of the single-rate state, bit for bit.
 TEST(FirMultiRateOfOne, LongBlocks) {
     Rng rng(seed());
     for (const Vlq32s len : {64, 300}) {
@@ -600,28 +555,27 @@ TEST(FirMultiRateOfOne, LongBlocks) {
 
 // ---- errors -------------------------------------------------------------------------------------
 
-TYPED_TEST(FirMultiRate, Errors) {
-    using K = TypeParam;
-    const auto taps = this->taps(4);
-    typename K::State* state = nullptr;
+TEST_P(FirMultiRate, Errors) {
+    const Values h = taps(4);
+    void* state = nullptr;
     Vlq32s bytes = -7;
-    EXPECT_EQ(vlqStsNullPtr, K::size(0, 0, 0, nullptr));
-    EXPECT_EQ(vlqStsBadTapCount, K::size(0, 0, 0, &bytes));
-    EXPECT_EQ(vlqStsBadTapCount, K::size(-1, 1, 1, &bytes));
-    EXPECT_EQ(vlqStsBadRateFactor, K::size(1, 0, 1, &bytes));
-    EXPECT_EQ(vlqStsBadRateFactor, K::size(1, 1, 0, &bytes));
+    EXPECT_EQ(vlqStsNullPtr, kind.rateSize(0, 0, 0, nullptr));
+    EXPECT_EQ(vlqStsBadTapCount, kind.rateSize(0, 0, 0, &bytes));
+    EXPECT_EQ(vlqStsBadTapCount, kind.rateSize(-1, 1, 1, &bytes));
+    EXPECT_EQ(vlqStsBadRateFactor, kind.rateSize(1, 0, 1, &bytes));
+    EXPECT_EQ(vlqStsBadRateFactor, kind.rateSize(1, 1, 0, &bytes));
     EXPECT_EQ(-7, bytes);
     Vlq8u memory[64] = {};
-    EXPECT_EQ(vlqStsNullPtr, K::init(nullptr, taps.data(), 0, 0, 0, 0, 0, nullptr, memory));
-    EXPECT_EQ(vlqStsNullPtr, K::init(&state, nullptr, 0, 0, 0, 0, 0, nullptr, memory));
-    EXPECT_EQ(vlqStsNullPtr, K::init(&state, taps.data(), 0, 0, 0, 0, 0, nullptr, nullptr));
-    EXPECT_EQ(vlqStsNullPtr, K::initAlloc(nullptr, taps.data(), 0, 0, 0, 0, 0, nullptr));
-    EXPECT_EQ(vlqStsNullPtr, K::initAlloc(&state, nullptr, 0, 0, 0, 0, 0, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, kind.rateInit(nullptr, h.data(), 0, {0, 0, 0, 0}, nullptr, memory));
+    EXPECT_EQ(vlqStsNullPtr, kind.rateInit(&state, nullptr, 0, {0, 0, 0, 0}, nullptr, memory));
+    EXPECT_EQ(vlqStsNullPtr, kind.rateInit(&state, h.data(), 0, {0, 0, 0, 0}, nullptr, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, kind.rateInitAlloc(nullptr, h.data(), 0, {0, 0, 0, 0}, nullptr));
+    EXPECT_EQ(vlqStsNullPtr, kind.rateInitAlloc(&state, nullptr, 0, {0, 0, 0, 0}, nullptr));
     auto expectBoth = [&](VlqStatus want, int len, int up, int upPhase, int down, int downPhase) {
-        EXPECT_EQ(want,
-                  K::init(&state, taps.data(), len, up, upPhase, down, downPhase, nullptr, memory));
-        EXPECT_EQ(want,
-                  K::initAlloc(&state, taps.data(), len, up, upPhase, down, downPhase, nullptr));
+        EXPECT_EQ(want, kind.rateInit(&state, h.data(), len, {up, upPhase, down, downPhase},
+                                      nullptr, memory));
+        EXPECT_EQ(want, kind.rateInitAlloc(&state, h.data(), len, {up, upPhase, down, downPhase},
+                                           nullptr));
     };
     expectBoth(vlqStsBadTapCount, 0, 0, -1, 0, -1);
     expectBoth(vlqStsBadTapCount, -5, 1, 0, 1, 0);
@@ -640,38 +594,37 @@ TYPED_TEST(FirMultiRate, Errors) {
     EXPECT_EQ(-28, vlqStsBadRatePhase);
 }
 
-TYPED_TEST(FirMultiRate, WordsOfOtherKinds) {
-    using K = TypeParam;
-    using Sample = typename K::Sample;
-    auto taps = this->taps(4);
-    MultiRate<K> filter(taps, {2, 0, 3, 0});
-    std::vector<Sample> x(24);
-    // A record of two rates takes no single samples.
-    EXPECT_EQ(vlqStsBadSpec, K::one(x[0], x.data(), filter.state, 0));
-    EXPECT_EQ(vlqStsNullPtr, K::block(nullptr, x.data(), 0, filter.state, 0));
-    EXPECT_EQ(vlqStsNullPtr, K::block(x.data(), nullptr, 0, filter.state, 0));
-    EXPECT_EQ(vlqStsBadSize, K::block(x.data(), x.data() + 12, 0, filter.state, 0));
-    EXPECT_EQ(vlqStsNullPtr, K::inPlace(nullptr, 0, filter.state, 0));
-    EXPECT_EQ(vlqStsBadSize, K::inPlace(x.data(), -1, filter.state, 0));
+TEST_P(FirMultiRate, TagsOfOtherKinds) {
+    Values h = taps(4);
+    Filter filter(kind, h, {2, 0, 3, 0});
+    void* const state = filter.state;
+    Values x(kind.sample, 24);
+    // A state of two rates takes no single samples.
+    EXPECT_EQ(vlqStsBadSpec, kind.one(x.data(), x.data(), state, 0));
+    EXPECT_EQ(vlqStsNullPtr, kind.block(nullptr, x.data(), 0, state, 0));
+    EXPECT_EQ(vlqStsNullPtr, kind.block(x.data(), nullptr, 0, state, 0));
+    EXPECT_EQ(vlqStsBadSize, kind.block(x.data(), x.data(12), 0, state, 0));
+    EXPECT_EQ(vlqStsNullPtr, kind.inPlace(nullptr, 0, state, 0));
+    EXPECT_EQ(vlqStsBadSize, kind.inPlace(x.data(), -1, state, 0));
     for (const Vlq32u alien : {0x46493031u, 0x46493032u, 0x46493033u, 0x46493034u, 0x46493133u,
                                0x46493135u, 0x46493039u, 0x46493332u, 0x46493334u, 0u}) {
-        if (alien == K::kWord || alien == K::kMultiRateWord) continue;
-        std::memcpy(static_cast<void*>(filter.state), &alien, 4);
-        EXPECT_EQ(vlqStsBadSpec, K::block(x.data(), x.data() + 12, 4, filter.state, 0));
-        EXPECT_EQ(vlqStsBadSpec, K::inPlace(x.data(), 4, filter.state, 0));
-        EXPECT_EQ(vlqStsBadSpec, K::setTaps(taps.data(), filter.state));
-        EXPECT_EQ(vlqStsBadSpec, K::getTaps(filter.state, taps.data()));
-        EXPECT_EQ(vlqStsBadSpec, K::setLine(filter.state, x.data()));
-        EXPECT_EQ(vlqStsBadSpec, K::getLine(filter.state, x.data()));
-        const bool isStream = std::is_same_v<K, Mr32f> && alien >= 0x46493333u;
-        if (!isStream) { EXPECT_EQ(vlqStsBadSpec, K::free(filter.state)); }
+        if (alien == kind.tag || alien == kind.multiRateTag) continue;
+        std::memcpy(state, &alien, 4);
+        EXPECT_EQ(vlqStsBadSpec, kind.block(x.data(), x.data(12), 4, state, 0));
+        EXPECT_EQ(vlqStsBadSpec, kind.inPlace(x.data(), 4, state, 0));
+        EXPECT_EQ(vlqStsBadSpec, kind.setTaps(h.data(), state));
+        EXPECT_EQ(vlqStsBadSpec, kind.getTaps(state, h.data()));
+        EXPECT_EQ(vlqStsBadSpec, kind.setLine(state, x.data()));
+        EXPECT_EQ(vlqStsBadSpec, kind.getLine(state, x.data()));
+        const bool isStream = kind.tag == firRows()[0].tag && alien >= 0x46493333u;
+        if (!isStream) { EXPECT_EQ(vlqStsBadSpec, kind.free(state)); }
     }
-    std::memcpy(static_cast<void*>(filter.state), &K::kMultiRateWord, 4);
-    for (const Sample& v : x) EXPECT_EQ(WideComplex(0), wide(v));
+    std::memcpy(state, &kind.multiRateTag, 4);
+    EXPECT_TRUE(Values(kind.sample, 24) == x);
 }
 
-// The calls of integer taps answer to the single-rate word alone; accessors serve both.
-TEST(FirMultiRateOfIntegers, SingleRateWordAlone) {
+// The calls of integer taps accept the single-rate tag alone; accessors serve both.
+TEST(FirMultiRateOfIntegers, SingleRateTagAlone) {
     Core::reset();
     const double taps[] = {1, 2, 3};
     VlqsFIRState64f_32s* state = nullptr;
