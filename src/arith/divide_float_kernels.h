@@ -154,7 +154,7 @@ struct TimesReciprocal64fc {
     }
 };
 
-// ---- zero divisors of real quotients --------------------------------------------------------------
+// ---- zero divisors of real quotients ------------------------------------------------------------
 // dst[i] = op(divisor[i], ...). Returns whether any divisor is 0.
 template <class T, class Op, class... S>
 inline bool mapQuotients(T* dst, std::ptrdiff_t len, Op op, const S*... src) {
