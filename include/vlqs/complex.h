@@ -111,8 +111,10 @@ VlqStatus vlqsAbs_64f_I(Vlq64f* srcDst, Vlq32s len);
  *
  * `re^2 + im^2`. vlqsPowerSpectr computes floats in their own precision, with one rounding an
  * operation, so squares may overflow or vanish; 16-bit samples to floats are rounded once, and so
- * are the results of vlqsMagSquared_32fc64f(). `_Sfs` multiplies by 2^-scaleFactor, rounds to the nearest integer with ties to even,
- * and saturates; every scale factor is legal. vlqsMagSquared_32sc32s_Sfs() computes in doubles for
+ * are the results of vlqsMagSquared_32fc64f().
+ *
+ * `_Sfs` multiplies by 2^-scaleFactor, rounds to the nearest integer with ties to even, and
+ * saturates; every scale factor is legal. vlqsMagSquared_32sc32s_Sfs() computes in doubles for
  * scale factors from -30 to 63; below, everything but 0 saturates, above, everything is 0.
  *
  * **Shapes.** All vectors have @p len elements and any alignment. @p dst may equal a source of the
