@@ -65,7 +65,7 @@ private:
     }
 };
 
-// Each value is brought to a magnitude of 2 to 4 by a power of two. The powers are undone at the
+// Each value is scaled to a magnitude of 2 to 4 by a power of two. The powers are undone at the
 // end in two steps, so that no intermediate result is out of range where the result is not.
 class ScaledQuotient64fc {
 public:

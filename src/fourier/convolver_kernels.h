@@ -46,8 +46,8 @@ struct FilterFactors {
           d{loadAligned<T>(f + 2 * Vec<T>::lanes), loadAligned<T>(f + 3 * Vec<T>::lanes)} {}
 };
 
-// a: values k, b: values H-k, lane by lane; both are replaced by their results. The angles are cos t
-// and -sin t.
+// a: values k, b: values H-k, lane by lane; both are replaced by their results. The angles are cos
+// t and -sin t.
 template <class T>
 [[gnu::always_inline]] inline void filterStep(Split<T, kVecBytes>& a, Split<T, kVecBytes>& b,
                                               FilterFactors<T> f, const T* angles) {
