@@ -62,7 +62,7 @@ vlqtestIndex: .zero 8
 
 using Body = void (*)();
 extern "C" {
-extern const unsigned char vlqtestThunks[];
+extern unsigned char vlqtestThunks[];
 [[gnu::used]] Body vlqtestBodies[VLQTEST_THUNKS];
 [[gnu::used]] unsigned char vlqtestInUse[VLQTEST_THUNKS];
 }

@@ -2,7 +2,7 @@
 //
 // Where a filter has many outputs to a period and no more than about as many inputs, the windows of
 // neighbours are so close to each other that one load holds a pair of samples for every lane, and a
-// shuffle brings the pairs to their lanes. The taps are stored in the order in which the lanes take
+// shuffle moves the pairs to their lanes. The taps are stored in the order in which the lanes take
 // them. It needs a shuffle of 16-bit values under control of a vector, which SSE2 has not.
 #pragma once
 
