@@ -98,7 +98,7 @@ TEST(Team, RunsEachShareOnce) {
 // ---- filters on a team --------------------------------------------------------------------------
 
 // Long enough for a team on any machine: direct and by transforms.
-constexpr int kSamples = 1 << 22;
+constexpr int kSamples = 1 << 21;
 constexpr int kTapCounts[] = {20, 300};
 
 class Teams : public testing::Test {
@@ -115,6 +115,11 @@ protected:
 std::vector<float> noise(int count, unsigned seed) {
     vlqtest::Rng rng(seed);
     return vlqtest::uniformVector<float>(static_cast<std::size_t>(count), -1, 1, rng);
+}
+
+const std::vector<float>& samples() {
+    static const auto all = noise(kSamples, 1);
+    return all;
 }
 
 // The outputs of one block on up to so many threads; empty if a call fails.
@@ -136,7 +141,7 @@ bool sameBits(const std::vector<float>& a, const std::vector<float>& b) {
 
 #if !defined(VLQS_EAGER_TEAMS)
 TEST_F(Teams, StartOnlyForMoreThanOneThreadAndLongWork) {
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     const std::vector<float> shortBlock(src.begin(), src.begin() + 1601);
     for (const int taps : kTapCounts) {
         ASSERT_FALSE(filtered(src, taps, 1).empty());
@@ -151,7 +156,7 @@ TEST_F(Teams, StartOnlyForMoreThanOneThreadAndLongWork) {
 }
 
 TEST_F(Teams, RunOnTheThreadsThatTheSystemGrants) {
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     for (const int taps : kTapCounts) {
         const auto want = filtered(src, taps, 1);
         for (const int granted : {0, 1, 2}) {
@@ -166,7 +171,7 @@ TEST_F(Teams, RunOnTheThreadsThatTheSystemGrants) {
 }
 
 TEST_F(Teams, LeaveSignalsToTheProgram) {
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     sigset_t some, after;
     sigemptyset(&some);
     sigaddset(&some, SIGUSR2);
@@ -183,7 +188,7 @@ TEST_F(Teams, LeaveSignalsToTheProgram) {
 
 // No memory for another stack.
 TEST_F(Teams, RunWithoutMemoryForThreads) {
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     const auto want = filtered(src, 20, 1);
     Core::setThreads(4);
     const auto taps = noise(20, 5);
@@ -211,7 +216,7 @@ TEST_F(Teams, AreGoneWhenTheCallReturns) {
         return std::distance(fs::directory_iterator("/proc/self/task"), fs::directory_iterator());
     };
     const auto before = tasks();
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     for (const int taps : kTapCounts) {
         ASSERT_FALSE(filtered(src, taps, 4).empty());
         EXPECT_EQ(before, tasks());
@@ -219,7 +224,7 @@ TEST_F(Teams, AreGoneWhenTheCallReturns) {
 }
 
 TEST_F(Teams, WorkInTheChildOfAFork) {
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     const auto want = filtered(src, 300, 1);
     ASSERT_TRUE(sameBits(want, filtered(src, 300, 3)));
     const pid_t child = fork();
@@ -260,7 +265,8 @@ TEST_F(Teams, LetTheLibraryBeUnloaded) {
     const auto release =
         reinterpret_cast<decltype(&vlqsFIRFree_32f)>(dlsym(handle, "vlqsFIRFree_32f"));
     Core::setThreads(4);
-    const auto src = noise(kSamples, 1), taps = noise(20, 5);
+    const auto& src = samples();
+    const auto taps = noise(20, 5);
     std::vector<float> dst(src.size());
     VlqsFIRState_32f* state = nullptr;
     ASSERT_EQ(vlqStsOk, init(&state, taps.data(), 20, nullptr));
@@ -275,7 +281,7 @@ TEST_F(Teams, LetTheLibraryBeUnloaded) {
 // Rounding and the treatment of subnormals are the caller's on every thread.
 TEST_F(Teams, KeepTheFloatingPointMode) {
     constexpr unsigned kFlushToZero = 0x8000, kDenormalsAreZero = 0x40, kFlags = 0x3F;
-    auto src = noise(kSamples, 1);
+    auto src = samples();
     for (float& x : src) x = std::ldexp(x, -126);  // results on both sides of the subnormals
     for (const int taps : kTapCounts) {
         const auto usual = filtered(src, taps, 1);
@@ -301,7 +307,7 @@ TEST_F(Teams, KeepTheFloatingPointMode) {
 
 // An exception of a thread's share is the caller's, as if it had done the work itself.
 TEST_F(Teams, PassOnFloatingPointExceptions) {
-    auto src = noise(kSamples, 1);
+    auto src = samples();
     const float huge = std::numeric_limits<float>::max();
     src[kSamples - 1000] = src[kSamples - 1001] = src[kSamples - 999] = huge;
     for (float& x : src) x *= 4;
@@ -322,7 +328,7 @@ TEST_F(Teams, PassOnFloatingPointExceptions) {
 // A cancellation waits until the call is complete.
 TEST_F(Teams, AreNotCutShortByACancellation) {
     static std::vector<float> src, want, got;
-    src = noise(kSamples, 1);
+    src = samples();
     want = filtered(src, 20, 1);
     got.clear();
     pthread_t thread;
