@@ -14,10 +14,12 @@
 #include "vlqs/frame.h"
 
 #include "vlqs/arith.h"
+#include "vlqs/complex.h"
 #include "vlqs/convert.h"
 #include "vlqs/fft.h"
 #include "vlqs/fir.h"
 #include "vlqs/limit.h"
+#include "vlqs/maths.h"
 #include "vlqs/move.h"
 
 #endif

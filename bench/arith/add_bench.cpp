@@ -129,7 +129,7 @@ void addScaled(const char* name, VlqStatus (*add)(const T*, const T*, T*, Vlq32s
     }
 }
 
-// A form with a constant: sum, difference and reverse difference, each against its own plain loop.
+// With a constant: sum, difference and reverse difference, each against its own plain loop.
 template <class T>
 using ConstantCall = VlqStatus (*)(const T*, T, T*, Vlq32s, Vlq32s);
 template <class T, class Exact>

@@ -8,12 +8,12 @@ namespace {
 using namespace vlq;
 using namespace vlq::add;
 
-// The range of scale factors that leaves nothing.
+// Clears dst, for scale factors at which every result is 0.
 template <class T>
 VlqStatus vanish(T* dst, Vlq32s len) {
     return clear(dst, len);
 }
-// As words, whose count is refused when it wraps.
+// Cleared as 32-bit integers, in a count of 32 bits: a count that wraps is refused by the clear.
 VlqStatus vanish(Vlq64s* dst, Vlq32s len) {
     return clear(reinterpret_cast<Vlq32s*>(dst), twice(len));
 }

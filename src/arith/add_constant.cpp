@@ -1,5 +1,5 @@
-// Sums and differences of a vector and a constant. Constants that leave nothing to compute are seen
-// before a kernel is chosen, and handed over to the body that copies, fills or clears.
+// Sums and differences of a vector and a constant. Where a constant makes the call a copy, a fill
+// or a clear, that function's body is called instead of a kernel.
 #include "arith/add_constant_kernels.h"
 #include "frame/loop/bulk.h"
 #include "frame/loop/element_views.h"
@@ -9,7 +9,7 @@ namespace {
 using namespace vlq;
 using namespace vlq::add;
 
-// A constant is a real, or a complex pair over a vector seen as reals.
+// Elements in a constant: one for a real constant, two for a complex one over a vector of reals.
 template <class T, class C>
 inline constexpr int unit = sizeof(C) / sizeof(T);
 
@@ -51,7 +51,7 @@ VlqStatus scaledComplex(const C* src, C val, C* dst, Vlq32s len, Vlq32s scaleFac
     return vlqStsOk;
 }
 
-// Bytes: below -7 any sum with a constant but 0 is the largest byte.
+// Below -7 every sum with a constant other than 0 saturates to 255.
 VlqStatus sum8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (!src || !dst) return vlqStsNullPtr;
     if (scaleFactor < -7 && val != 0) return vlqsSet_8u(255, dst, len);
@@ -64,7 +64,8 @@ VlqStatus reverseDifference8u(const Vlq8u* src, Vlq8u val, Vlq8u* dst, Vlq32s le
     return scaled<ReverseDifference>(src, val, dst, len, scaleFactor);
 }
 
-// Unsigned words look for a shortcut before any check, and leave the checks to it.
+// For 16u the shortcuts come before any check, and the clear or fill makes the checks. The order is
+// visible to callers: such a call never looks at src.
 VlqStatus sum16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32s len, Vlq32s scaleFactor) {
     if (scaleFactor < -15 && val != 0) return vlqsSet_16s(-1, reinterpret_cast<Vlq16s*>(dst), len);
     return scaled<Sum>(src, val, dst, len, scaleFactor);

@@ -1,6 +1,6 @@
-// What a constant operand changes: 32-bit results whose ends of range are known before the loop,
-// and 64-bit sums that keep their sixty-fifth bit under every scale factor and round as they are
-// told.
+// Sums and differences with a constant: 32-bit results, whose saturation limits are known before
+// the loop, and 64-bit sums, which are exact to 65 bits at every scale factor and have a rounding
+// mode.
 #pragma once
 
 #include <algorithm>
@@ -9,10 +9,10 @@
 
 namespace vlq::add {
 
-// 32 bits have no saturating instruction, but with a constant the samples whose result leaves the
-// range are those beyond limits that are known before the loop.
+// There is no saturating instruction for 32 bits, but with a constant the samples whose results
+// saturate are those beyond limits that are computed before the loop.
 
-// The sample that gives e with val, or the nearest one there is.
+// The sample whose result with val is e, or the nearest sample if there is none.
 template <class Op>
 inline Vec<std::int32_t> sampleFor(std::int64_t e, std::int32_t val) {
     const std::int64_t x = Op::inverse(e, val);
@@ -20,12 +20,12 @@ inline Vec<std::int32_t> sampleFor(std::int64_t e, std::int32_t val) {
         static_cast<std::int32_t>(std::clamp<std::int64_t>(x, INT32_MIN, INT32_MAX)));
 }
 
-// Whether the result falls where the sample rises.
+// Whether the result decreases as the sample increases.
 template <class Op>
 inline constexpr bool falls = Op::inverse(0, 0) > Op::inverse(1, 0);
 
-// Scale factor 0. Results leave the range at one end, and the samples for it lie at one end of
-// theirs.
+// Scale factor 0. With a given constant, results can saturate at one limit only, and only for
+// samples near one limit.
 template <class Op, bool upperSamples>
 class ConstantSaturated {
 public:
@@ -43,8 +43,8 @@ private:
     V val_, end_, limit_;
 };
 
-// Negative scale factors. A result of -1 is always within the range, so neither limit lies beyond
-// the samples on its far side.
+// Negative scale factors. A result of 0 or -1 never saturates, so the samples for both limits can
+// be clamped to the samples' own range.
 template <class Op>
 class ConstantLeft {
 public:
@@ -68,11 +68,11 @@ private:
     V val_, lowest_, highest_;  // samples of the lowest and the highest result
 };
 
-// Hands `run` the operation on one vector that serves a scale factor of 0 or less.
+// Calls run with the operation on one vector for a scale factor of 0 or less.
 template <class Op, class Run>
 inline void withConstant(std::int32_t val, std::int32_t scaleFactor, Run run) {
     if (scaleFactor < 0) return run(ConstantLeft<Op>(val, scaleFactor));
-    // The largest sample is the first to leave the range when its own result is beyond an end.
+    // Whether large samples saturate: whether the sample for the limit is below the largest one.
     const bool upper = Op::inverse(falls<Op> ? INT32_MIN : INT32_MAX, val) < INT32_MAX;
     if (upper)
         run(ConstantSaturated<Op, true>(val));
@@ -88,8 +88,8 @@ struct RoundHalf {
     }
 };
 
-// The last scale factor that leaves anything is one too many for a shift of the half: a bit goes
-// first, and stays noted in the odd bit, which lies below the middle then.
+// The last scale factor with results other than 0 is one too many for a shift of the half. One bit
+// is shifted off first and kept, as a sticky bit, in the odd bit.
 template <class T, Rounding rounding>
 struct ScaleRightLast {
     ScaleRight<T, rounding> scale{8 * sizeof(T)};
@@ -112,7 +112,8 @@ inline void withPositiveScale(std::int32_t scaleFactor, Run run) {
         run([](Vec<T>, Vec<T>) { return Vec<T>::zero(); });
 }
 
-// Hands `run` the sum of two vectors, scaled and rounded; no scale factor is given up early.
+// Calls run with the operation that sums two vectors, scaled and rounded. It is exact at every
+// scale factor.
 template <class T, class Run>
 inline void withScaleAndRounding(std::int32_t scaleFactor, VlqRoundMode mode, Run run) {
     using V = Vec<T>;

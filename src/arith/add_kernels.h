@@ -1,6 +1,6 @@
-// Sums and differences. Each operation gives what the scale rule asks of it: the saturated result,
-// half the result with ties to even, and the exact result split in half and odd bit, which fits
-// where the result itself has a bit too many for its lane.
+// Sums and differences. Each operation provides what the scale rule needs: the saturated result,
+// half the result with ties to even, and the exact result, which has one bit too many for its lane,
+// as a half and an odd bit.
 #pragma once
 
 #include "frame/loop/map.h"
@@ -11,10 +11,10 @@ namespace vlq::add {
 
 // a + b
 struct Sum {
-    static constexpr bool leavesAt0 = true;  // b of 0 leaves a as it is
-    // The a that gives the result e with b.
+    static constexpr bool leavesAt0 = true;  // with b = 0 the result is a
+    // The a whose result with b is e.
     static constexpr std::int64_t inverse(std::int64_t e, std::int64_t b) { return e - b; }
-    // Unsigned sums reach one bit further than signed ones; a tie of the largest goes to 0.
+    // From here on results are below one half, or ties that round to 0.
     template <class T>
     static constexpr int vanishesFrom = std::numeric_limits<T>::digits + 2;
 
@@ -26,24 +26,25 @@ struct Sum {
     static Vec<T> saturated(Vec<T> a, Vec<T> b) {
         return addSat(a, b);
     }
-    // In the sign bit, that of the exact sum: the operands' own where they agree.
+    // The sign bit of the result is that of the exact sum: that of the operands where they agree.
     template <class T>
     static Vec<T> sign(Vec<T> a, Vec<T> b) {
         return a ^ ((a ^ b) & (a ^ (a + b)));
     }
-    // The sum's lowest bit marks a tie, and the even neighbour is the upper one less its own.
+    // An odd sum is a tie; the mean rounded up, without its lowest bit, is then the even neighbour.
     template <class T>
     static Vec<T> half(Vec<T> a, Vec<T> b) {
         return meanUp(a, b) & ~((a ^ b) & Vec<T>::broadcast(1));
     }
-    // Bits that both have count whole, bits that one has count half.
+    // Bits that both operands have count in full, bits that only one has count half.
     template <class T>
     static Halved<T> halved(Vec<T> a, Vec<T> b) {
         const auto odd = a ^ b;
         return {(a & b) + shiftRight(odd, 1), odd};
     }
 };
-// 64 is where the 64-bit sum is given up, though the largest ones would still round to 1 or -1.
+// The 64-bit sum is 0 from a scale factor of 64 on, as callers expect, though the largest sums
+// would still round to 1 or -1.
 template <>
 inline constexpr int Sum::vanishesFrom<std::int64_t> = 64;
 
@@ -72,8 +73,7 @@ struct Difference {
         if constexpr (std::is_unsigned_v<T>) {
             return Sum::half(subSat(a, b), Vec<T>::zero());
         } else {
-            // A tie goes up from an odd half, except from the largest, which has no neighbour
-            // above.
+            // A tie rounds up from an odd half, except from the largest value, where it saturates.
             const auto [floor, odd] = halved(a, b);
             const auto up = floor & odd & Vec<T>::broadcast(1);
             if constexpr (sizeof(T) == 2)
@@ -82,7 +82,8 @@ struct Difference {
                 return floor + (up & ~(floor == Vec<T>::broadcast(std::numeric_limits<T>::max())));
         }
     }
-    // Half of all bits that differ, less those that only b has: they counted up and go down.
+    // Half of all bits that differ, less those that only b has: those are counted as positive but
+    // are negative.
     template <class T>
     static Halved<T> halved(Vec<T> a, Vec<T> b) {
         if constexpr (std::is_unsigned_v<T>) {
@@ -95,7 +96,7 @@ struct Difference {
     }
 };
 
-// Operands the other way round: b - a. It falls where a rises.
+// b - a, which decreases as a increases.
 struct ReverseDifference {
     static constexpr bool leavesAt0 = false;
     static constexpr std::int64_t inverse(std::int64_t e, std::int64_t b) { return b - e; }
@@ -139,7 +140,8 @@ struct Saturated {
         return Op::saturated(a, b);
     }
 };
-// Bytes to words, and words to floats by way of integers: wide enough for every result.
+// 8-bit operands to 16-bit results, and 16-bit operands to floats by way of 32-bit integers: no
+// result saturates.
 template <class Op>
 struct Widened {
     Block<std::uint16_t, 2> operator()(Block<std::uint8_t, 1> a, Block<std::uint8_t, 1> b) const {
@@ -152,7 +154,7 @@ struct Widened {
             {toFloat(Op::exact(x.part[0], y.part[0])), toFloat(Op::exact(x.part[1], y.part[1]))}};
     }
 };
-// Words onto integers.
+// 16-bit elements added to a 32-bit accumulator.
 struct WidenedToSum {
     Block<std::int32_t, 2> operator()(Block<std::int32_t, 2> sum, Block<std::int16_t, 1> v) const {
         const auto x = widen(v.part[0]);
@@ -161,8 +163,8 @@ struct WidenedToSum {
 };
 
 // ---- with a scale factor ------------------------------------------------------------------------
-// The scale factor that leaves an unsigned sum nothing but its carry: 1 where a + b lies above
-// the carry's weight, which is the tie.
+// The scale factor at which only the carry of an unsigned sum is left: 1 where a + b is greater
+// than the carry's weight, at which it is a tie.
 template <class T>
 struct CarryOfSum {
     Vec<T> operator()(Vec<T> a, Vec<T> b) const {
@@ -172,8 +174,8 @@ struct CarryOfSum {
     }
 };
 
-// Hands `run` the operation on two vectors that serves this scale factor; not for a range that
-// vanishes.
+// Calls run with the operation on two vectors for this scale factor, which is not one of
+// Scaling::Vanish.
 template <class Op, class T, class Run>
 inline void withScale(std::int32_t scaleFactor, Run run) {
     using V = Vec<T>;

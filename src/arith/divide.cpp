@@ -30,8 +30,7 @@ VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s 
     return vlq::any(found0) ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
-// 2^-scaleFactor in the range that matters. Below -30 any quotient but 0 leaves the range of its
-// type, which takes one bit more than -31 gives to 1 / 65535.
+// Below -30 every quotient but 0 must saturate; a factor of 2^31 would not be enough for 1 / 65535.
 float quotientScale(Vlq32s scaleFactor) {
     return floatFactor(scaleFactor < -30 ? std::min(scaleFactor, -32) : scaleFactor);
 }
@@ -58,7 +57,7 @@ VlqStatus roundedByMode(const T* src1, const T* src2, T* dst, Vlq32s len, VlqRou
     if (rndMode != vlqRndZero && rndMode != vlqRndNear && rndMode != vlqRndFinancial)
         return vlqStsBadRoundMode;
     if (scaleFactor >= 17) {
-        // From here on all results are 0, those over zero too, which still warn.
+        // From here on all results are 0, even those of zero divisors, which still warn.
         const VlqStatus status = anyZero(src1, len) ? vlqStsWarnDivByZero : vlqStsOk;
         clear(dst, len);
         return status;

@@ -30,9 +30,9 @@ inline Vec<double> norm(Vec<double> y) {
     return squares + swapParts(squares);
 }
 
-// The quotient of complex numbers x / y = x conj(y) / |y|^2. Where the divisor y is 0, both parts of
-// x are divided by its real part, which gives infinities of the right sign, or NaN for 0 / 0, and
-// `zeroFound` is set.
+// The quotient of complex numbers x / y = x conj(y) / |y|^2. Where the divisor y is 0, both parts
+// of x are divided by its real part, which gives infinities of the right sign, or NaN for 0 / 0,
+// and `zeroFound` is set.
 //
 // Unused lanes hold NaN, so that they do not look like zero divisors.
 
@@ -65,8 +65,8 @@ private:
     }
 };
 
-// Each value is brought to a magnitude of 2 to 4 by a power of two. The powers are undone at the end
-// in two steps, so that no intermediate result is out of range where the result is not.
+// Each value is brought to a magnitude of 2 to 4 by a power of two. The powers are undone at the
+// end in two steps, so that no intermediate result is out of range where the result is not.
 class ScaledQuotient64fc {
 public:
     using V = Vec<double>;

@@ -1,6 +1,6 @@
-// Quotients of integers. They are formed in floats, scaled by a power of two, which rounds
-// nothing, and converted; the kernels run under StandardFloatMode. A zero divisor needs no care
-// but for 0 / 0: the infinity of the others saturates by the sign of the numerator.
+// Quotients of integers: computed in floating point, scaled by a power of two, which is exact, and
+// converted with rounding and saturation. The kernels run under StandardFloatMode. Of zero divisors
+// only 0 / 0 needs care: other quotients are infinite and saturate by the numerator's sign.
 #pragma once
 
 #include <algorithm>
@@ -25,7 +25,7 @@ inline double doubleFactor(std::int32_t scaleFactor) {
     return scaleFactorPower<double>(std::clamp(scaleFactor, -120, 120));
 }
 
-// ---- in and out ---------------------------------------------------------------------------------
+// ---- conversion of operands and results ---------------------------------------------------------
 // 8 and 16-bit elements as floats.
 template <class T>
 inline auto floats(Vec<T> v) {
@@ -41,8 +41,8 @@ inline auto floats(Vec<T> v) {
     return result;
 }
 
-// The bound is the second operand: what is above it, infinity too, becomes the top value. Below
-// the range a conversion gives the most negative integer, and the pack saturates it.
+// Values above the range of To, infinity included, become its largest value. Below the range the
+// conversion gives the lowest integer, which the narrowing saturates.
 template <class To, class From>
 inline Vec<From> belowTop(Vec<From> v) {
     return minimum(v, Vec<From>::broadcast(static_cast<From>(std::numeric_limits<To>::max())));
@@ -58,7 +58,7 @@ inline Vec<std::int32_t> storedDouble(Block<double, 2> v) {
     return toNearest(Block<double, 2>{{belowTop<To>(v.part[0]), belowTop<To>(v.part[1])}});
 }
 
-// numerator / divisor * factor, and 0 for a numerator of 0 whatever the divisor.
+// numerator / divisor * factor, and 0 for a numerator of 0 with any divisor.
 template <class T>
 inline Vec<T> quotient(Vec<T> numerator, Vec<T> divisor, Vec<T> factor) {
     const auto isNot0 = numerator != Vec<T>::zero();
@@ -78,7 +78,7 @@ struct Quotient {
     }
 };
 
-// n * reciprocal, the reciprocal with its scale rounded once.
+// n * reciprocal, where the scaled reciprocal has been rounded once.
 template <class T>
 struct TimesReciprocal {
     Vec<float> reciprocal;
@@ -129,8 +129,8 @@ inline Vec<std::int32_t> joined(const Parts& v) {
     return shiftLeft(im, 16) | (re & Vec<std::int32_t>::broadcast(0xFFFF));
 }
 
-// (c + di) / (a + bi) = ((ca + db) + (da - cb)i) / (a^2 + b^2), all of it exact but for the
-// quotient; over 0 the numerator's parts by themselves.
+// (c + di) / (a + bi) = ((ca + db) + (da - cb)i) / (a^2 + b^2). Only the division rounds. For a
+// divisor of 0 each part of the numerator is divided by 0.
 struct ComplexQuotient16sc {
     Vec<double> factor;
     Vec<std::int32_t> operator()(Vec<std::int32_t> divisors, Vec<std::int32_t> numerators) const {

@@ -1,6 +1,5 @@
-// Quotients of 64-bit integers by a constant, exactly: round(n * 2^-scaleFactor / divisor), from a
-// tie to the even integer, saturated. Rounding to even does not look at the sign, so magnitudes are
-// divided.
+// Exact quotients of 64-bit integers by a constant: clamp(round(n * 2^-scaleFactor / divisor)),
+// with ties to even. That rounding is symmetric about 0, so magnitudes are divided.
 #pragma once
 
 #include <bit>
@@ -14,7 +13,7 @@ namespace vlq::divide {
 __extension__ typedef unsigned __int128 Unsigned128;
 
 struct Magnitude {
-    std::uint64_t size, below0;  // below0: all bits set for a negative result
+    std::uint64_t size, below0;  // below0: all bits are set for a negative result
     Magnitude(Vlq64s n, std::uint64_t flip) {
         const auto bits = static_cast<std::uint64_t>(n), sign = static_cast<std::uint64_t>(n >> 63);
         size = (bits ^ sign) - sign;
@@ -23,17 +22,17 @@ struct Magnitude {
     Vlq64s withSign(std::uint64_t result) const {
         return static_cast<Vlq64s>((result ^ below0) - below0);
     }
-    // The largest magnitude that its sign allows.
+    // The largest magnitude of a result of this sign.
     std::uint64_t limit() const {
         return static_cast<std::uint64_t>(std::numeric_limits<Vlq64s>::max()) - below0;
     }
 };
 
-// floor(size / divisor) for size < 2^63 + 2^61 and 2 <= divisor < 2^62, in one product. The
-// reciprocal of the 2^power that brings it to 64 bits is rounded down, which makes quotients too
-// small, mended by one reciprocal more; or up, which makes them too large. The error of one of
-// these two stays below half a divisor, and no quotient of such sizes shows it.
-// After: A. D. Robison, N-bit unsigned division via N-bit multiply-add, 2005.
+// floor(size / divisor) for size < 2^63 + 2^61 and 2 <= divisor < 2^62, by one multiplication with
+// a 64-bit reciprocal. If the reciprocal is rounded down, quotients come out too small, which
+// adding it once more corrects; if it is rounded up, they come out too large. The smaller of the
+// two rounding errors is below half a divisor, too small to change a quotient of this range. After:
+// A. D. Robison, N-bit unsigned division via N-bit multiply-add, 2005.
 class Reciprocal {
 public:
     explicit Reciprocal(std::uint64_t divisor)
@@ -58,8 +57,8 @@ private:
     std::uint64_t reciprocal_, extra_ = 0;
 };
 
-// Divisors from 2 up to 2^62. Half a divisor is added first; where that leaves no rest, an even
-// divisor met a tie.
+// Divisors from 2 up to 2^62. Half a divisor is added before the division; a remainder of 0 with an
+// even divisor is then a tie.
 template <bool evenDivisor>
 class RoundedQuotient {
 public:
@@ -92,7 +91,7 @@ public:
     }
 
 private:
-    std::uint64_t one_, two_;  // sizes above these give at least as much
+    std::uint64_t one_, two_;  // above these sizes the quotient is at least 1, or 2
     std::uint64_t flip_;
 };
 
@@ -113,8 +112,8 @@ private:
     std::uint64_t flip_;
 };
 
-// Times 2^up, 1 <= up, over an odd divisor of at least 3: there are no ties. Two words are divided
-// by one as in: N. Moller, T. Granlund, Improved division by invariant integers, 2011, algorithm 4.
+// Times 2^up, 1 <= up, over an odd divisor of at least 3: there are no ties. The division of 128 by
+// 64 bits is algorithm 4 of: N. Moller, T. Granlund, Improved division by invariant integers, 2011.
 class ShiftedUpQuotient {
 public:
     ShiftedUpQuotient(std::uint64_t divisor, std::int64_t up, bool negative)
@@ -122,7 +121,7 @@ public:
         const int room = std::countl_zero(divisor);
         divisor_ = divisor << room;
         reciprocal_ = static_cast<std::uint64_t>(~static_cast<Unsigned128>(0) /
-                                                 divisor_);  // less its 65th bit
+                                                 divisor_);  // without its 65th bit
         half_ = (divisor / 2) << room;
         // Sizes that do not saturate are below 2^63 * divisor / 2^up.
         const Unsigned128 top = (static_cast<Unsigned128>(divisor) << 63) + divisor / 2;
@@ -158,7 +157,7 @@ private:
     int high_, low_;
 };
 
-// Hands `run` the operation on one element; says whether all results are 0 instead.
+// Calls run with the operation on one element, or returns true: all results are 0 then.
 template <class Run>
 inline bool withQuotient(Vlq64s val, std::int64_t scaleFactor, Run run) {
     const bool negative = val < 0;

@@ -24,8 +24,8 @@ VlqStatus oneVector(const T* src, T* dst, Vlq32s len, const Op& op) {
     return vlqStsOk;
 }
 
-// A constant of 0 makes a clear or a copy of the operation. The clear tests dst and len itself, the
-// copy everything: their answers are the ones the caller sees.
+// A constant of 0 makes the operation a clear or a copy, which makes the remaining checks and
+// returns the status.
 template <class T>
 VlqStatus andConstant(const T* src, T val, T* dst, Vlq32s len) {
     if (val == 0) return src ? clear(dst, len) : vlqStsNullPtr;

@@ -1,5 +1,5 @@
-// Products of floats. Every product and every sum is rounded by itself, so a result is the same
-// in all builds.
+// Products of floats. Products and sums are rounded separately, never fused, so that results are
+// the same in all builds.
 #pragma once
 
 #include "frame/loop/map_complex.h"

@@ -1,5 +1,5 @@
-// Products of 8 and 16-bit integers under the scale rule. A family says what the exact product e
-// is, in two vectors of wider lanes, and how it is stored; the rule is the frame's.
+// Products of 8 and 16-bit integers under the scale rule. A family defines the exact product e, in
+// two vectors of wider lanes, and how it is narrowed; the scaling is the same for all.
 #pragma once
 
 #include "frame/loop/map.h"
@@ -8,27 +8,28 @@
 
 namespace vlq::multiply {
 
-// e / 2; a tie goes up where the quotient is odd.
+// e / 2; a tie rounds up where the quotient is odd.
 template <class T>
 inline Vec<T> roundHalf(Vec<T> e) {
     const auto quotient = shiftRight(e, 1);
     return quotient + (e & quotient & Vec<T>::broadcast(1));
 }
 
-// ---- 16-bit results by the words of the product -------------------------------------------------
-// The upper words hold the quotient, so that no lane is widened.
-class RoundUpperWord {
+// ---- 16-bit results from the halves of the product ----------------------------------------------
+// For large scale factors the quotient is in the upper 16 bits of the products, so that no lane
+// needs widening. `lower` and `upper` are the two halves of each product.
+class RoundUpperHalf {
 public:
     using V = Vec<std::int16_t>;
 
     // 17 <= scaleFactor <= 31
-    explicit RoundUpperWord(std::int32_t scaleFactor)
+    explicit RoundUpperHalf(std::int32_t scaleFactor)
         : shift_(scaleFactor - 16),
           remainder_(V::broadcast(static_cast<std::int16_t>((1 << shift_) - 1))),
           belowMiddle_(V::broadcast(static_cast<std::int16_t>((1 << (shift_ - 1)) - 1))) {}
     V operator()(V lower, V upper) const {
         const V quotient = shiftRight(upper, shift_);
-        // The middle itself goes up from an odd quotient, and where the lower word lies above it.
+        // The middle itself rounds up from an odd quotient, or where the lower half is not 0.
         const V stays = (lower == V::zero()) & ~quotient & V::broadcast(1);
         return quotient - ((upper & remainder_) > (belowMiddle_ + stays));
     }
@@ -38,7 +39,7 @@ private:
     V remainder_, belowMiddle_;
 };
 // Scale factor 16.
-struct RoundToUpperWord {
+struct RoundToUpperHalf {
     using V = Vec<std::int16_t>;
     V operator()(V lower, V upper) const {
         const V odd = upper & V::broadcast(1);
@@ -46,7 +47,7 @@ struct RoundToUpperWord {
                         (V::zero() - odd));
     }
 };
-// Scale factor 15: the quotient has a bit of the lower word, and 2^15 saturates.
+// Scale factor 15: one bit of the quotient is in the lower half, and 2^15 saturates.
 struct RoundOffLowerBits {
     using V = Vec<std::int16_t>;
     V operator()(V lower, V upper) const {
@@ -55,14 +56,13 @@ struct RoundOffLowerBits {
         return subSat(addSat(addSat(upper, upper), bit), up);
     }
 };
-// Scale factors 2 to 14. Ties are first rounded down, and go up where that gave an odd result.
-// Where the result was out of range that is right too: the lower limit is even, and the upper one
-// stays.
-class RoundLowerWord {
+// Scale factors 2 to 14. Ties are rounded down at first, and then up where that gave an odd result.
+// This is right for saturated results too: the lower limit is even, and the upper one cannot rise.
+class RoundLowerHalf {
 public:
     using V = Vec<std::int16_t>;
 
-    explicit RoundLowerWord(std::int32_t scaleFactor)
+    explicit RoundLowerHalf(std::int32_t scaleFactor)
         : shift_(scaleFactor),
           bias_(Vec<std::int32_t>::broadcast((1 << (scaleFactor - 1)) - 1)),
           remainder_(V::broadcast(static_cast<std::int16_t>((1 << scaleFactor) - 1))),
@@ -81,22 +81,22 @@ private:
     V remainder_, middle_;
 };
 
-// Hands `run` the operation on two vectors for scale factors above 1 where words serve; says
-// whether they do.
+// Calls run with the operation on two vectors where the halves of the products serve, for scale
+// factors above 1. Returns whether they do.
 template <class A, class Run>
-inline bool withWords(std::int32_t scaleFactor, Run run) {
+inline bool withHalves(std::int32_t scaleFactor, Run run) {
     using V = Vec<std::int16_t>;
-    const auto words = [&](auto round) {
+    const auto halves = [&](auto round) {
         run([round](Vec<A> a, V b) {
             return round(bitCast<std::int16_t>(a) * b, productUpper(a, b));
         });
         return true;
     };
-    if (scaleFactor >= 17) return words(RoundUpperWord(scaleFactor));
-    if (scaleFactor == 16) return words(RoundToUpperWord{});
+    if (scaleFactor >= 17) return halves(RoundUpperHalf(scaleFactor));
+    if (scaleFactor == 16) return halves(RoundToUpperHalf{});
     if constexpr (std::is_signed_v<A>) {
-        if (scaleFactor == 15) return words(RoundOffLowerBits{});
-        run(RoundLowerWord(scaleFactor));
+        if (scaleFactor == 15) return halves(RoundOffLowerBits{});
+        run(RoundLowerHalf(scaleFactor));
         return true;
     }
     return false;
@@ -108,7 +108,7 @@ inline Block<T, 2> both(const Op& op, Block<T, 2> v) {
 }
 
 // ---- families -----------------------------------------------------------------------------------
-// roomUpTo is the last scale factor whose rounding does not lead the largest e out of its lane.
+// roomUpTo is the last scale factor at which rounding cannot overflow the lane of the largest e.
 struct Product8u {
     using Stored = std::uint8_t;
     using Wide = std::uint16_t;
@@ -183,7 +183,7 @@ struct SumOfProduct16s {
     static V narrowed(Block<std::int32_t, 2> e) { return narrowLanes<Stored>(e); }
 };
 
-// Over 2^31 only what lies above 2^30 leaves anything.
+// Scale factor 31: only sums above 2^30 give 1, all others 0.
 struct LastOfSum16s {
     using V = Vec<std::int16_t>;
     V operator()(V acc, V a, V b) const {
@@ -202,8 +202,8 @@ inline auto rounded(std::int32_t scaleFactor) {
     };
 }
 
-// Hands `run` the operation on the family's vectors that serves this scale factor; not for a range
-// that vanishes.
+// Calls run with the operation on the family's vectors for this scale factor, which is not one of
+// Scaling::Vanish.
 template <class Family, class Run>
 inline void withScale(std::int32_t scaleFactor, Run run) {
     using T = typename Family::Stored;
@@ -223,9 +223,9 @@ inline void withScale(std::int32_t scaleFactor, Run run) {
             });
         case Scaling::Right:
             if constexpr (std::is_same_v<Family, Product16s>) {
-                if (withWords<std::int16_t>(scaleFactor, run)) return;
+                if (withHalves<std::int16_t>(scaleFactor, run)) return;
             } else if constexpr (std::is_same_v<Family, Product16u16s>) {
-                if (withWords<std::uint16_t>(scaleFactor, run)) return;
+                if (withHalves<std::uint16_t>(scaleFactor, run)) return;
             } else if constexpr (std::is_same_v<Family, SumOfProduct16s>) {
                 if (scaleFactor == 31) return run(LastOfSum16s{});
             }
@@ -237,7 +237,7 @@ inline void withScale(std::int32_t scaleFactor, Run run) {
 }
 
 // ---- 16-bit factors, 32-bit results -------------------------------------------------------------
-// Hands `run` the operation on an exact vector of e: the product fills 31 bits.
+// Calls run with the operation on a vector of exact products, which have 31 bits.
 struct Product16s32s {
     template <class>
     static constexpr int vanishesFrom = 31;
@@ -269,7 +269,7 @@ struct SumOfProduct16s32s {
 
     using V = Vec<std::int32_t>;
     static V saturated(V acc, V product) { return addSat(acc, product); }
-    // In the sign bit, that of the exact sum: the operands' own where they agree.
+    // The sign bit of the result is that of the exact sum: that of the operands where they agree.
     static V sign(V acc, V product) { return acc ^ ((acc ^ product) & (acc ^ (acc + product))); }
     static Halved<std::int32_t> halved(V acc, V product) {
         const auto odd = acc ^ product;

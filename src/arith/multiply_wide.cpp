@@ -50,8 +50,8 @@ VlqStatus realByComplex(const Vlq32s* real, const Vlq32sc* complex, Vlq32sc* dst
     return vlqStsOk;
 }
 
-// Hands `run` the operation on vectors of complex products that serves this scale factor; says
-// whether there is one.
+// Calls run with the operation on vectors of complex values for this scale factor. Returns whether
+// there is one.
 template <class Run>
 bool withComplexVectors(Vlq32s scaleFactor, Run run) {
     if (scaleFactor <= kLastInDouble) {
@@ -67,7 +67,7 @@ bool withComplexVectors(Vlq32s scaleFactor, Run run) {
 #endif
 }
 
-// Complex values move as 64-bit elements.
+// Complex values as 64-bit elements.
 const std::int64_t* values(const Vlq32sc* p) { return reinterpret_cast<const std::int64_t*>(p); }
 std::int64_t* values(Vlq32sc* p) { return reinterpret_cast<std::int64_t*>(p); }
 

@@ -1,4 +1,5 @@
-// Products of 32 and 64-bit integers, and of floats stored as integers, under the scale rule.
+// Products of 32 and 64-bit integers, and products of floats rounded to integers, under the scale
+// rule.
 #pragma once
 
 #include <algorithm>
@@ -22,8 +23,8 @@ struct Exact32s {
     static constexpr int vanishesFrom = 63;  // 2^62 is half of 2^63, a tie at 0
 };
 
-// Rounding to even does not look at the sign, so magnitudes are multiplied, rounded and compared
-// with the limit, all in 64 unsigned bits.
+// Rounding to even is symmetric about 0, so magnitudes are multiplied, rounded and saturated, in 64
+// unsigned bits.
 template <class Round>
 struct Product32s {
     Round round;
@@ -37,7 +38,7 @@ struct Product32s {
             joinEvenOdd(shiftRight(even, 31), shiftRight(odd, 31)) == Vec<std::uint32_t>::zero();
         const V low = bitCast<std::int32_t>(joinEvenOdd(even, odd));
         const V size = select(fits, low, V::broadcast(std::numeric_limits<std::int32_t>::max()));
-        // The complement of the limit is the lower limit itself.
+        // The complement of the upper limit is the lower limit already.
         return (size ^ sign) - (sign & fits);
     }
 
@@ -48,11 +49,11 @@ private:
     }
 };
 
-// Up to this scale factor a double serves: what it does not hold exactly, from 2^53 on, is out of
-// range. The kernels run under StandardFloatMode.
+// Up to this scale factor products can be computed in double: those from 2^53 on, which a double
+// rounds, are out of range anyway. These kernels run under StandardFloatMode.
 inline constexpr std::int32_t kLastInDouble = 21;
 
-// 2^-scaleFactor; from 2^31 on any value but 0 saturates.
+// 2^-scaleFactor, at most 2^31, by which every value but 0 saturates.
 inline Vec<double> factorInDouble(std::int32_t scaleFactor) {
     return Vec<double>::broadcast(scaleFactorPower<double>(std::max(scaleFactor, -31)));
 }
@@ -79,8 +80,8 @@ struct SumOfProduct32sInDouble {
     }
 };
 
-// Complex values. One factor goes in by its upper and its lower half, whose products and their sums
-// are exact; the sum of both is, as far as a double holds it.
+// Complex values. One factor is split into its upper and lower half, so that the products with
+// either and their sums are exact. Adding the two rounds only what is out of range anyway.
 struct ComplexProduct32scInDouble {
     Vec<double> factor;
     Vec<std::int64_t> operator()(Vec<std::int64_t> x, Vec<std::int64_t> y) const {
@@ -99,8 +100,8 @@ private:
     }
 };
 
-// Hands `run` the operation on vectors that serves this scale factor; not for a range that
-// vanishes.
+// Calls run with the operation on vectors for this scale factor, which is not one of
+// Scaling::Vanish.
 template <class Run>
 inline void withScale32s(std::int32_t scaleFactor, Run run) {
     if (scaleFactor <= kLastInDouble) return run(Product32sInDouble{factorInDouble(scaleFactor)});
@@ -110,8 +111,8 @@ inline void withScale32s(std::int32_t scaleFactor, Run run) {
 // ---- one element at a time ----------------------------------------------------------------------
 __extension__ typedef __int128 Int128;
 
-// Hands `run` the scale as an operation on one exact integer; the caller has dealt with a range
-// that vanishes before the width of Wide.
+// Calls run with the scaling as an operation on one exact integer. scaleFactor is below the width
+// of Wide.
 template <class T, class Wide, class Run>
 inline void withScalarScale(std::int64_t scaleFactor, Run run) {
     if (scaleFactor == 0)
@@ -128,8 +129,8 @@ struct ComplexExact32s {
     template <class>
     static constexpr int vanishesFrom = 64;
 };
-// Parts in 64 bits. The one that has no room is 2^63, of four times -2^31; 2^63 - 1 scales and
-// saturates alike.
+// Parts in 64 bits. The only part that does not fit is 2^63, when all four parts are -2^31; 2^63 -
+// 1 gives the same result at every scale factor.
 template <class Scale>
 struct ComplexProduct32sc {
     Scale scale;
@@ -146,7 +147,7 @@ struct ComplexProduct32sc {
 };
 
 #if VLQ_SIMD_BYTES >= 32
-// The same in vectors, a value to a lane: scale factors from 2 on.
+// The same in vectors of one value a lane, for scale factors from 2 on.
 struct ComplexProduct32scRight {
     ScaleRight<std::int64_t> scale;
     using V = Vec<std::int64_t>;
@@ -193,7 +194,7 @@ inline IntegerAndPower takeApart(double value) {
     return {bits >> 63 ? -size : size, (exponent == 0 ? 1 : exponent) - 1075};
 }
 
-// An infinite constant, or none that is a number: only signs matter.
+// An infinite constant or NaN: only the signs matter.
 struct NonFiniteProduct64s {
     double constant;
     Vlq64s operator()(Vlq64s element) const {
@@ -203,12 +204,13 @@ struct NonFiniteProduct64s {
     }
 };
 
-// The bound is the second operand of the minimum, so what is not a number becomes the top value.
-// Below the range the conversion gives the most negative integer, and the pack saturates it.
+// Values above the range become the largest one, and so does NaN, because minimum returns its
+// second operand for it. Below the range the conversion gives the lowest integer, which the
+// narrowing saturates.
 inline constexpr int kTop16s = std::numeric_limits<std::int16_t>::max();
 
 struct ProductInDouble16s {
-    Vec<double> constant;  // with the scale
+    Vec<double> constant;  // times 2^-scaleFactor
     Block<std::int16_t, 1> operator()(const Block<float, 2>& v) const {
         return {{narrowSat<std::int16_t>({{convert(v.part[0]), convert(v.part[1])}})}};
     }

@@ -11,8 +11,8 @@ using vlq::copy;
 template <class T>
 inline constexpr Vlq32s kWidth = 8 * static_cast<Vlq32s>(sizeof(T));
 
-// The order of tests is seen by callers: a count of 0 is a copy before anything is tested, and a
-// count that shifts every bit out is a clear that only looks at src.
+// Callers see the order of checks: a count of 0 is a copy before anything is checked, and a count
+// that shifts out every bit is a clear that checks src alone.
 template <class T>
 VlqStatus leftShift(const T* src, Vlq32s val, T* dst, Vlq32s len) {
     if (val == 0) return copy(src, dst, len);

@@ -38,7 +38,7 @@ VlqStatus roundedToInteger(const From* src, To* dst, std::int64_t len, VlqRoundM
     return vlqStsOk;
 }
 
-// Op<Scale> with 2^-scaleFactor, with scaleFactor clamped to [lowest, highest].
+// Op<Scale> with 2^-scaleFactor, where scaleFactor is clamped to [lowest, highest].
 template <template <class> class Op, class T, class From>
 VlqStatus toScaled(const From* src, T* dst, Vlq32s len, Vlq32s scaleFactor, int lowest,
                    int highest) {
@@ -73,8 +73,8 @@ VlqStatus vlq::vlqsConvert_64s64f(const Vlq64s* src, Vlq64f* dst, Vlq32u len) {
     return plain(src, dst, len, ToDouble<Unscaled<double>>{});
 }
 
-// The lowest factors keep every 16-bit sample finite. A 32-bit one may pass the range at any
-// factor, so there the factor itself is the limit.
+// The lowest scale factors keep every 16-bit sample finite. For 32-bit samples the power of two
+// itself is kept finite, not the result.
 VlqStatus vlq::vlqsConvert_16s32f_Sfs(const Vlq16s* src, Vlq32f* dst, Vlq32s len,
                                       Vlq32s scaleFactor) {
     return toScaled<ToFloat>(src, dst, len, scaleFactor, -112, 126);

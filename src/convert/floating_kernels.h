@@ -1,4 +1,4 @@
-// Conversions with a float on one side or both. A kernel that rounds runs under StandardFloatMode.
+// Conversions to and from floats. A kernel that rounds to integers runs under StandardFloatMode.
 #pragma once
 
 #include <limits>
@@ -11,8 +11,8 @@
 
 namespace vlq::convert {
 
-// With these scale factors a product rounds to the same integer whether subnormals are kept or
-// flushed, and however it is rounded where it is subnormal: all such products lie below one half.
+// Whether a product rounds to the same integer with subnormals kept or flushed to zero: at these
+// scale factors every product that is subnormal, or has a subnormal factor, is below one half.
 template <class T>
 bool subnormalsVanish(std::int32_t scaleFactor) {
     return scaleFactor >= std::numeric_limits<T>::min_exponent &&
@@ -30,8 +30,9 @@ struct Times {
     Vec<T> operator()(Vec<T> v) const { return v * Vec<T>::broadcast(factor); }
 };
 
-// The bound is the second operand of the minimum, so a not-a-number becomes the top value. Below
-// the range the conversion gives the most negative integer and the pack saturates it.
+// Values above the range become the largest one, and so does NaN, because minimum returns its
+// second operand for it. Below the range the conversion gives the lowest integer, which the
+// narrowing saturates.
 template <class To, class Scale, Rounding rounding>
 struct ToInteger {
     Scale scale;
@@ -53,8 +54,8 @@ struct ToInteger {
         return {{narrowSat<To>(Block<std::int32_t, 2>{{convert(v.part[0]), convert(v.part[1])}})}};
     }
     Block<To, 1> operator()(const Block<float, 1>& block) const {
-        // The top integer is no float. The conversion answers the most negative integer above it
-        // and for a not-a-number; all bits of that are flipped.
+        // The largest integer is not representable as a float. Above the range, and for NaN, the
+        // conversion gives the lowest integer, whose complement is the largest.
         const Vec<float> v = scale(block.part[0]);
         const Vec<std::int32_t> inRange = v < Vec<float>::broadcast(0x1p31f);
         return {{toInteger<rounding>(v) ^ ~inRange}};
@@ -68,7 +69,7 @@ struct ToInteger {
     }
 };
 
-// A not-a-number stays what the conversion answers, the most negative integer.
+// For NaN the result of the conversion, the lowest integer, stays.
 template <class Scale, Rounding rounding>
 struct ToInteger64 {
     Scale scale;

@@ -50,7 +50,7 @@ VlqStatus vlq::vlqsConvert_16s16f(const Vlq16s* src, Vlq16f* dst, Vlq32s len,
 VlqStatus vlq::vlqsConvert_16f16s_Sfs(const Vlq16f* src, Vlq16s* dst, Vlq32s len,
                                       VlqRoundMode rndMode, Vlq32s scaleFactor) {
     return byMode(src, dst, len, rndMode, [=](auto rounding) {
-        // A factor that is subnormal must not be flushed, or infinity times it is no number.
+        // A subnormal factor must not be flushed to 0, or infinity times the factor would be NaN.
         const StandardFloatMode hold(vlq::usesControlRegister<rounding()> || scaleFactor > 126);
         if (scaleFactor == 0) {
             vlq::mapBlocks(dst, len, HalfToInteger<Unscaled<float>, rounding()>{}, src);

@@ -1,4 +1,4 @@
-// Conversions with binary16 numbers on one side; 16-bit integers go by way of 32-bit floats.
+// Conversions to and from half-precision numbers; integers are converted by way of floats.
 #pragma once
 
 #include "convert/floating_kernels.h"

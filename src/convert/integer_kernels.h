@@ -1,5 +1,5 @@
-// Conversions of integers to integers. A scaled one divides by a power of two and rounds, or
-// multiplies by one and saturates.
+// Conversions of integers to integers: plain, divided by a power of two and rounded, or multiplied
+// by one and saturated.
 #pragma once
 
 #include <cstdint>
@@ -50,7 +50,8 @@ struct Same {
     }
 };
 
-// 32-bit integers times 2^count in 16 bits: the product of a value of 16 bits cannot overflow.
+// 32-bit integers times 2^count, saturated to 16 bits. Saturating first keeps the shift from
+// overflowing 32 bits.
 struct NarrowThenShiftLeft16 {
     int count;  // up to 15
     Block<std::int16_t, 1> operator()(const Block<std::int32_t, 2>& v) const {
@@ -59,7 +60,7 @@ struct NarrowThenShiftLeft16 {
             Block<std::int32_t, 2>{{shiftLeft(w.part[0], count), shiftLeft(w.part[1], count)}})}};
     }
 };
-// 16-bit integers times 2^count in 8 bits.
+// 16-bit integers times 2^count, to be saturated to 8 bits.
 struct ClampThenShiftLeft8 {
     int count;  // up to 7
     Vec<std::int16_t> operator()(Vec<std::int16_t> v) const {
@@ -67,14 +68,14 @@ struct ClampThenShiftLeft8 {
         return shiftLeft(maximum(minimum(v, V::broadcast(127)), V::broadcast(-128)), count);
     }
 };
-// 64-bit integers times 2^count in 32 bits.
+// 64-bit integers times 2^count, saturated to 32 bits.
 struct NarrowThenShiftLeft32 {
     int count;  // up to 31
     Block<std::int32_t, 1> operator()(const Block<std::int64_t, 2>& v) const {
         return {{shiftLeftSat(narrowSat(v), count)}};
     }
 };
-// Of all 16-bit values over 2^16 only the smallest reaches one half.
+// Scale factor 16 with ties away from zero: of all 16-bit values only the lowest reaches one half.
 struct SmallestToMinusOne {
     Vec<std::int16_t> operator()(Vec<std::int16_t> v) const {
         return v == Vec<std::int16_t>::broadcast(std::numeric_limits<std::int16_t>::min());

@@ -1,5 +1,5 @@
-// Interleaved integer samples against one row of floats in [-1, 1] a channel. The kernels run under
-// StandardFloatMode.
+// Interleaved integer samples to one vector of floats in [-1, 1] per channel, and back. The kernels
+// run under StandardFloatMode.
 #pragma once
 
 #include "frame/loop/map.h"
@@ -9,8 +9,8 @@
 
 namespace vlq::splitjoin {
 
-// A sample x of b bits is (2 x + 1) / (2^b - 1) as a float: the lowest is -1, the highest 1, and
-// none is 0. Two roundings, after the product and after the sum.
+// A sample x of b bits becomes (2 x + 1) / (2^b - 1): the lowest is -1, the highest 1, and none is
+// 0. It is rounded twice, after the product and after the sum.
 struct ToUnit {
     float step, half;
     Vec<float> operator()(Vec<std::int32_t> v) const {
@@ -20,13 +20,12 @@ struct ToUnit {
 };
 inline constexpr ToUnit kToUnit16 = {0x1.0001p-15f,
                                      0x1.0001p-16f};  // 1/32767.5 and 1/65535, nearest floats
-// 1/8388607.5, nearest float. 1/16777215 lies in the middle of two floats; with the lower one both
-// ends come out as -1 and 1, with the upper one the highest sample would pass 1.
+// 1/8388607.5, nearest float. 1/16777215 is halfway between two floats: with the lower one the ends
+// come out as -1 and 1, with the upper one the highest sample would exceed 1.
 inline constexpr ToUnit kToUnit24 = {0x1.000002p-23f, 0x1p-24f};
 
-// The way back, rounded to nearest. The bounds are -1 and 1 themselves: scale and offset are exact
-// as floats and take them to the ends of the range without rounding. A not-a-number becomes the
-// highest.
+// The inverse, rounded to nearest. Values are clamped to [-1, 1], whose ends become those of the
+// range exactly. NaN becomes the highest sample.
 struct FromUnit {
     float scale;
     Vec<std::int32_t> operator()(Vec<float> v) const {
@@ -79,7 +78,7 @@ inline float unitAt(const std::uint8_t* packed, std::ptrdiff_t index) {
     return kToUnit24(static_cast<std::int8_t>(p[2]) * 65536 + (p[1] << 8 | p[0]));
 }
 
-// One channel after the other, over as many frames as stay in the first-level cache meanwhile.
+// One channel after another, over as many frames as stay in the first-level cache meanwhile.
 template <class T>
 inline void split(const T* src, float* const* dstRows, std::int32_t channels, std::int32_t frames) {
     if (channels == 1) return toUnit(dstRows[0], src, frames);
@@ -96,7 +95,7 @@ inline void split(const T* src, float* const* dstRows, std::int32_t channels, st
     }
 }
 
-// Samples pass through a tile of floats, converted there as one run: whole frames where some fit,
+// Samples are interleaved in a tile of floats and converted from there: whole frames if any fit,
 // else parts of one frame.
 inline constexpr int kTile = 1024;
 

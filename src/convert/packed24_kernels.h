@@ -1,4 +1,4 @@
-// Conversions with packed 24-bit integers on one side, block by block of 32-bit lanes.
+// Conversions to and from packed 24-bit integers, in blocks of 32-bit lanes.
 #pragma once
 
 #include "convert/floating_kernels.h"
@@ -21,8 +21,8 @@ struct FromPackedToFloat {
     }
 };
 
-// An integer times 2^count in 24 bits: saturated eight bits up, where the lane's range is the
-// result's, and moved down again.
+// An integer times 2^count, saturated to 24 bits: the saturating shift goes eight bits too far, to
+// the limits of the lane, and is undone by a plain one.
 template <class T>
 struct ShiftLeftTo24 {
     static constexpr int highest =
@@ -33,7 +33,7 @@ struct ShiftLeftTo24 {
         return bitCast<std::int32_t>(shiftRight(shiftLeftSat(v, count + 8), 8));
     }
 };
-// An integer over 2^count, rounded to nearest even, in 24 bits.
+// An integer over 2^count, rounded to nearest, ties to even, and saturated to 24 bits.
 template <class T>
 struct RoundShiftTo24 {
     RoundShift<T> divide;
@@ -41,7 +41,7 @@ struct RoundShiftTo24 {
     Vec<std::int32_t> operator()(Vec<T> v) const { return ShiftLeftTo24<T>{}(divide(v)); }
 };
 
-// Clamped between the bounds as a float, a not-a-number to the upper one, then rounded to nearest.
+// Clamped to the range as a float, NaN to its upper end, then rounded to nearest.
 template <class Scale>
 struct FloatTo24 {
     Scale scale;

@@ -46,7 +46,7 @@ template <int parts>
 void integers(const Vlq16s* src, Vlq16s* dst, std::ptrdiff_t len, Vlq16s first, Vlq16s second,
               Vlq32s vDiv, Vlq32s scaleFactor) {
     const vlq::StandardFloatMode mode;
-    const auto factor = 1 / static_cast<Vlq32f>(vDiv) * wrappedPower(scaleFactor);
+    const auto factor = 1 / static_cast<Vlq32f>(vDiv) * vlq::wrappedPower(scaleFactor);
     vlq::mapBlocks<parts>(dst, len * parts, ScaledIntegers(first, second, factor), src);
 }
 

@@ -1,10 +1,10 @@
 // (x - subtrahend) / divisor, computed as a product with the reciprocal.
 #pragma once
 
-#include <bit>
 #include <limits>
 
 #include "frame/loop/map.h"
+#include "frame/scale/power_of_two.h"
 #include "frame/simd/complex.h"
 #include "frame/simd/convert.h"
 #include "frame/simd/ops.h"
@@ -17,15 +17,6 @@ struct SubtractMultiply {
     T reciprocal;
     Vec<T> operator()(Vec<T> x) const { return (x - subtrahend) * Vec<T>::broadcast(reciprocal); }
 };
-
-// 2^-scaleFactor, with the count of places taken modulo 128: a scale factor beyond the range of
-// floats wraps around. 127 gives 0.
-inline float wrappedPower(std::int32_t scaleFactor) {
-    constexpr std::uint32_t one = std::bit_cast<std::uint32_t>(1.0f);
-    const auto places = static_cast<std::uint32_t>(scaleFactor);
-    if (scaleFactor < 0) return std::bit_cast<float>(one + (((0 - places) & 127) << 23));
-    return std::bit_cast<float>(one - ((places & 127) << 23));
-}
 
 // Products rounded to the nearest integer, ties to even, and saturated. The difference of two 16-bit
 // integers is exact as a float.

@@ -21,7 +21,7 @@ inline void writeBits(Byte* dst, int offset, int count, unsigned bits) {
     *dst = static_cast<Byte>((*dst & ~mask) | (bits >> offset & mask));
 }
 
-// Whole bytes from a source that stands `shift` (1 to 7) bits further on.
+// Whole bytes from a source that begins `shift` (1 to 7) bits into its first byte.
 struct Joined {
     int shift;
     template <class V>
@@ -58,7 +58,7 @@ inline void copyBits(const Byte* src, int srcOffset, Byte* dst, int dstOffset, s
     if (rest > 0) writeBits(dst + whole, 0, rest, readBits(src + whole, srcOffset, rest));
 }
 
-// The sum of the widths, each clamped to 0 to 32, and whether one had to be.
+// The sum of the widths, each clamped to 0 to 32, and whether that changed any.
 struct Widths {
     std::int64_t total;
     bool clamped;
@@ -85,8 +85,9 @@ inline void packBits(const std::uint32_t* src, const std::int32_t* widths, std::
     int count = offset;
     if (offset != 0) waiting = static_cast<std::uint64_t>(*dst & (0xFF00u >> offset) & 0xFFu) << 56;
 
-    // Every turn stores the leading word, finished or not: what is unfinished is stored again. Only
-    // at the end, where no whole word follows, would that write beyond the last byte.
+    // Each iteration stores the first 32 bits of the accumulator, complete or not; the incomplete
+    // ones are stored again later. At the very end, with less than 32 bits of room, that would
+    // write beyond the last byte.
     Byte* const wordsEnd = dst + (offset + total) / 32 * 4;
     for (std::ptrdiff_t i = 0; i < len; ++i) {
         const int width = clampedWidth(loadScalar(widths + i));

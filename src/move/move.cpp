@@ -8,9 +8,9 @@ namespace {
 using vlq::Byte;
 using Pattern = vlq::Vec<Byte>;
 
-// The long runs are functions of their own, called last: so the short ones, where the call itself
-// is the cost, go without a stack frame. No vectors are among their arguments, lest they return with
-// the upper halves of the registers in use.
+// Long vectors are handled by functions of their own in tail calls, so that short ones, where the
+// call itself is the cost, need no stack frame. No vectors are among their arguments, lest they
+// return with the upper halves of the registers in use.
 template <class T>
 [[gnu::noinline]] VlqStatus fillLongRun(Byte* dst, std::size_t bytes, T val) {
     vlq::fillLong<sizeof(T)>(dst, bytes, vlq::repeated(val));

@@ -13,9 +13,9 @@ struct Swap {
     }
 };
 
-// Elements of three bytes, five to a step of 15. A step reads and writes a sixteenth byte, which
-// it leaves alone; the following vector is read before that, so that no read waits for the write
-// before it. dst may be src.
+// Elements of three bytes, five in a step of 15 bytes. A step also reads and writes back a
+// sixteenth byte. The next vector is loaded before the store, so that no load waits for it. dst may
+// be src.
 inline void swapTriples(const unsigned char* src, unsigned char* dst, std::ptrdiff_t len) {
     constexpr int step = 15;
     std::ptrdiff_t bytes = 3 * len;

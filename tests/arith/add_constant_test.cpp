@@ -475,7 +475,7 @@ TEST(AddC, Statuses64) {
     checkStatuses64<Vlq64u>(vlqsAddC_64u_Sfs);
 }
 
-// Unsigned words: the shortcut comes first, and its own checks are the only ones.
+// 16u: the shortcut comes first, and its own checks are the only ones.
 TEST(AddC, Shortcuts16u) {
     const Vlq16u src[2] = {1, 2};
     Buffer<Vlq16u> dst(2);

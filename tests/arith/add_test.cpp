@@ -282,7 +282,8 @@ TEST(Sub, Statuses) {
     checkStatuses(vlqsSub_64fc_I, First::Length);
 }
 
-// The 64-bit clear counts words in 32 bits; a wrapped count is refused before anything is written.
+// The clear of 64-bit elements has a 32-bit count of 32-bit halves; a wrapped count is refused
+// before anything is written.
 TEST(Add, WrappedClearOf64s) {
     const Vlq64s src[1] = {};
     Buffer<Vlq64s> dst(1);

@@ -21,7 +21,7 @@ inline double roundRef(double v, int mode) {
     return std::round(v);
 }
 
-// What stands for a numerator over 0.
+// The result for a divisor of 0.
 template <class T, class N>
 T overZeroRef(N numerator) {
     if (numerator == 0) return 0;
@@ -64,7 +64,7 @@ T exactQuotientRef(Exact numerator, Exact divisor, std::int32_t scaleFactor) {
         d <<= scaleFactor;
     }
     ExactMagnitude quotient = n / d, rest = n % d;
-    // The bits that a negative scale brings up, 60 at a time: divisors have up to 64.
+    // A negative scale factor: long division by 60 bits at a time, since divisors have up to 64.
     for (std::int64_t left = -std::int64_t{scaleFactor};
          left > 0 && quotient <= limit && (quotient != 0 || rest != 0);) {
         const int step = left < 60 ? static_cast<int>(left) : 60;

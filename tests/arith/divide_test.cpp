@@ -269,8 +269,7 @@ TEST(DivC, Scaled16u) {
                           {1, 3, 1000, 32768, 65535});
 }
 
-// Multiplying by a reciprocal may miss the exact result by a step, and only where that lies next to
-// a tie.
+// Multiplying by a reciprocal may differ from the exact result by one, and only next to a tie.
 TEST(DivC, Scaled16sc) {
     Rng rng(seed());
     auto source = cornerValues<Vlq16sc>();

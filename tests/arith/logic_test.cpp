@@ -83,7 +83,7 @@ void checkConstant(WithConstant<T> call, WithConstantInPlace<T> inPlace, Ref<T> 
         EXPECT_EQ(vlqStsBadSize, inPlace(val, v, -1));
     }
     EXPECT_EQ(T{1}, v[0]);
-    // A constant of 0 on its own, both forms.
+    // A constant of 0, out of place and in place.
     T out[4] = {9, 9, 9, 9};
     EXPECT_EQ(vlqStsOk, call(v, 0, out, 3));
     EXPECT_EQ(vlqStsOk, inPlace(0, v, 3));

@@ -62,11 +62,9 @@ TEST(Streaming, ComplexDoubles) {
 }
 // A zero divisor at the very end is noticed.
 TEST(Streaming, WatchedDivisors) {
-    checkLong<Vlq16u, Vlq16u>(
-        [](const Vlq16u* a, const Vlq16u* b, Vlq16u* dst, int len) {
-            return vlqsDiv_16u_Sfs(a, b, dst, len, -3);
-        },
-        vlqStsWarnDivByZero);
+    checkLong<Vlq16u, Vlq16u>([](const Vlq16u* a, const Vlq16u* b, Vlq16u* dst,
+                                 int len) { return vlqsDiv_16u_Sfs(a, b, dst, len, -3); },
+                              vlqStsWarnDivByZero);
     checkLong<Vlq32fc, Vlq32fc>(vlqsDiv_32fc, vlqStsWarnDivByZero);
 }
 

@@ -7,8 +7,7 @@
 
 namespace vlqtest {
 
-// One doubled or halved |scaleFactor| times, in T's precision; past its fixed points nothing
-// changes.
+// One doubled or halved |scaleFactor| times, in T's precision, until it is 0 or infinite.
 template <class T>
 T stepwiseFactor(std::int32_t scaleFactor) {
     T factor = 1;

@@ -1,4 +1,5 @@
-// Conversions between integers and floats, and between floats, under every control word.
+// Conversions between integers and floats, and between floats, in every state of the control
+// register.
 #include "convert/floating_ref.h"
 
 #include <xmmintrin.h>
@@ -23,7 +24,7 @@ const std::vector<int> kScaleFactors = {
     149,  150,  151,  -124,  -125,  -126,  -127,  -128,  -129,  1021,    1022,    1023,       1024,
     1073, 1074, 1075, -1020, -1021, -1022, -1023, -1024, -1025, INT_MAX, INT_MIN, INT_MIN + 1};
 
-// The caller's control word for the length of a scope.
+// A value of the control register for the length of a scope.
 struct ControlWord {
     explicit ControlWord(unsigned word) : saved(_mm_getcsr()) { _mm_setcsr(word); }
     ~ControlWord() { _mm_setcsr(saved); }
@@ -165,8 +166,8 @@ TEST(FloatToInteger, NotANumberAs64s) {
     EXPECT_EQ(0x80000000u, words[1]);
 }
 
-// call(src, dst, len) against ref(element), under each control word: the reference runs under the
-// caller's where the result follows it.
+// call(src, dst, len) against ref(element), under each control word. Where the result depends on
+// it, the reference is computed under it too.
 template <class From, class To, class Call, class Ref>
 void checkElements(Call call, Ref ref, bool followsControlWord) {
     sweep(sizeof(From), {5003}, [&](Case& c) {

@@ -16,7 +16,7 @@ inline long double halfValue(std::uint16_t half) {
     return half & 0x8000 ? -magnitude : magnitude;
 }
 
-// Not-a-numbers are bits moved: sign, the quiet bit, what fits of the payload.
+// NaN keeps its sign and what fits of its payload, and becomes quiet.
 inline std::uint32_t halfToFloatBits(std::uint16_t half) {
     const float value = static_cast<float>(halfValue(half));
     std::uint32_t bits;
@@ -40,7 +40,7 @@ inline std::uint16_t floatToHalfRef(float value, int mode) {
         (halfValue(middle) <= magnitude ? low : high) = middle;
     }
     if (mode == 1) {
-        // The step past the largest half is as long as the one before it.
+        // Beyond the largest half the spacing is the same as below it.
         const long double above = high == 0x7C00 ? 65536.0L : halfValue(high);
         const long double toLow = magnitude - halfValue(low), toHigh = above - magnitude;
         if (toHigh < toLow || (toHigh == toLow && low % 2 == 1)) low = high;

@@ -1,5 +1,5 @@
 // What all conversions have in common: results written over the source where the manual allows it,
-// and what a call leaves of the calling thread's floating-point control and status word.
+// and the calling thread's floating-point control register after a call.
 #include <xmmintrin.h>
 
 #include <climits>
@@ -19,8 +19,8 @@ template <class S, class D, class Length = Vlq32s>
 using ScaledByMode = VlqStatus (*)(const S*, D*, Length, VlqRoundMode, Vlq32s);
 
 // ---- over the source ----------------------------------------------------------------------------
-// dst begins where src does: the result is that of vectors apart, and no byte past the source is
-// written.
+// dst begins where src does: the result is that of separate vectors, and no byte beyond the source
+// is written.
 template <class S, class D, class Call>
 void checkOverSource(Call call) {
     static_assert(sizeof(D) <= sizeof(S));
@@ -86,7 +86,7 @@ TEST(ConvertInPlace, Halves) {
     checkOverSource(vlqsConvert_16f16s_Sfs, {0, 1});
 }
 
-// ---- control and status word --------------------------------------------------------------------
+// ---- control register ---------------------------------------------------------------------------
 // All exceptions masked, every rounding and flushing, with no flag set or all of them.
 constexpr unsigned kFlags = 0x3F;
 std::vector<unsigned> controlWords() {
@@ -100,7 +100,7 @@ std::vector<unsigned> controlWords() {
     return words;
 }
 
-// The control bits are the caller's after every call, and no flag that stood is taken back.
+// After a call the control bits are the caller's, and no exception flag has been cleared.
 template <class S, class D, class Call>
 void checkWord(Call call) {
     Rng rng(seed());

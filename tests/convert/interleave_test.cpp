@@ -33,7 +33,7 @@ struct Rows {
     std::vector<T*> pointers;
 };
 
-// Calls under the control word and gives it back.
+// Makes a call under the given control register, and restores it.
 template <class Call>
 VlqStatus under(unsigned word, Call call) {
     const unsigned saved = _mm_getcsr();

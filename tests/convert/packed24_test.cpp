@@ -154,7 +154,7 @@ TEST(Packed24, UnsignedFromFloat) {
         kFloatScaleFactors, floatEdges());
 }
 
-// Reading or writing one byte past a page of packed samples is fatal here, at every length.
+// Reading or writing one byte beyond the packed samples hits a protected page, at every length.
 TEST(Packed24, EndsAtPages) {
     for (int len = 1; len <= 200; ++len) {
         const auto count = static_cast<std::size_t>(len);

@@ -13,9 +13,9 @@
 #include "vlqs.h"
 
 // Each slot of the library's entry table is redirected to a thunk, which calls the body with the
-// caller's own stack: it keeps the return address aside, in a variable of the thread. XGETBV with
-// ecx = 1 then tells which register halves are not in their initial state: bit 2 is for the upper
-// halves of the 256-bit registers, bit 6 for those of the 512-bit ones.
+// caller's own stack: it keeps the return address aside, in a variable of the thread. The body finds
+// the upper halves clear. XGETBV with ecx = 1 then tells which of them are in use: bit 2 is for
+// those of the 256-bit registers, bit 6 for those of the 512-bit ones.
 #define VLQTEST_THUNKS 4096
 #define VLQTEST_TEXT_(x) #x
 #define VLQTEST_TEXT(x) VLQTEST_TEXT_(x)
@@ -35,6 +35,7 @@ vlqtestThunks:
     popq %r10
     movq %r10, %fs:vlqtestReturn@tpoff
     movq %r11, %fs:vlqtestIndex@tpoff
+    vzeroupper
     leaq vlqtestBodies(%rip), %r10
     callq *(%r10,%r11,8)
     pushq %fs:vlqtestReturn@tpoff

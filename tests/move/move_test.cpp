@@ -118,7 +118,7 @@ TEST(Set, Values) {
     checkFill<Vlq64fc>(vlqsSet_64fc);
 }
 
-// A signalling not-a-number keeps its bits.
+// A signalling NaN keeps its bits.
 TEST(Set, SignallingNaN) {
     const std::uint32_t bits = 0x7FA12345u;
     Vlq32f value;
@@ -195,7 +195,7 @@ TEST(Move, OneElementUpKeepsTheSequence) {
     for (int i = 0; i < 100; ++i) ASSERT_EQ(i, v[static_cast<std::size_t>(i) + 1]);
 }
 
-// Long enough for the cache look-up and for stores past the cache, on any processor to be met.
+// Long enough for non-temporal stores on every processor.
 class Huge : public ::testing::Test {
 protected:
     static constexpr int kBytes = 160 << 20;

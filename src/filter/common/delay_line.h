@@ -1,4 +1,4 @@
-// Delay lines as single samples and record-less filters keep them.
+// Delay lines as single samples and filters without a state keep them.
 #pragma once
 
 #include <algorithm>
@@ -9,9 +9,9 @@
 
 namespace vlq::fir {
 
-// A ring of `len` samples kept twice over, so that every window lies in one piece: the window
-// line[index .. index + len - 1] holds the past, oldest sample first. Puts a sample in the place of
-// the oldest and returns the index of the window that it ends.
+// A ring of `len` samples kept twice over, so that every window is contiguous: the window
+// line[index .. index + len - 1] holds the latest samples, oldest first. Puts a sample in the place
+// of the oldest and returns the index of the window that it ends.
 template <class Sample>
 inline Vlq32s pushIntoRing(Sample sample, Sample* line, Vlq32s len, Vlq32s index) {
     storeScalar(line + index, sample);

@@ -1,6 +1,6 @@
 // FIR filters without a state: the caller keeps taps, a line of twice tapsLen samples and an index.
-// The line is the ring of a state's single samples: line[i .. i + tapsLen - 1] holds the past, oldest
-// sample first, i being the index.
+// The line is the ring of a state's single samples: the window line[i .. i + tapsLen - 1], i being
+// the index, holds the latest samples, oldest first.
 #include <algorithm>
 #include <limits>
 

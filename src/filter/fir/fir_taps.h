@@ -22,7 +22,7 @@ void writeTaps(FirState<E>& state, const Tap* taps) {
     for (Vlq32s k = 0; k < len; ++k) wide = writeWide(wide, reversed[len - 1 - k]);
 }
 
-// The transform of the taps, zero-extended, in the form that overlap-save wants.
+// The transform of the taps, zero-extended, as overlap-save uses it.
 template <class E>
 VlqStatus writeSpectrum(FirState<E>& state) {
     const Vlq32s len = state.tapsLen;

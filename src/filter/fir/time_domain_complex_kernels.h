@@ -1,6 +1,6 @@
-// The time-domain FIR kernels for complex elements. A vector of samples x, parts interleaved, meets a tap
-// a + ib as two products by lanes, with (a, a) and with (-b, b); the sums of both over all taps,
-// swap exchanging the parts of each value, give
+// The time-domain FIR kernels for complex elements. A vector of samples x, parts interleaved, meets
+// a tap a + ib as two products by lanes, with (a, a) and with (-b, b); the sums of both over all
+// taps, swap exchanging the parts of each value, give
 //
 //     y = sum of (a, a) x - swap(sum of (-b, b) x)
 //

@@ -1,5 +1,5 @@
-// The time-domain FIR kernels for real elements. y[n] = sum over j of g[j] * x[n + j], where g is the impulse response
-// reversed and x[0] the oldest sample of the first window.
+// The time-domain FIR kernels for real elements. y[n] = sum over j of g[j] * x[n + j], where g is
+// the impulse response reversed and x[0] the oldest sample of the first window.
 //
 // Each output is summed in one order that depends on the tap count alone, never on its place in a
 // block, so any split of a stream over calls, tiles or threads gives the same bits. The taps are

@@ -1,4 +1,4 @@
-// Does any element of a vector satisfy a condition? The condition sees vectors and gives lane
+// Whether any element of a vector satisfies a condition, which takes vectors and returns lane
 // masks.
 #pragma once
 
@@ -20,9 +20,9 @@ inline bool anyOf(const T* src, std::ptrdiff_t len, Condition condition) {
     return any(found);
 }
 
-// An operation of a loop that also tells whether any element of its first source satisfied the
-// condition. Unused lanes have all bits set and must not satisfy it. A loop works on a copy, which
-// keeps what it saw in a register and hands it over when it ends.
+// A loop's operation that also notes whether any element of the first source satisfied the
+// condition. Unused lanes have all bits set and must not satisfy it. The loop works on a copy,
+// which keeps the mask in a register and merges it into *found when it is destroyed.
 template <class Op, class Condition, class Mask>
 class Watching {
 public:

@@ -1,7 +1,7 @@
-// Bulk movement of bytes: copy, move and fill. By length: a few overlapping loads and stores, with
-// everything read before anything is written; a loop over an aligned destination; the string
-// instructions; and for what would sweep the cache, stores past it. The limits between them were
-// measured; they decide how data travels, never what is stored.
+// Bulk movement of bytes: copy, move and fill. The method depends on the length: a few overlapping
+// loads and stores, with everything read before anything is written; a loop over an aligned
+// destination; the string instructions; and non-temporal stores for what exceeds the cache. The
+// limits between them were measured.
 #pragma once
 
 #include <cwchar>
@@ -15,8 +15,8 @@ namespace vlq {
 
 using Byte = unsigned char;
 
-// Up to here a run is a few loads and stores from both of its ends: copyShort, fillShort. A caller
-// in a hurry makes the other call its last, and needs no stack frame for the short one.
+// Up to here copyShort and fillShort serve: a few loads and stores from both ends. A caller that
+// makes a tail call for longer ones needs no stack frame.
 inline constexpr std::size_t kShort = 8 * kVecBytes;
 
 namespace detail {
@@ -43,7 +43,7 @@ inline void storeWord(Byte* p, Word w) {
 
 // ---- copy ---------------------------------------------------------------------------------------
 
-// n from sizeof(Word) to twice that: two words that may overlap.
+// n from sizeof(Word) to twice that: two integers that may overlap.
 template <class Word>
 inline void copyTwoWords(Byte* dst, const Byte* src, std::size_t n) {
     const Word first = loadWord<Word>(src), last = loadWord<Word>(src + n - sizeof(Word));
@@ -51,8 +51,8 @@ inline void copyTwoWords(Byte* dst, const Byte* src, std::size_t n) {
     storeWord(dst + n - sizeof(Word), last);
 }
 
-// n from N * B to 2 * N * B: N vectors from either end, N being 1, 2 or 4. Each by name: from
-// arrays GCC 12 makes copies through the stack.
+// n from N * B to 2 * N * B: N vectors from either end, N being 1, 2 or 4. Each has a name: arrays
+// of them GCC 12 copies through the stack.
 template <int B, int N>
 [[gnu::always_inline]] inline void copyEnds(Byte* dst, const Byte* src, std::size_t n) {
     const Byte* const srcEnd = src + n;
@@ -121,7 +121,7 @@ template <class Put>
 }
 inline constexpr auto kAnywhere = [](Byte* p, Bytes<kVecBytes> v) { store(p, v); };
 inline constexpr auto kAligned = [](Byte* p, Bytes<kVecBytes> v) { storeAligned(p, v); };
-inline constexpr auto kPastCache = [](Byte* p, Bytes<kVecBytes> v) { stream(p, v); };
+inline constexpr auto kAroundCache = [](Byte* p, Bytes<kVecBytes> v) { stream(p, v); };
 
 // First byte to the last, more than kShort; dst may overlap src from below. The ends are read
 // before the loop writes, and written after it.
@@ -162,7 +162,7 @@ inline void copyDownwards(Byte* dst, const Byte* src, std::size_t n) {
     store(end - B, last);
 }
 
-// By string instruction, from a cache line of dst on. The regions are apart.
+// By string instruction, from a cache-line boundary of dst on. The regions do not overlap.
 inline void copyByWords(Byte* dst, const Byte* src, std::size_t n) {
     const std::size_t head = toNextBoundary<64>(dst);
     copyShort(dst, src, head);
@@ -172,14 +172,14 @@ inline void copyByWords(Byte* dst, const Byte* src, std::size_t n) {
     copyShort(dst + done, src + done, n - done);
 }
 
-// Past the cache. The regions are apart.
+// With non-temporal stores. The regions do not overlap.
 inline void copyStreaming(Byte* dst, const Byte* src, std::size_t n) {
     constexpr int B = kVecBytes;
     const std::size_t head = toNextBoundary<B>(dst);
     copyShort(dst, src, head);
     std::size_t done = head;
     for (; n - done >= 4 * B; done += 4 * B) {
-        storeFour(dst + done, loadFour(src + done), kPastCache);
+        storeFour(dst + done, loadFour(src + done), kAroundCache);
     }
     streamFence();
     copyShort(dst + done, src + done, n - done);
@@ -187,7 +187,7 @@ inline void copyStreaming(Byte* dst, const Byte* src, std::size_t n) {
 
 }  // namespace detail
 
-// More than kShort bytes; the regions are apart.
+// More than kShort bytes; the regions do not overlap.
 inline void copyLong(Byte* dst, const Byte* src, std::size_t n) {
     using namespace detail;
     if (n >= kLibraryCopiesFrom && n < kLibraryCopiesBelow) {
@@ -223,8 +223,8 @@ inline void moveLong(Byte* dst, const Byte* src, std::size_t n) {
 template <class T>
 inline Vec<Byte> repeated(const T& value) {
     if constexpr (sizeof(T) == 16) {
-        // Each half in a register: the value came in two, and a compiler that stores them and reads
-        // one vector back makes the read wait.
+        // Each half in a register: the value arrived in two, and storing them to load one vector
+        // back would stall.
         auto re = std::bit_cast<std::int64_t>(value.re), im = std::bit_cast<std::int64_t>(value.im);
         asm("" : "+r"(re), "+r"(im));
         return bitCast<Byte>(alternating(re, im));
@@ -303,7 +303,7 @@ inline void fillLong(Byte* dst, std::size_t n, Vec<Byte> pattern) {
     store(dst, pattern);
     const std::size_t head = toNextBoundary<B>(dst);
     if (head % Period != 0) {
-        // No element begins on a boundary of the vector.
+        // No element begins on a vector boundary.
         return fillVectors(dst, dst + n, pattern, kAnywhere);
     }
     Byte* const start = dst + head;
@@ -313,7 +313,7 @@ inline void fillLong(Byte* dst, std::size_t n, Vec<Byte> pattern) {
         fillWords(start, firstWord(pattern), words);
         store(end - B, pattern);
     } else if (Period > 8 && exceedsCache(n)) {
-        fillVectors(start, end, pattern, kPastCache);
+        fillVectors(start, end, pattern, kAroundCache);
         streamFence();
     } else {
         fillVectors(start, end, pattern, kAligned);

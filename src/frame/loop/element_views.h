@@ -1,5 +1,5 @@
-// What the bodies of the element-wise families share: complex vectors seen as reals, and the clears
-// and copies that they hand over to, by the type of the vector.
+// What the bodies of the element-wise families share: complex vectors viewed as reals, and the
+// clear and copy functions by the type of the vector.
 #pragma once
 
 #include "vlqs/arith.h"
@@ -21,10 +21,10 @@ inline Vlq64f* reals(Vlq64fc* v) { return reinterpret_cast<Vlq64f*>(v); }
 inline const Vlq32s* elements(const Vlq16sc* v) { return reinterpret_cast<const Vlq32s*>(v); }
 inline Vlq32s* elements(Vlq16sc* v) { return reinterpret_cast<Vlq32s*>(v); }
 
-// In 32 bits: from 2^30 on the doubled length is negative, and the real form refuses it.
+// Wraps in 32 bits: from 2^30 on the doubled length is negative, and the real function refuses it.
 inline Vlq32s twice(Vlq32s len) { return static_cast<Vlq32s>(2 * static_cast<Vlq32u>(len)); }
 
-// ---- clear, where all results are 0: tests and writes dst ---------------------------------------
+// ---- clear: checks dst and len ------------------------------------------------------------------
 inline VlqStatus clear(Vlq8u* dst, Vlq32s len) { return vlqsZero_8u(dst, len); }
 inline VlqStatus clear(Vlq16s* dst, Vlq32s len) { return vlqsZero_16s(dst, len); }
 inline VlqStatus clear(Vlq16u* dst, Vlq32s len) {
@@ -48,7 +48,7 @@ inline VlqStatus clear(Vlq64fc* dst, Vlq32s len) {
     return vlqsZero_64sc(reinterpret_cast<Vlq64sc*>(dst), len);
 }
 
-// ---- copy: tests both vectors -------------------------------------------------------------------
+// ---- copy: checks both vectors and len ----------------------------------------------------------
 inline VlqStatus copy(const Vlq8u* src, Vlq8u* dst, Vlq32s len) {
     return vlqsCopy_8u(src, dst, len);
 }

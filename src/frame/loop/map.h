@@ -1,13 +1,19 @@
-// Element-wise loops: dst[i] = op(src[i]...). A short head brings dst to a vector boundary, blocks
-// follow, and a partial vector takes what remains, all with the same operation, so a result does
-// not depend on alignment or length. Each block is read whole before it is written: dst may be
-// one of the sources. Nothing outside the vectors is touched.
+// Element-wise loops: dst[i] = op(src[i]...). A short head aligns dst to a vector boundary, blocks
+// follow, and a partial vector takes the rest, all with the same operation, so that results do not
+// depend on alignment or length. Each block is read completely before it is written, so dst may be
+// one of the sources. Nothing outside the vectors is read or written.
 #pragma once
 
 #include "frame/simd/cache.h"
 #include "frame/simd/tuning.h"
 
 namespace vlq {
+
+// Whether an operation asks for all bits set in the unused lanes of a partial block, instead of 0.
+template <class Op>
+inline constexpr bool marksUnused = requires {
+    requires Op::kMarkUnused;
+};
 
 namespace detail {
 
@@ -36,7 +42,7 @@ inline Block<T, N> loadBlockPartial(const T* p, int count) {
     }
     return block;
 }
-// All bits in the lanes past the first `count`.
+// All bits set in the lanes after the first `count`.
 template <class T>
 inline Vec<T> unusedLanes(std::ptrdiff_t count) {
     BitsOf<T> mask[Vec<T>::lanes];
@@ -66,91 +72,102 @@ inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
     }
 }
 
-// Whether the results had better bypass the cache: the vectors exceed it together, and dst is none
-// of the sources, whose cache lines would be there already. dst must be on a vector boundary.
-template <class D, class... S>
-inline bool bypassesCache(const D* dst, std::ptrdiff_t len, const S*... src) {
-    const auto isSource = [dst](const void* p) { return p == dst; };
-    return exceedsCache(static_cast<std::size_t>(len) * (sizeof(D) + ... + sizeof(S))) &&
-           reinterpret_cast<std::uintptr_t>(dst) % kVecBytes == 0 && !(isSource(src) || ...);
+// Elements in a block: as many as one vector of the narrowest type holds.
+template <class... T>
+inline constexpr int kBlock = kVecBytes / kNarrowest<T...>;
+
+// The first n elements, fewer than a block.
+template <class D, class Op, class... S>
+inline void mapPartial(D* dst, int n, const Op& op, const S*... src) {
+    constexpr int count = kBlock<D, S...>;
+    const auto read = [n]<class T>(const T* p) {
+        const auto block = loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
+        if constexpr (marksUnused<Op>)
+            return markUnused(block, n);
+        else
+            return block;
+    };
+    const auto result = op(read(src)...);
+    storeBlockPartial<D, count / Vec<D>::lanes>(dst, result, n);
 }
 
-// The whole blocks of dst[i] = op(src[i]...) by non-temporal stores; returns how many elements that
-// are. A function of its own, which leaves the registers of the usual loop alone; no vectors are
-// among its arguments, lest it return with the upper halves of the registers in use.
-template <int count, class D, class Op, class... S>
-[[gnu::noinline]] std::ptrdiff_t streamBlocks(D* dst, std::ptrdiff_t len, const Op& op,
-                                              const S*... src) {
-    const Op hot = op;
-    std::ptrdiff_t i = 0;
-    for (; len - i >= count; i += count)
-        streamBlock(dst + i, hot(loadBlock<S, count / Vec<S>::lanes>(src + i)...));
-    streamFence();
-    return i;
+// Elements before the first vector boundary of dst; 0 if there is none at an element, or group.
+template <int group, class D>
+inline int headLength(const D* dst) {
+    const auto offset = reinterpret_cast<std::uintptr_t>(dst) % kVecBytes;
+    return offset % (group * sizeof(D)) == 0 && offset != 0
+               ? static_cast<int>((kVecBytes - offset) / sizeof(D))
+               : 0;
+}
+
+// From this many bytes on, those of all vectors together, a loop is mapLong. It is bound by memory,
+// and whether it bypasses the cache is worth asking.
+inline constexpr std::size_t kLongBytes = std::size_t{1} << 20;
+
+// mapBlocks for long vectors, with non-temporal stores where the vectors exceed the cache and dst
+// is none of the sources, whose cache lines would be there already. It is a function of its own
+// because a caller that inlined it would need a stack frame, which short calls feel.
+template <int group, class D, class Op, class... S>
+[[gnu::noinline]] void mapLong(D* dst, std::ptrdiff_t len, Op op, const S*... src) {
+    constexpr int count = kBlock<D, S...>;
+    const auto isSource = [dst](const void* p) { return p == dst; };
+    const bool bypass =
+        exceedsCache(static_cast<std::size_t>(len) * (sizeof(D) + ... + sizeof(S))) &&
+        !(isSource(src) || ...);
+    std::ptrdiff_t i = headLength<group>(dst);
+    if (i > 0) mapPartial(dst, static_cast<int>(i), op, src...);
+    const auto block = [&] { return op(loadBlock<S, count / Vec<S>::lanes>(src + i)...); };
+    if (bypass && reinterpret_cast<std::uintptr_t>(dst + i) % kVecBytes == 0) {
+        for (; len - i >= count; i += count) streamBlock(dst + i, block());
+        streamFence();
+    }
+    for (; len - i >= count; i += count) storeBlock(dst + i, block());
+    if (i < len) mapPartial(dst + i, static_cast<int>(len - i), op, (src + i)...);
 }
 
 }  // namespace detail
 
-// Whether an operation asks for all bits set in the unused lanes of a partial block, instead of 0.
-template <class Op>
-inline constexpr bool marksUnused = requires {
-    requires Op::kMarkUnused;
-};
-
-// op takes one Block a source and gives a Block of D; a block is one vector of the narrowest type.
-// Elements that belong together, as the two parts of a complex value, are a group: len counts
-// whole groups' elements and no group is split over two vectors.
+// op takes one Block per source and returns a Block of D; a block is as many elements as one vector
+// of the narrowest type holds. Elements that belong together, as the two parts of a complex value,
+// form a group. len counts elements and is a multiple of the group; no group is split over two
+// vectors.
 template <int group = 1, class D, class Op, class... S>
 inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
-    constexpr int count = kVecBytes / detail::kNarrowest<D, S...>;
-    constexpr int dstParts = count / Vec<D>::lanes;
+    constexpr std::size_t bytes = (sizeof(D) + ... + sizeof(S));  // of an element in all vectors
+    if (len >= static_cast<std::ptrdiff_t>(detail::kLongBytes / bytes)) [[unlikely]]
+        return detail::mapLong<group>(dst, len, op, src...);
 
-    auto partial = [&](int n) {
-        const auto read = [&]<class T>(const T* p) {
-            const auto block = detail::loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
-            if constexpr (marksUnused<Op>)
-                return detail::markUnused(block, n);
-            else
-                return block;
-        };
-        const auto result = op(read(src)...);
-        detail::storeBlockPartial<D, dstParts>(dst, result, n);
-    };
-    auto advance = [&](std::ptrdiff_t n) {
+    constexpr int count = detail::kBlock<D, S...>;
+    const auto advance = [&](std::ptrdiff_t n) {
         dst += n;
         ((src += n), ...);
         len -= n;
     };
-
-    const auto offset = reinterpret_cast<std::uintptr_t>(dst) % kVecBytes;
-    if (offset % (group * sizeof(D)) == 0 && offset != 0 && len > 4 * count) {
-        const int head = static_cast<int>((kVecBytes - offset) / sizeof(D));
-        partial(head);
+    if (const int head = detail::headLength<group>(dst); head != 0 && len > 4 * count) {
+        detail::mapPartial(dst, head, op, src...);
         advance(head);
     }
-    // The compiler may outline what ends the vector and hand it op by address. The loops have their
-    // own, whose constants then stay in registers; captures by value keep them reachable.
+    // The compiler may outline the partial blocks and pass them op by address. The loops use a
+    // copy, so that its constants stay in registers.
     const Op hot = op;
-    constexpr int unroll = kMapUnroll;
-    if (detail::bypassesCache(dst, len, src...)) [[unlikely]]
-        advance(detail::streamBlocks<count>(dst, len, op, src...));
-    for (D* const end = dst + len / (unroll * count) * (unroll * count); dst != end;
-         advance(unroll * count)) {
+    constexpr int unroll = 4;
+    while (len >= unroll * count) {
 #pragma GCC unroll 4
         for (int u = 0; u < unroll; ++u) {
             const auto result =
                 hot(detail::loadBlock<S, count / Vec<S>::lanes>(src + u * count)...);
             detail::storeBlock(dst + u * count, result);
         }
+        advance(unroll * count);
     }
     while (len >= count) {
         detail::storeBlock(dst, hot(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
         advance(count);
     }
-    if (len > 0) partial(static_cast<int>(len));
+    if (len > 0) detail::mapPartial(dst, static_cast<int>(len), op, src...);
 }
 
-// All types of one size: op takes and gives plain vectors.
+// All types of one size: op takes and returns single vectors.
 template <int group = 1, class D, class Op, class... S>
 inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     static_assert(((sizeof(S) == sizeof(D)) && ...));
@@ -159,7 +176,7 @@ inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
         src...);
 }
 
-// One element at a time, for operations that no vector instruction serves: dst[i] = op(src[i]...).
+// One element at a time, for operations without vector instructions: dst[i] = op(src[i]...).
 template <class D, class Op, class... S>
 inline void mapScalars(D* dst, std::ptrdiff_t len, Op&& op, const S*... src) {
     const auto element = []<class T>(const T* p) {

@@ -1,5 +1,5 @@
-// Element-wise loops with packed 24-bit integers on one side: whole blocks, then what remains by
-// way of a block of its own. Nothing outside the vectors is touched.
+// Element-wise loops from and to packed 24-bit integers: whole blocks, then the rest by way of a
+// local buffer. Nothing outside the vectors is read or written.
 #pragma once
 
 #include "frame/loop/map.h"
@@ -7,7 +7,7 @@
 
 namespace vlq {
 
-// dst[i] = op(src[i]): op takes 32-bit lanes and gives a Block of D, which is as wide.
+// dst[i] = op(src[i]): op takes 32-bit lanes and returns a Block of D, which has 32 bits too.
 template <bool kSigned, class D, class Op>
 inline void mapFromPacked24(D* dst, const std::uint8_t* src, std::ptrdiff_t len, Op op) {
     static_assert(sizeof(D) == 4);
@@ -25,8 +25,8 @@ inline void mapFromPacked24(D* dst, const std::uint8_t* src, std::ptrdiff_t len,
     }
 }
 
-// dst[i] = op(src[i]): op takes a Block of S and gives 32-bit lanes, whose lower three bytes are
-// stored.
+// dst[i] = op(src[i]): op takes a Block of S and returns 32-bit lanes, of which the low three bytes
+// are stored.
 template <class S, class Op>
 inline void mapToPacked24(std::uint8_t* dst, const S* src, std::ptrdiff_t len, Op op) {
     static_assert(sizeof(S) == 4);

@@ -1,6 +1,6 @@
-// Loops that fold vectors into one value. Which element meets which accumulator depends on its index
-// alone, and the order in which accumulators are combined on nothing: a result is the same for
-// every alignment. Nothing outside the vectors is read.
+// Loops that fold vectors into one value. Which element meets which accumulator depends on its
+// index alone, and the order in which accumulators are combined on nothing: a result is the same
+// for every alignment. Nothing outside the vectors is read.
 #pragma once
 
 #include <algorithm>
@@ -15,8 +15,8 @@ namespace vlq {
 
 namespace detail {
 
-// f(0), f(1) ... f(n - 1) with constants for indices: from loops over an array of accumulators GCC 12
-// keeps it in memory.
+// f(0), f(1) ... f(n - 1) with constants for indices: from loops over an array of accumulators GCC
+// 12 keeps it in memory.
 template <int n, class F>
 inline void forEachIndex(F f) {
     [&]<int... u>(std::integer_sequence<int, u...>) { (f(std::integral_constant<int, u>()), ...); }
@@ -34,9 +34,9 @@ inline void mergeUpperHalf(Acc* acc, const Op& op) {
 }  // namespace detail
 
 // acc = op(acc, block of each source) for all blocks, one vector of the narrowest type each, over
-// `accumulators` (a power of two) in turn, which op.merge(a, b) then combines in pairs. All begin as
-// `start`, which is neutral in a merge. Lanes past the end are 0, or repeat the last element for an
-// op that says by kIdempotent that an element may count twice.
+// `accumulators` (a power of two) in turn, which op.merge(a, b) then combines in pairs. All begin
+// as `start`, which is neutral in a merge. Lanes past the end are 0, or repeat the last element for
+// an op that says by kIdempotent that an element may count twice.
 template <int accumulators = kReduceAccumulators, class Acc, class Op, class... S>
 inline Acc reduce(std::ptrdiff_t len, Acc start, const Op& op, const S*... src) {
     static_assert((accumulators & (accumulators - 1)) == 0);

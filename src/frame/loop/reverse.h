@@ -1,5 +1,5 @@
-// Reversal of a vector, apart or in place: the loop walks in from both ends, reads a block at
-// either end, and writes each where the other came from.
+// Reversal of a vector, in place or into another: from both ends inwards, a block is read at either
+// end and each is written, reversed, to the place of the other.
 #pragma once
 
 #include "frame/simd/permute.h"
@@ -32,7 +32,7 @@ inline void reverseEnds(unsigned char* dst, const unsigned char* src, std::ptrdi
 
 }  // namespace detail
 
-// dst[i] = src[len - 1 - i] for elements of Size bytes. dst is src or apart from it.
+// dst[i] = src[len - 1 - i] for elements of Size bytes. dst is src, or does not overlap it.
 template <std::size_t Size, class T>
 inline void reverseElements(T* dstElements, const T* srcElements, std::ptrdiff_t len) {
     auto* dst = reinterpret_cast<unsigned char*>(dstElements);

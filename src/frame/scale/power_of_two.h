@@ -30,4 +30,13 @@ constexpr T scaleFactorPower(std::int32_t scaleFactor) {
     return powerOfTwo<T>(-std::int64_t{scaleFactor});
 }
 
+// 2^-scaleFactor, with the count of places taken modulo 128: a scale factor beyond the range of
+// floats wraps around. 127 gives 0.
+constexpr float wrappedPower(std::int32_t scaleFactor) {
+    constexpr std::uint32_t one = std::bit_cast<std::uint32_t>(1.0f);
+    const auto places = static_cast<std::uint32_t>(scaleFactor);
+    if (scaleFactor < 0) return std::bit_cast<float>(one + (((0 - places) & 127) << 23));
+    return std::bit_cast<float>(one - ((places & 127) << 23));
+}
+
 }  // namespace vlq

@@ -1,5 +1,5 @@
-// The scale rule on one integer at a time, for exact results that no vector lane holds: in an integer
-// type Wide that does.
+// The scale rule on one integer at a time, for exact results that no vector lane holds: in an
+// integer type Wide that does.
 #pragma once
 
 #include <cstdint>

@@ -147,32 +147,31 @@ class RoundShift {
 public:
     using V = Vec<T>;
 
-    explicit RoundShift(int count)
-        : count_(count),
-          mask_(V::broadcast(static_cast<T>((std::make_unsigned_t<T>{1} << count) - 1))) {}
+    explicit RoundShift(int count) : count_(count) {}
 
     V operator()(V v) const {
         using Lane = BitsOf<T>;
+        const V mask = V::broadcast(static_cast<T>((std::make_unsigned_t<T>{1} << count_) - 1));
         const V quotient = shiftRight(v, count_);
-        const auto up = isAbove(bitCast<Lane>(v & mask_), bitCast<Lane>(limit(v, quotient)));
+        const auto up =
+            isAbove(bitCast<Lane>(v & mask), bitCast<Lane>(roundedDown(v, quotient, mask)));
         return quotient - bitCast<T>(up);
     }
 
 private:
     // The largest remainder that is rounded down to the quotient, which is the floor.
-    V limit(V v, V quotient) const {
+    static V roundedDown(V v, V quotient, V mask) {
         V sign = V::zero();
         if constexpr (std::is_signed_v<T>) sign = signMask(v);
         if constexpr (rounding == Rounding::ToZero)
-            return mask_ & ~sign;
+            return mask & ~sign;
         else if constexpr (rounding == Rounding::TiesAway)
-            return shiftRight(mask_, 1) - sign;
+            return shiftRight(mask, 1) - sign;
         else
-            return shiftRight(mask_, 1) + V::broadcast(1) - (quotient & V::broadcast(1));
+            return shiftRight(mask, 1) + V::broadcast(1) - (quotient & V::broadcast(1));
     }
 
     int count_;
-    V mask_;
 };
 
 }  // namespace vlq

@@ -10,7 +10,7 @@ namespace vlq {
 // Bytes that one thread can expect to keep in the last-level cache. The C library asked the
 // processor when it was loaded, so this costs a few nanoseconds. Server processors and hypervisors
 // report the caches of all cores together, of which a core fills only the slice nearest to it:
-// hence the limit. It also stands in where nothing is reported.
+// hence the limit, which also serves where nothing is reported.
 inline std::size_t cacheBytes() {
     constexpr long limit = 32L << 20;
     long bytes = 0;
@@ -25,8 +25,8 @@ inline std::size_t cacheBytes() {
 // its result in the cache. Non-temporal stores win from here on, whoever uses the result next;
 // below, the next reader would have to fetch from memory what ordinary stores leave in the cache.
 inline bool exceedsCache(std::size_t bytes) {
-    constexpr std::size_t askFrom = std::size_t{1} << 20;
-    return bytes >= askFrom && bytes >= cacheBytes() / 2 * 3;
+    constexpr std::size_t smallest = std::size_t{1} << 20;  // below, the question is not worth asking
+    return bytes >= smallest && bytes >= cacheBytes() / 2 * 3;
 }
 
 }  // namespace vlq

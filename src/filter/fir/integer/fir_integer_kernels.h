@@ -84,7 +84,8 @@ public:
     Vlq16s operator()(Vlq32s sum) const { return finish_(sum); }
 
 private:
-    Finish finish_;
+    // By reference: a wide load, to copy what was just stored in parts, would wait for the cache.
+    const Finish& finish_;
 };
 
 inline Vlq32s wrappingAdd(Vlq32s a, Vlq32s b) {
@@ -222,47 +223,82 @@ template <int Rows, int A, int B>
 
 // A vectors of results.
 template <int A, int B, class F>
-inline void tile(Pairs taps, const Vlq16s* x, Vlq16s* dst, const F& finish) {
+inline void tile(const Vlq16s* firstRow, const Vlq16s* secondRow, std::ptrdiff_t words,
+                 const Vlq16s* x, Vlq16s* dst, const F& finish) {
     constexpr int lanes = Vec<Vlq16s, B>::lanes;
     Vec<Vlq32s, B> first[A], second[A];
 #pragma GCC unroll 16
     for (int a = 0; a < A; ++a) first[a] = second[a] = finish.template start<B>();
 
-    auto advance = [&](std::ptrdiff_t words) {
-        taps.first += words;
-        taps.second += words;
-        taps.words -= words;
-        x += words;
+    auto advance = [&](std::ptrdiff_t done) {
+        firstRow += done;
+        secondRow += done;
+        x += done;
+        words -= done;
     };
-    for (; taps.words >= 2 * lanes; advance(2 * lanes)) {
-        addColumns<2>(first, second, taps.first, taps.second, x, lanes / 2);
-    }
-    std::ptrdiff_t left = taps.words;
-    if (left > lanes) {
+    for (; words >= 2 * lanes; advance(2 * lanes))
+        addColumns<2>(first, second, firstRow, secondRow, x, lanes / 2);
+    if (words > lanes) {
         // Of the last group only the first columns have two rows.
-        const std::ptrdiff_t longer = left - lanes;
-        addColumns<2>(first, second, taps.first, taps.second, x, longer / 2);
+        const std::ptrdiff_t longer = words - lanes;
+        addColumns<2>(first, second, firstRow, secondRow, x, longer / 2);
         advance(longer);
-        left = lanes - longer;
+        words = lanes - longer;
     }
-    addColumns<1>(first, second, taps.first, taps.second, x, left / 2);
+    addColumns<1>(first, second, firstRow, secondRow, x, words / 2);
 #pragma GCC unroll 16
     for (int a = 0; a < A; ++a)
         store(dst + a * lanes, interleaveSat(finish(first[a]), finish(second[a])));
 }
 
+// A vectors of results of a short real filter of an even number of taps: one row, which the odd
+// outputs meet a word later in the samples. That is a pair less than two rows take.
+template <int A, int B, class F>
+inline void shortTile(const Vlq16s* row, std::ptrdiff_t tapsLen, const Vlq16s* x, Vlq16s* dst,
+                      const F& finish) {
+    constexpr int lanes = Vec<Vlq16s, B>::lanes;
+    Vec<Vlq32s, B> even[A], odd[A];
+#pragma GCC unroll 16
+    for (int a = 0; a < A; ++a) even[a] = odd[a] = finish.template start<B>();
+#pragma GCC unroll 1
+    for (; tapsLen > 0; tapsLen -= 2, row += 2, x += 2) {
+        const auto tap = broadcastPair<B>(row);
+#pragma GCC unroll 16
+        for (int a = 0; a < A; ++a) {
+            even[a] = opaque(even[a] + pairSums(load<Vlq16s, B>(x + a * lanes), tap));
+            odd[a] = opaque(odd[a] + pairSums(load<Vlq16s, B>(x + a * lanes + 1), tap));
+        }
+    }
+#pragma GCC unroll 16
+    for (int a = 0; a < A; ++a)
+        store(dst + a * lanes, interleaveSat(finish(even[a]), finish(odd[a])));
+}
+template <int B, class F, int... Less>
+inline void shortTileOf(int vectors, const Vlq16s* row, std::ptrdiff_t tapsLen, const Vlq16s* x,
+                        Vlq16s* dst, const F& finish, std::integer_sequence<int, Less...>) {
+    ((vectors == Less + 1 ? shortTile<Less + 1, B>(row, tapsLen, x, dst, finish) : void()), ...);
+}
+
 template <int B, class F, int... Less>
 inline void tileOf(int vectors, const Pairs& taps, const Vlq16s* x, Vlq16s* dst, const F& finish,
                    std::integer_sequence<int, Less...>) {
-    ((vectors == Less + 1 ? tile<Less + 1, B>(taps, x, dst, finish) : void()), ...);
+    ((vectors == Less + 1 ? tile<Less + 1, B>(taps.first, taps.second, taps.words, x, dst, finish)
+                          : void()),
+     ...);
 }
 
 // Calls make(vectors, first lane) for tiles of at most `most` vectors that cover n lanes, at least
 // one vector, evenly. What remains ends flush with the last lane: it may be made a second time.
 template <class Make>
-inline void eachTile(std::ptrdiff_t n, std::ptrdiff_t lanes, std::ptrdiff_t most, Make&& make) {
-    const std::ptrdiff_t vectors = (n + lanes - 1) / lanes, tiles = (vectors + most - 1) / most,
-                         each = (vectors + tiles - 1) / tiles;
+[[gnu::always_inline]] inline void eachTile(std::ptrdiff_t n, std::ptrdiff_t lanes,
+                                            std::ptrdiff_t most, Make&& make) {
+    const std::ptrdiff_t vectors = (n + lanes - 1) / lanes;
+    // One tile mostly: no division that waits.
+    std::ptrdiff_t each = vectors;
+    if (vectors > most) {
+        const std::ptrdiff_t tiles = (vectors + most - 1) / most;
+        each = (vectors + tiles - 1) / tiles;
+    }
     for (std::ptrdiff_t done = 0; done < n;) {
         std::ptrdiff_t next = each;
         if (done + next * lanes > n) {
@@ -293,6 +329,14 @@ inline void filterWordsBy(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* d
     if constexpr (Parts == 2) {
         pairs = {taps.row[0], taps.row[1], taps.words};
     } else {
+        constexpr int kShortTaps = kVecBytes == 16 ? 8 : kVecBytes == 32 ? 16 : 0;
+        if (taps.words <= kShortTaps && taps.words % 2 == 0 && n >= Vec<Vlq16s>::lanes) {
+            eachTile(n, Vec<Vlq16s>::lanes, kTileVectors, [&](int vectors, std::ptrdiff_t done) {
+                shortTileOf<kVecBytes>(vectors, taps.row[0], taps.words, x + done, dst + done,
+                                       finish, std::make_integer_sequence<int, kTileVectors>());
+            });
+            return;
+        }
         // Odd outputs meet the same samples with the taps one word later. The zeros around the row
         // make all pairs whole, and the last pair ends with the window of the odd output.
         const std::ptrdiff_t before = taps.words % 2 == 0 ? 1 : 0;
@@ -305,8 +349,8 @@ inline void filterWordsBy(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* d
         tiles<kTileVectors, kVecBytes>(pairs, x, dst, n, finish);
 }
 template <int Parts>
-inline void filterWords(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n,
-                        const Finish& finish) {
+void filterWords(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n,
+                 const Finish& finish) {
     constexpr std::ptrdiff_t smallest = Vec<Vlq16s, 16>::lanes;
     if (n < smallest) {
         for (std::ptrdiff_t i = 0; i < n; i += Parts) {
@@ -322,5 +366,10 @@ inline void filterWords(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst
         filterWordsBy(taps, x, dst, n, finish);
     }
 }
+
+extern template void filterWords(const TapRows<1>&, const Vlq16s*, Vlq16s*, std::ptrdiff_t,
+                                 const Finish&);
+extern template void filterWords(const TapRows<2>&, const Vlq16s*, Vlq16s*, std::ptrdiff_t,
+                                 const Finish&);
 
 }  // namespace vlq::fir::integer

@@ -1,37 +1,40 @@
+// Integer FIR filters, block by block, of one rate or two.
 #include "filter/fir/integer/integer_block.h"
-#include "filter/fir/multirate/integer_multirate_state.h"
 
-namespace fir = vlq::fir::integer;
+#include "filter/fir/integer/multirate/integer_multirate_block.h"
+#include "frame/state/work_buffer.h"
 
 namespace {
+
+using namespace vlq;
+using namespace vlq::fir;
+using namespace vlq::fir::integer;
 
 template <class State>
 VlqStatus filter(const typename State::Sample* src, typename State::Sample* dst, Vlq32s len,
                  State* state, Vlq32s scaleFactor) {
     if (!src || !dst || !state) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    if (!fir::isFilter(*state)) return vlqStsBadSpec;
-    const fir::Finish finish = fir::finishOf(*state, scaleFactor);
-    if (fir::isMultiRate(*state))
-        fir::multiRateBlock(*state, fir::reals(src), fir::reals(dst), len, finish);
+    if (!isFilter(*state)) return vlqStsBadSpec;
+    const Finish finish = finishOf(*state, scaleFactor);
+    if (isMultiRate(*state))
+        multiRateBlock(*state, parts(src), parts(dst), len, finish);
     else
-        fir::block(*state, fir::reals(src), fir::reals(dst), len, finish);
+        block(*state, parts(src), parts(dst), len, finish);
     return vlqStsOk;
 }
 
 // len periods from a copy of their input.
 template <class State>
 VlqStatus multiRateInPlace(typename State::Sample* srcDst, Vlq32s len, State& state,
-                           const fir::Finish& finish) {
-    constexpr int parts = State::kParts;
-    const Vlq64s words = Vlq64s{len} * state.downFactor * parts;
-    Vlq16s* copy = words > std::numeric_limits<Vlq32s>::max() / 2
-                       ? nullptr
-                       : vlq::vlqsMalloc_16s(static_cast<Vlq32s>(words));
-    if (!copy) return vlqStsNoMemory;
-    fir::moveWords(fir::reals(srcDst), copy, words);
-    fir::multiRateBlock(state, copy, fir::reals(srcDst), len, finish);
-    vlq::vlqsFree(copy);
+                           const Finish& finish) {
+    const Vlq64s words = Vlq64s{len} * state.downFactor * kParts<typename State::Sample>;
+    constexpr Vlq64s wordBytes = sizeof(Vlq16s);
+    if (words > kSizeLimit / wordBytes) return vlqStsNoMemory;
+    const WorkBuffer copy(nullptr, words * wordBytes);
+    if (copy.refused()) return vlqStsNoMemory;
+    moveWords(parts(srcDst), copy.as<Vlq16s>(), words);
+    multiRateBlock(state, copy.as<Vlq16s>(), parts(srcDst), len, finish);
     return vlqStsOk;
 }
 
@@ -40,10 +43,10 @@ VlqStatus filterInPlace(typename State::Sample* srcDst, Vlq32s len, State* state
                         Vlq32s scaleFactor) {
     if (!srcDst || !state) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    if (!fir::isFilter(*state)) return vlqStsBadSpec;
-    const fir::Finish finish = fir::finishOf(*state, scaleFactor);
-    if (fir::isMultiRate(*state)) return multiRateInPlace(srcDst, len, *state, finish);
-    fir::blockInPlace(*state, fir::reals(srcDst), len, finish);
+    if (!isFilter(*state)) return vlqStsBadSpec;
+    const Finish finish = finishOf(*state, scaleFactor);
+    if (isMultiRate(*state)) return multiRateInPlace(srcDst, len, *state, finish);
+    blockInPlace(*state, parts(srcDst), len, finish);
     return vlqStsOk;
 }
 

@@ -1,73 +1,82 @@
-// A block of samples through an integer FIR record.
+// A block of samples through a single-rate integer FIR state.
 #pragma once
 
-#include <cstring>
+#include <algorithm>
 
 #include "filter/fir/integer/integer_state.h"
 
 namespace vlq::fir::integer {
 
-// Outputs are scaled by 2^exponent; factors may be anything.
-template <class State>
-Finish finishOf(const State& state, Vlq32s scaleFactor) {
-    return Finish(Vlq64s{state.tapsFactor} - scaleFactor);
-}
-
 // len samples by way of the staging area, which must hold them and the line before them. dst may be
 // src. len counts samples, everything else words.
-template <class ListPart, int Parts>
-void blockStaged(Record<ListPart, Parts>& record, const Vlq16s* src, Vlq16s* dst, Vlq32s len,
-                 const Finish& finish) {
-    const std::ptrdiff_t past = std::ptrdiff_t{record.tapsLen} * Parts,
-                         words = std::ptrdiff_t{len} * Parts;
-    Vlq16s *line = record.dlyLine, *staging = record.blockBuf;
-    moveWords(line + std::ptrdiff_t{record.dlyIndex} * Parts, staging, past);
+template <class State>
+void blockStaged(State& state, const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Finish& finish) {
+    constexpr int count = kParts<typename State::Sample>;
+    const std::ptrdiff_t past = std::ptrdiff_t{state.tapsLen} * count,
+                         words = std::ptrdiff_t{len} * count;
+    Vlq16s *line = state.dlyLine, *staging = state.blockBuf;
+    moveWords(line + std::ptrdiff_t{state.dlyIndex} * count, staging, past);
     moveWords(src, staging + past, words);
     moveWords(staging + words, line, past);
-    record.dlyIndex = 0;
-    filterWords(rowsOf(record), staging + Parts, dst, words, finish);
+    state.dlyIndex = 0;
+    filterWords(rowsOf(state), staging + count, dst, words, finish);
 }
 
-// Only the outputs at the seam of two calls are made from a copy of the samples, in the delay store
-// or in the staging area; the others read src where it lies.
-template <class ListPart, int Parts>
-void block(Record<ListPart, Parts>& record, const Vlq16s* src, Vlq16s* dst, Vlq32s len,
-           const Finish& finish) {
-    const TapRows<Parts> taps = rowsOf(record);
-    const std::ptrdiff_t past = std::ptrdiff_t{record.tapsLen} * Parts;
-    const std::ptrdiff_t words = std::ptrdiff_t{len} * Parts;
-    const std::ptrdiff_t room = std::ptrdiff_t{kBlock} * Parts - past;
-    if (words > record.firstChunk && words <= room)
-        return blockStaged(record, src, dst, len, finish);
+// Up to so many words a copy is cheaper than two runs of the kernel.
+inline constexpr std::ptrdiff_t kStagedWords = 1024;
 
-    Vlq16s* line = record.dlyLine;
-    Vlq16s* window = line + std::ptrdiff_t{record.dlyIndex} * Parts;
-    record.dlyIndex = 0;
-    const std::ptrdiff_t seam = std::min<std::ptrdiff_t>(record.firstChunk, words);
+// The outputs at the seam of two calls are made from a copy of the samples; the others read src
+// where it is, and first: loads of what has just been stored in parts wait for the cache.
+template <class State>
+void block(State& state, const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Finish& finish) {
+    constexpr int count = kParts<typename State::Sample>;
+    constexpr std::ptrdiff_t lanes = Vec<Vlq16s>::lanes;
+    const TapRows<count> taps = rowsOf(state);
+    const std::ptrdiff_t past = std::ptrdiff_t{state.tapsLen} * count,
+                         words = std::ptrdiff_t{len} * count,
+                         room = std::ptrdiff_t{kStaging} * count - past;
+    std::ptrdiff_t seam = (past - count + lanes - 1) / lanes * lanes;
+    const bool isShort = words <= state.firstChunk;
+    if (!isShort && words < std::max(2 * seam, kStagedWords) && words <= room)
+        return blockStaged(state, src, dst, len, finish);
+
+    Vlq16s* const line = state.dlyLine;
+    Vlq16s* window = line + std::ptrdiff_t{state.dlyIndex} * count;
+    state.dlyIndex = 0;
+    if (isShort) {
+        moveWords(src, window + past, words);
+        filterWords(taps, window + count, dst, words, finish);
+        return moveWords(window + words, line, past);
+    }
+    if (seam <= room && seam <= words) {
+        moveWords(window, state.blockBuf, past);
+        window = state.blockBuf;
+    } else {
+        seam = state.firstChunk;  // what the delay store has room for
+    }
     moveWords(src, window + past, seam);
-    filterWords(taps, window + Parts, dst, seam, finish);
-    if (seam == words) return moveWords(window + words, line, past);
+    filterWords(taps, src + seam - past + count, dst + seam, words - seam, finish);
+    if (seam > 0) filterWords(taps, window + count, dst, seam, finish);
     moveWords(src + words - past, line, past);
-    filterWords(taps, src + seam - past + Parts, dst + seam, words - seam, finish);
 }
 
 // In place, in pieces: results go back from the staging area, or with filters that leave it room
 // for half of it samples go there.
-template <class ListPart, int Parts>
-void blockInPlace(Record<ListPart, Parts>& record, Vlq16s* srcDst, Vlq32s len,
-                  const Finish& finish) {
-    const bool staged = record.tapsLen <= kBlock / 2;
-    const Vlq32s longest = staged ? kBlock - record.tapsLen : kBlock;
+template <class State>
+void blockInPlace(State& state, Vlq16s* srcDst, Vlq32s len, const Finish& finish) {
+    const bool staged = state.tapsLen <= kStaging / 2;
+    const Vlq32s longest = staged ? kStaging - state.tapsLen : kStaging;
     while (len > 0) {
         const Vlq32s piece = std::min(len, longest);
+        const std::ptrdiff_t words = std::ptrdiff_t{piece} * kParts<typename State::Sample>;
         if (staged) {
-            blockStaged(record, srcDst, srcDst, piece, finish);
+            blockStaged(state, srcDst, srcDst, piece, finish);
         } else {
-            Vlq16s* staging = record.blockBuf;
-            block(record, srcDst, staging, piece, finish);
-            moveWords(staging, srcDst, std::ptrdiff_t{piece} * Parts);
+            Vlq16s* staging = state.blockBuf;
+            block(state, srcDst, staging, piece, finish);
+            moveWords(staging, srcDst, words);
         }
-        srcDst += std::ptrdiff_t{piece} * Parts;
+        srcDst += words;
         len -= piece;
     }
 }

@@ -1,67 +1,63 @@
-// Integer FIR filters without a record: taps and delay line are the caller's.
+// Integer FIR filters without a state: taps and delay line are the caller's.
+#include "filter/common/delay_line.h"
 #include "filter/fir/integer/integer_block.h"
-
-namespace fir = vlq::fir::integer;
+#include "filter/fir/integer/integer_build.h"
 
 namespace {
 
+using namespace vlq;
+using namespace vlq::fir;
+using namespace vlq::fir::integer;
+
 // ---- a ring of the caller's ---------------------------------------------------------------------
-// tapsLen samples, kept twice over; the window at the index is oldest first. Taps are in natural
-// order, and the sums wrap to 32 bits.
+// Taps are in natural order, and the sums wrap to 32 bits.
 
 template <class Tap>
 Vlq16s filtered(const Vlq16s* window, Vlq16s newest, const Tap* taps, std::ptrdiff_t len,
-                const fir::Finish& finish) {
-    Vlq32s sum = fir::wrappingMultiply(newest, vlq::loadScalar(taps));
+                const Finish& finish) {
+    Vlq32s sum = wrappingMultiply(newest, loadScalar(taps));
     const Tap* tap = taps + len - 1;
     for (std::ptrdiff_t j = 0; j < len - 1; ++j) {
-        sum = fir::wrappingAdd(
-            sum, fir::wrappingMultiply(vlq::loadScalar(window + j), vlq::loadScalar(tap - j)));
+        sum = wrappingAdd(sum, wrappingMultiply(loadScalar(window + j), loadScalar(tap - j)));
     }
     return finish(sum);
 }
 
 Vlq16sc filtered(const Vlq16sc* window, Vlq16sc newest, const Vlq32sc* taps, std::ptrdiff_t len,
-                 const fir::Finish& finish) {
+                 const Finish& finish) {
     Vlq32s re = 0, im = 0;
     auto add = [&](Vlq16sc x, Vlq32sc h) {
-        using fir::wrappingAdd, fir::wrappingMultiply;
         re = wrappingAdd(re, wrappingAdd(wrappingMultiply(x.re, h.re),
                                          wrappingMultiply(wrappingMultiply(x.im, h.im), -1)));
         im = wrappingAdd(im,
                          wrappingAdd(wrappingMultiply(x.re, h.im), wrappingMultiply(x.im, h.re)));
     };
     const Vlq32sc* tap = taps + len - 1;
-    for (std::ptrdiff_t j = 0; j < len - 1; ++j)
-        add(vlq::loadScalar(window + j), vlq::loadScalar(tap - j));
-    add(newest, vlq::loadScalar(taps));
+    for (std::ptrdiff_t j = 0; j < len - 1; ++j) add(loadScalar(window + j), loadScalar(tap - j));
+    add(newest, loadScalar(taps));
     return {finish(re), finish(im)};
 }
 
-// Puts a sample over the oldest one of the window, which then begins one further, and filters.
+// Filters the window that a new sample ends.
 template <class Sample, class Tap>
 Sample step(Sample src, const Tap* taps, Vlq32s tapsLen, Sample* dlyLine, Vlq32s& index,
-            const fir::Finish& finish) {
-    std::memcpy(dlyLine + index, &src, sizeof src);
-    std::memcpy(dlyLine + index + tapsLen, &src, sizeof src);
-    ++index;
-    if (index >= tapsLen) index = 0;
+            const Finish& finish) {
+    index = pushIntoRing(src, dlyLine, tapsLen, index);
     return filtered(dlyLine + index, src, taps, tapsLen, finish);
 }
 
 bool isIndex(Vlq32s index, Vlq32s tapsLen) { return index >= 0 && index < tapsLen; }
 
-// Only the 16-bit form looks at the index.
+// Only the 16-bit variant looks at the index.
 template <bool checksIndex, class Sample, class Tap>
 VlqStatus oneDirect(Sample src, Sample* dst, const Tap* taps, Vlq32s tapsLen, Sample* dlyLine,
                     Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
     if (!taps) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
     if (!dlyLine || !dlyLineIndex) return vlqStsNullPtr;
-    Vlq32s index = vlq::loadScalar(dlyLineIndex);
+    Vlq32s index = loadScalar(dlyLineIndex);
     if (checksIndex && !isIndex(index, tapsLen)) return vlqStsBadDlyIndex;
-    const Sample result =
-        step(src, taps, tapsLen, dlyLine, index, fir::Finish(-Vlq64s{scaleFactor}));
+    const Sample result = step(src, taps, tapsLen, dlyLine, index, Finish(-Vlq64s{scaleFactor}));
     std::memcpy(dst, &result, sizeof result);
     std::memcpy(dlyLineIndex, &index, sizeof index);
     return vlqStsOk;
@@ -76,8 +72,8 @@ template <bool checksIndex, class Sample, class Tap>
 VlqStatus oneDirectInPlace(Sample* srcDst, const Tap* taps, Vlq32s tapsLen, Sample* dlyLine,
                            Vlq32s* dlyLineIndex, Vlq32s scaleFactor) {
     if (!srcDst) return vlqStsNullPtr;
-    return oneDirect<checksIndex>(vlq::loadScalar(srcDst), srcDst, taps, tapsLen, dlyLine,
-                                  dlyLineIndex, scaleFactor);
+    return oneDirect<checksIndex>(loadScalar(srcDst), srcDst, taps, tapsLen, dlyLine, dlyLineIndex,
+                                  scaleFactor);
 }
 
 // dst may be src.
@@ -89,20 +85,27 @@ VlqStatus blockDirect(const Sample* src, Sample* dst, Vlq32s len, const Tap* tap
     if (!taps) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
     if (!dlyLine || !dlyLineIndex) return vlqStsNullPtr;
-    const fir::Finish finish(-Vlq64s{scaleFactor});
-    Vlq32s index = vlq::loadScalar(dlyLineIndex);
+    const Finish finish(-Vlq64s{scaleFactor});
+    Vlq32s index = loadScalar(dlyLineIndex);
     for (Vlq32s i = 0; i < len; ++i) {
-        const Sample result = step(vlq::loadScalar(src + i), taps, tapsLen, dlyLine, index, finish);
+        const Sample result = step(loadScalar(src + i), taps, tapsLen, dlyLine, index, finish);
         std::memcpy(dst + i, &result, sizeof result);
     }
     std::memcpy(dlyLineIndex, &index, sizeof index);
     return vlqStsOk;
 }
 
-// ---- 16-bit taps in units of 2^-15, by a record for the call ------------------------------------
+// ---- 16-bit taps in units of 2^-15, by a state for the call -------------------------------------
 // Here the window at the index is newest first, and comes back so at the start of the line.
 
 constexpr Vlq32s kQ15 = -15;
+
+// As they are, -32768 included.
+struct Q15Taps {
+    void operator()(VlqsFIRState32s_16s& state, const Vlq16s* taps) const {
+        takeTaps(state, taps, Keep{}, kQ15);
+    }
+};
 
 // dst may be src.
 VlqStatus blockQ15(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq16s* taps, Vlq32s tapsLen,
@@ -112,23 +115,19 @@ VlqStatus blockQ15(const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Vlq16s* tap
     if (!taps) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
     if (!dlyLine || !dlyLineIndex) return vlqStsNullPtr;
-    const Vlq32s index = vlq::loadScalar(dlyLineIndex);
+    const Vlq32s index = loadScalar(dlyLineIndex);
     if (!isIndex(index, tapsLen)) return vlqStsBadDlyIndex;
-    auto* record = fir::allocate<vlq::VlqsFIRState32s_16s>(tapsLen);
-    if (!record) return vlqStsNoMemory;
-    fir::writeList(*record, taps, fir::Keep{});
-    fir::writeRows(*record);
-    record->tapsFactor = kQ15;
-    fir::writeDelayLine(*record, dlyLine + index);
-    const fir::Finish finish = fir::finishOf(*record, scaleFactor);
+    VlqsFIRState32s_16s* state = nullptr;
+    const VlqStatus status = buildAllocated(&state, taps, tapsLen, dlyLine + index, Q15Taps{});
+    if (status != vlqStsOk) return status;
+    const Finish finish = finishOf(*state, scaleFactor);
     if (src == dst)
-        fir::blockInPlace(*record, dst, len, finish);
+        blockInPlace(*state, dst, len, finish);
     else
-        fir::block(*record, src, dst, len, finish);
-    fir::readDelayLine(*record, dlyLine);
-    vlq::vlqsFree(record);
-    const Vlq32s start = 0;
-    std::memcpy(dlyLineIndex, &start, sizeof start);
+        block(*state, src, dst, len, finish);
+    readDelayLine(*state, dlyLine);
+    vlqsFree(state);
+    storeScalar(dlyLineIndex, 0);
     return vlqStsOk;
 }
 

@@ -60,7 +60,7 @@ public:
         if (length_ < inTile || room < inTile) {
             periods_ = std::min({inTile, length_, room});
         } else {
-            // Multiples of four tiles, or of two, fill whole vectors of outputs more often than others.
+            // Multiples of four tiles, or of two, fill whole vectors of outputs more often.
             const int tiles = std::min({waiting / f_.up, room, length_}) / inTile;
             periods_ = (tiles >= 4 ? 4 : tiles >= 2 ? 2 : 1) * inTile;
         }
@@ -149,8 +149,8 @@ private:
     };
 
     // K phases with A outputs of each in successive periods, `tiles` times over. The sums of a
-    // phase are stored side by side, those of the next one `outputs` further on. Phases of one newest
-    // sample share loads.
+    // phase are stored side by side, those of the next one `outputs` further on. Phases of one
+    // newest sample share loads.
     template <int K, int A, bool Shared>
     [[gnu::noinline]] static void addTiles(int tiles, const Row* rows, int count,
                                            std::ptrdiff_t step, Sums* sums, int outputs,

@@ -104,12 +104,19 @@ template <class Log, class T, int B>
     return select(x < Vec<T, B>::zero(), splat(Limits::quiet_NaN()), result);
 }
 
-template <class Log, class T, int B>
-inline Vec<T, B> logarithm(Vec<T, B> x) {
-    if (!allPositiveNormal(x)) [[unlikely]]
+template <class Log, class T, int B, class OnSpecial>
+inline Vec<T, B> logarithm(Vec<T, B> x, OnSpecial onSpecial) {
+    if (!allPositiveNormal(x)) [[unlikely]] {
+        onSpecial(x);
         return logOfAny<Log>(x);
+    }
     return Log()(x, Vec<T, B>::broadcast(kExponentBias<T>));
 }
+
+struct Nothing {
+    template <class V>
+    void operator()(V) const {}
+};
 
 }  // namespace detail
 
@@ -117,13 +124,14 @@ inline Vec<T, B> logarithm(Vec<T, B> x) {
 // give themselves.
 // Method: x = 2^k (1 + f), ln(x) = k ln(2) + ln(1 + f), with the product in two parts (Cody and
 // Waite); in double precision the series in f/(2 + f).
-template <class T, int B>
-inline Vec<T, B> ln(Vec<T, B> x) {
-    return detail::logarithm<detail::NaturalLog<T, B>>(x);
+// onSpecial(x) is called where a lane is not a positive, finite and normal number.
+template <class T, int B, class OnSpecial = detail::Nothing>
+inline Vec<T, B> ln(Vec<T, B> x, OnSpecial onSpecial = {}) {
+    return detail::logarithm<detail::NaturalLog<T, B>>(x, onSpecial);
 }
-template <class T, int B>
-inline Vec<T, B> log10(Vec<T, B> x) {
-    return detail::logarithm<detail::DecimalLog<T, B>>(x);
+template <class T, int B, class OnSpecial = detail::Nothing>
+inline Vec<T, B> log10(Vec<T, B> x, OnSpecial onSpecial = {}) {
+    return detail::logarithm<detail::DecimalLog<T, B>>(x, onSpecial);
 }
 
 }  // namespace vlq::math

@@ -1,74 +1,55 @@
-#include "filter/fir/integer/integer_taps.h"
-
-namespace fir = vlq::fir::integer;
+// Multi-rate states of integer FIR filters: size and construction. They are released as
+// single-rate ones.
+#include "filter/fir/integer/integer_build.h"
 
 namespace {
 
-VlqStatus checked(const fir::Rates& rates) {
-    if (rates.upFactor < 1 || rates.downFactor < 1) return vlqStsBadRateFactor;
-    if (rates.upPhase < 0 || rates.upPhase >= rates.upFactor) return vlqStsBadRatePhase;
-    if (rates.downPhase < 0 || rates.downPhase >= rates.downFactor) return vlqStsBadRatePhase;
-    return vlqStsOk;
-}
+using namespace vlq;
+using namespace vlq::fir;
+using namespace vlq::fir::integer;
 
 template <class State>
-VlqStatus stateSize(Vlq32s tapsLen, Vlq32s upFactor, Vlq32s downFactor, Vlq32s* stateBytes) {
-    if (!stateBytes) return vlqStsNullPtr;
+VlqStatus stateSize(Vlq32s tapsLen, Vlq32s up, Vlq32s down, Vlq32s* bytes) {
+    if (!bytes) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
-    if (const VlqStatus status = checked({upFactor, 0, downFactor, 0}); status != vlqStsOk)
-        return status;
-    const fir::Derived numbers{tapsLen, upFactor, downFactor};
-    *stateBytes = vlq::toldSize(fir::multiRateBytes<State>(numbers));
+    if (const VlqStatus status = checkFactors(up, down); status != vlqStsOk) return status;
+    *bytes = reportedSize(multiRateBytes<State>({{tapsLen, up, down}}));
     return vlqStsOk;
 }
 
-// take(state, taps) brings the taps into the record.
-template <class State, class Take>
-void build(State** outState, void* memory, bool owned, const auto* taps, Vlq32s tapsLen,
-           const fir::Rates& rates, const typename State::Sample* dlyLine, Take take) {
-    State* state = fir::layOutMultiRate<State>(memory, tapsLen, rates);
-    state->ownsMemory = owned ? 1 : 0;
-    take(*state, taps);
-    fir::writeDelayLine(*state, fir::reals(dlyLine));
-    *outState = state;
+template <class State, class Tap, class Take>
+VlqStatus buildMultiRate(State** outState, Vlq8u* memory, Vlq64s bytes, const Tap* taps,
+                         Vlq32s tapsLen, const Rates& rates, const typename State::Sample* dlyLine,
+                         Take take) {
+    return initState(outState, TagsOf<State>::kMultiRate, memory, bytes,
+                     [&](State& state, Cursor& cursor) {
+                         layOutMultiRate(state, tapsLen, rates, cursor);
+                         take(state, taps);
+                         writeDelayLine(state, dlyLine);
+                         return vlqStsOk;
+                     });
 }
 
-template <class State, class Take>
-VlqStatus init(State** outState, const auto* taps, Vlq32s tapsLen, const fir::Rates& rates,
+template <class State, class Tap, class Take>
+VlqStatus init(State** outState, const Tap* taps, Vlq32s tapsLen, const Rates& rates,
                const typename State::Sample* dlyLine, Vlq8u* buffer, Take take) {
     if (!outState || !taps || !buffer) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
-    if (const VlqStatus status = checked(rates); status != vlqStsOk) return status;
-    if (!fir::fitsMultiRate<State>({tapsLen, rates.upFactor, rates.downFactor}))
-        return vlqStsNoMemory;
-    build(outState, buffer, false, taps, tapsLen, rates, dlyLine, take);
-    return vlqStsOk;
+    if (const VlqStatus status = checkRates(rates); status != vlqStsOk) return status;
+    const Vlq64s bytes = multiRateBytes<State>({{tapsLen, rates.up, rates.down}});
+    return buildMultiRate(outState, buffer, bytes, taps, tapsLen, rates, dlyLine, take);
 }
-template <class State, class Take>
-VlqStatus initAlloc(State** outState, const auto* taps, Vlq32s tapsLen, const fir::Rates& rates,
+template <class State, class Tap, class Take>
+VlqStatus initAlloc(State** outState, const Tap* taps, Vlq32s tapsLen, const Rates& rates,
                     const typename State::Sample* dlyLine, Take take) {
     if (!outState || !taps) return vlqStsNullPtr;
     if (tapsLen < 1) return vlqStsBadTapCount;
-    if (const VlqStatus status = checked(rates); status != vlqStsOk) return status;
-    const fir::Derived numbers{tapsLen, rates.upFactor, rates.downFactor};
-    if (!fir::fitsMultiRate<State>(numbers)) return vlqStsNoMemory;
-    Vlq8u* memory = vlq::vlqsMalloc_8u(static_cast<Vlq32s>(fir::multiRateBytes<State>(numbers)));
-    if (!memory) return vlqStsNoMemory;
-    build(outState, memory, true, taps, tapsLen, rates, dlyLine, take);
-    return vlqStsOk;
+    if (const VlqStatus status = checkRates(rates); status != vlqStsOk) return status;
+    const Vlq64s bytes = multiRateBytes<State>({{tapsLen, rates.up, rates.down}});
+    return initAllocState(outState, bytes, 0, [&](Vlq8u* memory, Vlq8u*) {
+        return buildMultiRate(outState, memory, bytes, taps, tapsLen, rates, dlyLine, take);
+    });
 }
-
-struct IntegerTaps {
-    Vlq32s tapsFactor;
-    void operator()(auto& state, const auto* taps) const {
-        fir::takeIntegerTaps(state, taps, tapsFactor);
-    }
-};
-struct FloatTaps {
-    void operator()(auto& state, const auto* taps) const {
-        fir::takeFloatTaps(state, taps, fir::kInitLimit);
-    }
-};
 
 }  // namespace
 
@@ -119,14 +100,14 @@ VlqStatus vlq::vlqsFIRMRInit32s_16s32f(VlqsFIRState32s_16s32f** outState, const 
                                        Vlq32s downFactor, Vlq32s downPhase, const Vlq16s* dlyLine,
                                        Vlq8u* buffer) {
     return init(outState, taps, tapsLen, {upFactor, upPhase, downFactor, downPhase}, dlyLine,
-                buffer, FloatTaps{});
+                buffer, kInitFloatTaps);
 }
 VlqStatus vlq::vlqsFIRMRInit32sc_16sc32fc(VlqsFIRState32sc_16sc32fc** outState, const Vlq32fc* taps,
                                           Vlq32s tapsLen, Vlq32s upFactor, Vlq32s upPhase,
                                           Vlq32s downFactor, Vlq32s downPhase,
                                           const Vlq16sc* dlyLine, Vlq8u* buffer) {
     return init(outState, taps, tapsLen, {upFactor, upPhase, downFactor, downPhase}, dlyLine,
-                buffer, FloatTaps{});
+                buffer, kInitFloatTaps);
 }
 
 VlqStatus vlq::vlqsFIRMRInitAlloc_16s(VlqsFIRState_16s** outState, const Vlq16s* taps,
@@ -155,12 +136,12 @@ VlqStatus vlq::vlqsFIRMRInitAlloc32s_16s32f(VlqsFIRState32s_16s32f** outState, c
                                             Vlq32s downFactor, Vlq32s downPhase,
                                             const Vlq16s* dlyLine) {
     return initAlloc(outState, taps, tapsLen, {upFactor, upPhase, downFactor, downPhase}, dlyLine,
-                     FloatTaps{});
+                     kInitFloatTaps);
 }
 VlqStatus vlq::vlqsFIRMRInitAlloc32sc_16sc32fc(VlqsFIRState32sc_16sc32fc** outState,
                                                const Vlq32fc* taps, Vlq32s tapsLen, Vlq32s upFactor,
                                                Vlq32s upPhase, Vlq32s downFactor, Vlq32s downPhase,
                                                const Vlq16sc* dlyLine) {
     return initAlloc(outState, taps, tapsLen, {upFactor, upPhase, downFactor, downPhase}, dlyLine,
-                     FloatTaps{});
+                     kInitFloatTaps);
 }

@@ -11,6 +11,7 @@
 
 #include "filter/fir/integer/fir_integer_kernels.h"
 #include "frame/simd/transpose.h"
+#include "frame/state/state.h"
 
 namespace vlq::fir::integer {
 
@@ -22,9 +23,13 @@ struct RowPair {
     Vlq32s lead, trail;
 };
 
-// The table of row pairs stands behind this.
+// The table of row pairs follows this.
 struct PhaseTable {
     Vlq32s streamStride;
+    // For few periods: phase_rows.h, or phase_lanes.h where there are patterns.
+    RelPtr<Vlq32s> starts;
+    RelPtr<Vlq16s> taps;
+    RelPtr<Vlq16s> patterns;
 
     RowPair* rowPairs() { return reinterpret_cast<RowPair*>(this + 1); }
     const RowPair* rowPairs() const { return reinterpret_cast<const RowPair*>(this + 1); }
@@ -45,30 +50,6 @@ struct Cycle {
     }
     std::ptrdiff_t reachedCycles() const { return reach / (2 * inputs); }
 };
-
-// ---- few cycles ---------------------------------------------------------------------------------
-
-// The outputs of one period of a real filter, or of a complex one, from its own windows. What lies
-// behind the period is not read; there the taps are zeros.
-template <int Parts>
-inline void onePeriod(const Cycle& cycle, const Vlq16s* x, std::ptrdiff_t inputWords, Vlq16s* dst,
-                      std::ptrdiff_t outputWords, const Finish& finish) {
-    for (std::ptrdiff_t i = 0; i < outputWords; i += 2) {
-        const RowPair& taps = cycle.rowPairs[i / 2];
-        const std::ptrdiff_t start = 2 * std::ptrdiff_t{taps.start} - cycle.reach;
-        const std::ptrdiff_t words =
-            std::min<std::ptrdiff_t>(2 * std::ptrdiff_t{taps.pairs}, inputWords - start);
-        const Vlq16s *first = cycle.row(i / 2, 0), *second = cycle.row(i / 2, 1);
-        if (Parts == 2 || i + 1 < outputWords) {
-            const auto sums = dots<2>(x + start, {first, second}, words);
-            const Vlq16s results[2] = {finish(sums.of[0]), finish(sums.of[1])};
-            std::memcpy(dst + i, results, sizeof results);
-        } else {
-            const Vlq16s result = finish(dots<1>(x + start, {first}, words).of[0]);
-            std::memcpy(dst + i, &result, sizeof result);
-        }
-    }
-}
 
 // ---- streams ------------------------------------------------------------------------------------
 
@@ -231,7 +212,7 @@ inline void cycleTile(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const F&
         const Vlq16s *first = cycle.row(e, 0), *second = cycle.row(e, 1);
         Vlq16s* column = width == 1 ? dst : waiting[e % kWaiting];
         if (cycle.inputs == 1) {
-            tile<A, B>({first, second, 2 * std::ptrdiff_t{taps.pairs}},
+            tile<A, B>(first, second, 2 * std::ptrdiff_t{taps.pairs},
                        x + 2 * std::ptrdiff_t{taps.start}, column, finish);
         } else {
             streamTile<A, B>(taps, first, second, x, cycle.inputs, cycle.streamStride, column,
