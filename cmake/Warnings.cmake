@@ -7,7 +7,7 @@ target_compile_options(vlqs_flags INTERFACE
   $<$<BOOL:${VLQS_WERROR}>:-Werror>)
 if(VLQS_SANITIZE)
   target_compile_options(vlqs_flags INTERFACE
-    -fsanitize=${VLQS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -g)
+    -fsanitize=${VLQS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
   target_link_options(vlqs_flags INTERFACE -fsanitize=${VLQS_SANITIZE})
   # Blocks of any length go to a team, see src/frame/team.h.
   target_compile_definitions(vlqs_flags INTERFACE VLQS_EAGER_TEAMS)

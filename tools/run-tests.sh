@@ -1,18 +1,19 @@
 #!/usr/bin/env bash
 # Builds and runs the tests, and ends with the line "N passed, N failed".
 #
-#   layers     rules of the source that no compiler checks
-#   release    every test program on every build that this processor supports, GCC
-#   clang      the same test programs on the baseline build as Clang compiles it
-#   sanitize   and as GCC compiles it with the address and undefined-behaviour sanitizers
-#   install    the installed package as its users see it
-#   names      every exported name is called by a test
+#   layers        rules of the source that no compiler checks
+#   release       every test program on every build that this processor supports, GCC
+#   clang         the same test programs on the baseline build as Clang compiles it
+#   sanitize      and with the address and undefined-behaviour sanitizers of GCC, the smallest sweeps
+#   install       the installed package as its users see it
+#   names         every exported name is called by a test
 # and those that take longer, in `all` alone:
-#   clang-all  the test programs on the other two builds as Clang compiles them
-#   tsan       the threaded paths under the thread sanitizer, with a negative control
-#   full       the release stage with the complete random sets
+#   clang-all     the test programs on the other two builds as Clang compiles them
+#   sanitize-all  the sanitize stage with the usual sweeps
+#   tsan          the threaded paths under the thread sanitizer, with a negative control
+#   full          the release stage with the complete random sets
 # and for a developer's loop:
-#   quick      the baseline build alone, every test in its smallest sweep
+#   quick         the baseline build alone, every test in its smallest sweep
 #
 # Usage: tools/run-tests.sh [all | stage...]; the first group without arguments.
 set -u
@@ -20,7 +21,7 @@ cd "$(dirname "$0")/.." || exit 1
 repo=$PWD
 usual="layers release clang sanitize install names"
 stages=${*:-$usual}
-[ "$stages" != all ] || stages="$usual clang-all tsan full"
+[ "$stages" != all ] || stages="$usual tsan full clang-all sanitize-all"
 jobs=$(nproc)
 # The builds have their own number of jobs, whatever `make` was called with.
 unset MAKEFLAGS MFLAGS MAKELEVEL
@@ -96,7 +97,7 @@ run_programs() {  # run_programs LABEL LIBRARY-FOLDER TAG...
     while read -r good bad; do
         record "$good" "$bad"
         count=$((count + good + bad))
-    done < <(cat "$logs/$label"-*.counts)
+    done < <(for tag; do cat "$logs/$label-$tag"-*.counts; done)
     echo "$count tests"
 }
 
@@ -111,13 +112,13 @@ run_script() {  # run_script COMMAND...: counts its lines "[ PASS ] ..." and "[ 
     record "$good" "$bad"
 }
 
-run_sanitized() {
+run_sanitized() {  # run_sanitized LABEL
+    local preload
     export ASAN_OPTIONS=allocator_may_return_null=1 UBSAN_OPTIONS=print_stacktrace=1
     # The programs are not instrumented: the sanitizer's runtime comes first all the same.
     preload=$(gcc -print-file-name=libasan.so)
     export preload
-    run_programs sanitize build/sanitize/lib s2
-    unset preload
+    run_programs "$1" build/sanitize/lib s2
 }
 
 run_stage() {
@@ -125,10 +126,11 @@ run_stage() {
         layers) run_script tests/layers/run.sh "$repo" ;;
         release) build release all && run_programs release build/release/lib $supported ;;
         clang) build release all && build clang vlqs vlqcore && run_programs clang build/clang/lib s2 ;;
-        sanitize) build release all && build sanitize vlqs vlqcore && run_sanitized ;;
+        sanitize) build release all && build sanitize vlqs vlqcore && VLQS_QUICK=1 run_sanitized sanitize ;;
         install) build release all && run_script tests/install/run.sh "$repo" "$repo/build/release" ;;
         names) build release all && run_script tests/names/run.sh "$repo" "$repo/build/release" ;;
         clang-all) build release all && build clang all && run_programs clang-all build/clang/lib ${supported#s2} ;;
+        sanitize-all) build release all && build sanitize vlqs vlqcore && run_sanitized sanitize-all ;;
         tsan) run_script tests/tsan/run.sh "$repo" "$repo/build/tsan" ;;
         full) build release all && VLQS_FULL=1 run_programs full build/release/lib $supported ;;
         quick) build release quick && VLQS_QUICK=1 run_programs quick build/release/lib s2 ;;

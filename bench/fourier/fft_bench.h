@@ -35,7 +35,8 @@ Value* zeros(int n) {
 inline unsigned planEffort(int order) { return order > 20 ? FFTW_ESTIMATE : FFTW_MEASURE; }
 inline const char* planRemark(int order) { return order > 20 ? ", estimated plan" : ""; }
 
-// addOrder(order, bar) for every bar; FFT_ORDERS=from-to in the environment takes some of the orders.
+// addOrder(order, bar) for every bar; FFT_ORDERS=from-to in the environment takes some of the
+// orders.
 template <class Bars, class Add>
 void eachOrder(const Bars& bars, Add addOrder) {
     fftwf_set_timelimit(20);

@@ -57,8 +57,8 @@ template <class T>
     }
     b[len - 1] *= a[len - 1];
 }
-// All len bins from the half that is stored: bin 1 is at src[first], the real bin at half the rate at
-// src[halfRate].
+// All len bins from the half that is stored: bin 1 is at src[first], the real bin at half the rate
+// at src[halfRate].
 template <class T>
 [[gnu::noinline]] void plainExpand(const T* __restrict src, T* __restrict dst, int len, int first,
                                    int halfRate) {

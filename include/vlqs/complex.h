@@ -110,9 +110,11 @@ VlqStatus vlqsAbs_64f_I(Vlq64f* srcDst, Vlq32s len);
  * @ingroup vlqs_complex
  *
  * `re^2 + im^2`. vlqsPowerSpectr computes floats in their own precision, with one rounding an
- * operation, so squares may overflow or vanish; 16-bit samples to floats, and vlqsMagSquared_32fc64f(),
- * round once. `_Sfs` multiplies by 2^-scaleFactor, rounds to the nearest integer with ties to even,
- * and saturates; every scale factor is legal. vlqsMagSquared_32sc32s_Sfs() computes in doubles for
+ * operation, so squares may overflow or vanish; 16-bit samples to floats are rounded once, and so
+ * are the results of vlqsMagSquared_32fc64f().
+ *
+ * `_Sfs` multiplies by 2^-scaleFactor, rounds to the nearest integer with ties to even, and
+ * saturates; every scale factor is legal. vlqsMagSquared_32sc32s_Sfs() computes in doubles for
  * scale factors from -30 to 63; below, everything but 0 saturates, above, everything is 0.
  *
  * **Shapes.** All vectors have @p len elements and any alignment. @p dst may equal a source of the
@@ -164,11 +166,11 @@ VlqStatus vlqsPowerSpectr_16sc_Sfs(const Vlq16sc* src, Vlq16s* dst, Vlq32s len, 
  * The magnitude is `sqrt(re^2 + im^2)`, the phase `atan2(im, re)` in radians from -pi to pi, 0 at
  * the origin; and back, `re = magn cos(phase)` and `im = magn sin(phase)`.
  *
- * Float magnitudes are within 1 ulp, phases within 2 ulp, sines and cosines within 2 ulp of the
- * magnitude's product with them, for phases of any size. No finite sample overflows on the way to a
+ * Float magnitudes are within 1 ulp, phases within 2 ulp, and the sines and cosines of phases of
+ * any size within 2 ulp before they are multiplied. No finite sample overflows on the way to a
  * magnitude that has a representation. Infinities, NaN and signed zeros are treated as by the C
- * functions hypot, atan2, sin and cos: the magnitude of an infinite part is infinite even beside NaN,
- * and a zero of either sign has the phase of its direction.
+ * functions hypot, atan2, sin and cos: the magnitude of an infinite part is infinite even beside
+ * NaN, and the phase of (-0, 0) is pi.
  *
  * `_Sfs` multiplies by 2^-scaleFactor, rounds to the nearest integer with ties to even, and
  * saturates; every scale factor is legal. Magnitudes are rounded exactly; phases, sines and cosines

@@ -65,7 +65,7 @@ private:
     }
 };
 
-// Each value is brought to a magnitude of 2 to 4 by a power of two. The powers are undone at the
+// Each value is scaled to a magnitude of 2 to 4 by a power of two. The powers are undone at the
 // end in two steps, so that no intermediate result is out of range where the result is not.
 class ScaledQuotient64fc {
 public:
@@ -154,7 +154,7 @@ struct TimesReciprocal64fc {
     }
 };
 
-// ---- zero divisors of real quotients --------------------------------------------------------------
+// ---- zero divisors of real quotients ------------------------------------------------------------
 // dst[i] = op(divisor[i], ...). Returns whether any divisor is 0.
 template <class T, class Op, class... S>
 inline bool mapQuotients(T* dst, std::ptrdiff_t len, Op op, const S*... src) {

@@ -1,6 +1,6 @@
-// Phases of integers, sines and cosines of fixed-point phases. Unlike the elementary functions that
-// they resemble, they have the same bits in every build: no operation is fused, so that the integers
-// rounded from them are the same as well.
+// Phases of integers, sines and cosines of fixed-point phases. Unlike the elementary functions
+// that they resemble, they have the same bits in every build: no operation is fused, so that the
+// integers rounded from them are the same as well.
 #pragma once
 
 #include "frame/simd/math/atan.h"
@@ -55,8 +55,8 @@ inline Vec<double> integerPhase(Vec<double> re, Vec<double> im) {
 inline math::SinCos<double, kVecBytes> fixedPointSinCos(Vec<double> x) {
     using V = Vec<double>;
     using C = math::SinCosConstants<double>;
-    // pi/2 in parts of 21 bits, whose products with 32-bit integers and whose differences are exact,
-    // and a last one.
+    // pi/2 in parts of 21 bits, whose products with 32-bit integers and whose differences are
+    // exact, and a last one.
     constexpr double halfPi[] = {0x1.921fbp0, 0x1.5110bp-22, 0x1.184690p-44, 0x1.13198a2e03707p-65};
     constexpr double limit = 0x1p31;
     constexpr int lanes = V::lanes;
@@ -83,7 +83,8 @@ inline math::SinCos<double, kVecBytes> fixedPointSinCos(Vec<double> x) {
     const auto sine = rest + rest * r2 * detail::unfusedPolynomial(r2, C::s);
     const auto cosine = (V::broadcast(1.0) - V::broadcast(0.5) * r2) +
                         r2 * r2 * detail::unfusedPolynomial(r2, C::c);
-    // Bit 0 of the quadrant swaps the functions, bit 1 is the sine's sign, bit 0 ^ bit 1 the cosine's.
+    // Bit 0 of the quadrant swaps the functions, bit 1 is the sine's sign, bit 0 ^ bit 1 the
+    // cosine's.
     const auto swap = shiftLeft(quadrant, 63), turn = shiftLeft(quadrant, 62);
     const auto isOdd = signMask(swap);
     return {select(isOdd, cosine, sine) ^ signBit(bitCast<double>(turn)),

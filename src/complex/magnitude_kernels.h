@@ -97,8 +97,8 @@ private:
 // ---- 32-bit parts -------------------------------------------------------------------------------
 __extension__ typedef unsigned __int128 Wide;
 
-// Doubles are precise enough for all results but those next to a value halfway between two integers,
-// which are decided by their squares.
+// Doubles are precise enough for all results but those next to a value halfway between two
+// integers, which are decided by their squares.
 class Magnitude32 {
 public:
     // -40 <= scaleFactor <= 40

@@ -1,5 +1,5 @@
-// Filtering by transforms: circular convolution of N elements with a fixed impulse response, for the
-// library's own use.
+// Filtering by transforms: circular convolution of N elements with a fixed impulse response, for
+// the library's own use.
 #pragma once
 
 #include "vlqs/fft.h"

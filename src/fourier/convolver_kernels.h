@@ -14,9 +14,9 @@
 namespace vlq::fft {
 
 // The factors 2/N s and 2/N d from a spectrum in Perm layout; scale = 1/N, so that the inverse
-// transform need not be scaled. A block is one vector each of Re s, Im s, Re d, Im d for consecutive
-// k from 1 to H/2, in the lane order of loadSplit. At H/2, the last lane, s is real and d imaginary;
-// the unused two elements hold the factors of value 0, both real.
+// transform need not be scaled. A block is one vector each of Re s, Im s, Re d, Im d for
+// consecutive k from 1 to H/2, in the lane order of loadSplit. At H/2, the last lane, s is real and
+// d imaginary; the unused two elements hold the factors of value 0, both real.
 template <class T>
 inline void filterFactors(int order, T scale, const T* perm, T* factors) {
     constexpr int lanes = Vec<T>::lanes;
@@ -46,7 +46,8 @@ struct FilterFactors {
           d{loadAligned<T>(f + 2 * Vec<T>::lanes), loadAligned<T>(f + 3 * Vec<T>::lanes)} {}
 };
 
-// a: values k, b: values H-k, lane by lane; both are replaced by their results. angles: cos t, -sin t.
+// a: values k, b: values H-k, lane by lane; both are replaced by their results. The angles are cos
+// t and -sin t.
 template <class T>
 [[gnu::always_inline]] inline void filterStep(Split<T, kVecBytes>& a, Split<T, kVecBytes>& b,
                                               FilterFactors<T> f, const T* angles) {

@@ -1,6 +1,6 @@
-// Fixed-point FFT: 16-bit samples of short transforms in integers, all others in floating point. The
-// work buffer then holds the work area of the floating transform, which is aligned, and after it the
-// values.
+// Fixed-point FFT: 16-bit samples of short transforms in integers, all others in floating point.
+// The work buffer then holds the work area of the floating transform, which is aligned, and after
+// it the values.
 #include "fourier/fixed_kinds.h"
 #include "fourier/kernel/complex_transform.h"
 #include "fourier/kernel/fixed.h"
@@ -11,11 +11,11 @@ namespace {
 using namespace vlq;
 using namespace vlq::fft;
 
-// Every kind needs a work buffer from order 1 on. At the largest orders its size, stored in 32 bits,
-// wraps to a negative number: there is no such buffer.
+// Every kind needs a work buffer from order 1 on. At the largest orders its size, stored in 32
+// bits, wraps to a negative number: there is no such buffer.
 bool isMissing(const WorkBuffer& work) { return !work.data(); }
 
-// ---- in floating point ---------------------------------------------------------------------------
+// ---- in floating point --------------------------------------------------------------------------
 void toFloat(const Vlq16s* src, Vlq32f* dst, Vlq32s len) { vlqsConvert_16s32f(src, dst, len); }
 void toFloat(const Vlq32s* src, Vlq32f* dst, Vlq32s len) { vlqsConvert_32s32f(src, dst, len); }
 void toFloat(const Vlq32s* src, Vlq64f* dst, Vlq32s len) { vlqsConvert_32s64f(src, dst, len); }
@@ -69,7 +69,7 @@ VlqStatus splitThroughFloats(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
     return vlqStsOk;
 }
 
-// ---- in integers ---------------------------------------------------------------------------------
+// ---- in integers --------------------------------------------------------------------------------
 // The shift of a result to the right, and a result before the shift.
 template <Direction direction>
 Vlq64s shiftOf(const auto& spec, Vlq32s scaleFactor) {
@@ -127,7 +127,7 @@ void realInIntegers(const Vlq16s* src, Vlq16s* dst, const VlqsFFTSpec_R_16s& spe
     }
 }
 
-// ---- any kind ------------------------------------------------------------------------------------
+// ---- any kind -----------------------------------------------------------------------------------
 template <class Kind, Direction direction, class Complex>
 VlqStatus interleaved(const Complex* src, Complex* dst, const typename Kind::Spec* spec,
                       Vlq32s scaleFactor, Vlq8u* buf) {

@@ -24,7 +24,7 @@ struct RealKind {
 using R_32f = RealKind<VlqsFFTSpec_R_32f, Vlq32f>;
 using R_64f = RealKind<VlqsFFTSpec_R_64f, Vlq64f>;
 
-// ---- up to 16 points: scalar ---------------------------------------------------------------------
+// ---- up to 16 points: scalar --------------------------------------------------------------------
 template <Direction direction, Layout layout, int order, class T>
 void scalarTransform(const FloatSpec<T>& spec, const T* src, T* dst) {
     constexpr bool forward = direction == Direction::forward;
@@ -44,7 +44,7 @@ void scalarTransform(const FloatSpec<T>& spec, const T* src, T* dst) {
     if constexpr (forward) permToLayout<layout>(dst, n);
 }
 
-// ---- 32 and 64 points: vectors in registers ------------------------------------------------------
+// ---- 32 and 64 points: vectors in registers -----------------------------------------------------
 template <Direction direction, int order, bool scaled, class T>
 void vectorTransform(const FloatSpec<T>& spec, const T* src, T* dst) {
     // Split vectors need the fewest operations but a table, which the spec of double precision
@@ -84,7 +84,7 @@ void shortTransform(const FloatSpec<T>& spec, const T* src, T* dst) {
     }
 }
 
-// ---- beyond: complex transform and recombination -------------------------------------------------
+// ---- beyond: complex transform and recombination ------------------------------------------------
 // Values 1 to N/2 - 1; src1 and dst1 point at value 1 and may be equal.
 template <Direction direction, class T>
 void recombine(const FloatSpec<T>& spec, const T* src1, T* dst1) {

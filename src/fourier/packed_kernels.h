@@ -1,5 +1,6 @@
 // Products of packed spectra, and their expansion to all complex values. A spectrum of len real
-// samples in Pack, Perm or CCS layout (kernel/layouts.h); odd lengths have no value at half the rate.
+// samples in Pack, Perm or CCS layout (kernel/layouts.h); odd lengths have no value at half the
+// rate.
 #pragma once
 
 #include <algorithm>
@@ -60,8 +61,8 @@ inline std::ptrdiff_t multiplyVectors(const T* a, const T* b, T* dst, std::ptrdi
     return i;
 }
 
-// `pairs` complex values, interleaved; dst may be a or b. In vectors to the last value: GCC 12 turns
-// the scalar code into a fused multiply-add-subtract in spite of -ffp-contract=off.
+// `pairs` complex values, interleaved; dst may be a or b. In vectors to the last value: GCC 12
+// turns the scalar code into a fused multiply-add-subtract in spite of -ffp-contract=off.
 template <class T, class Op>
 inline void multiplyPairs(const T* a, const T* b, T* dst, std::ptrdiff_t pairs, Op op) {
     constexpr int lanes = Split<T, 16>::lanes;
@@ -74,7 +75,8 @@ inline void multiplyPairs(const T* a, const T* b, T* dst, std::ptrdiff_t pairs, 
         std::memcpy(dst, product, bytes);
         return;
     }
-    // The last vector overlaps the one before; it is read before dst, possibly a source, is written.
+    // The last vector overlaps the one before; it is read before dst, possibly a source, is
+    // written.
     const std::ptrdiff_t last = 2 * (pairs - lanes);
     const auto ending = multiplySplit<16>(a + last, b + last, op);
     std::ptrdiff_t i = multiplyVectors<kVecBytes>(a, b, dst, 0, pairs, op);
@@ -97,8 +99,9 @@ inline void multiplyPerm(const T* a, const T* b, T* dst, std::ptrdiff_t len, Op 
     T real[2] = {};
     multiplyReal(a, b, &real[0]);
     if (len % 2 == 0) {
-        // The real terms go through the loop as a pair and are replaced after it: so its vectors have
-        // the boundaries of those that a transform has stored, and each load waits for one store.
+        // The real terms go through the loop as a pair and are replaced after it: so its vectors
+        // have the boundaries of those that a transform has stored, and each load waits for one
+        // store.
         multiplyReal(a + 1, b + 1, &real[1]);
         multiplyPairs(a, b, dst, len / 2, op);
         std::memcpy(dst, real, sizeof real);
@@ -173,8 +176,8 @@ inline Vec<T> conjugated(Vec<T> values) {
     }
 }
 
-// Values k and, conjugated, len - k for k = 1 to `pairs`; src points at value 1. From the end to the
-// front, so that src may be the front of dst.
+// Values k and, conjugated, len - k for k = 1 to `pairs`; src points at value 1. From the end to
+// the front, so that src may be the front of dst.
 template <class T>
 inline void expandPairs(const T* src, T* dst, std::ptrdiff_t pairs, std::ptrdiff_t len) {
     constexpr int lanes = Vec<T>::lanes / 2;
@@ -201,8 +204,8 @@ inline void putReal(T* dst, std::ptrdiff_t k, const T* term) {
     std::memcpy(dst + 2 * k, value, sizeof value);
 }
 
-// All len values from each layout; src may be the front of dst. Of an even length the middle value is
-// written first, to an element beyond the input, and value 0 last, over the first pair.
+// All len values from each layout; src may be the front of dst. Of an even length the middle value
+// is written first, to an element beyond the input, and value 0 last, over the first pair.
 template <class T>
 inline void expandPack(const T* src, T* dst, std::ptrdiff_t len) {
     if (len % 2 == 0) putReal(dst, len / 2, src + len - 1);

@@ -11,11 +11,11 @@ namespace vlq {
 // Threads beyond this many are not started.
 inline constexpr Vlq32s kLargestTeam = 64;
 
-// Work that a thread must have for its start to pay. Starting a thread and waiting for its end takes
-// 25 microseconds on an idle machine and 110 to 170 on a busy one, and its share of the vectors is
-// in another processor's cache. With this much work a team of two gains on the former and does not
-// lose on the latter. Builds with a sanitizer start every thread that is allowed, so that short
-// vectors test them.
+// Work that a thread must have for its start to pay. Starting a thread and waiting for its end
+// takes 25 microseconds on an idle machine and 110 to 170 on a busy one, and its share of the
+// vectors is in another processor's cache. With this much work a team of two gains on the former
+// and does not lose on the latter. Builds with a sanitizer start every thread that is allowed, so
+// that short vectors test them.
 #if defined(VLQS_EAGER_TEAMS)
 inline constexpr double kNanosecondsPerThread = 1;
 #else

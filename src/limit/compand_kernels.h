@@ -142,9 +142,9 @@ struct DecodeToFloat {
 };
 
 // ---- from one law to the other ------------------------------------------------------------------
-// G.711 pairs the output values of the two laws by number (its tables 3 and 4), here both from 0 on;
-// a code carries the number under the law's inversion of bits, and its sign. The pairs are runs in
-// which either a value of the one law meets a value of the other, or two values meet one.
+// G.711 pairs the output values of the two laws by number (its tables 3 and 4), here both from 0
+// on; a code carries the number under the law's inversion of bits, and its sign. The pairs are runs
+// in which either a value of the one law meets a value of the other, or two values meet one.
 
 constexpr int aLawNumber(int mu) {
     if (mu < 16) return mu / 2;

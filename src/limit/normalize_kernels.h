@@ -18,8 +18,8 @@ struct SubtractMultiply {
     Vec<T> operator()(Vec<T> x) const { return (x - subtrahend) * Vec<T>::broadcast(reciprocal); }
 };
 
-// Products rounded to the nearest integer, ties to even, and saturated. The difference of two 16-bit
-// integers is exact as a float.
+// Products rounded to the nearest integer, ties to even, and saturated. The difference of two
+// 16-bit integers is exact as a float.
 class ScaledIntegers {
 public:
     // Subtrahends of the elements with even and with odd numbers.

@@ -27,8 +27,8 @@ inline auto isBeyond(V v, V level) {
 }
 
 // ---- real elements ------------------------------------------------------------------------------
-// level op x ? level : x, which the minimum and maximum of the processor compute for floats, NaN and
-// zeros of both signs included.
+// level op x ? level : x, which the minimum and maximum of the processor compute for floats, NaN
+// and zeros of both signs included.
 template <Side side, class T>
 struct Clamp {
     T level;
@@ -182,7 +182,8 @@ inline Vec<float> onDoubles(Vec<float> x, const Op& op) {
 }
 
 // Most vectors of a limiter have nothing to limit: squares in the precision of the elements say so,
-// with a margin for their rounding, where neither they nor that of the level leave the normal range.
+// with a margin for their rounding, where neither they nor that of the level leave the normal
+// range.
 template <Side side, class T>
 class Untouched {
 public:

@@ -112,7 +112,7 @@ public:
 
     explicit ExpRow(std::int32_t scaleFactor)
         : first_(static_cast<std::int64_t>(
-                     std::floor((double{scaleFactor} - 1) * 0.69314718055994531)) -
+                     std::floor((static_cast<double>(scaleFactor) - 1) * 0.69314718055994531)) -
                  1) {
         WideFloat v = powerOfE(first_);
         for (T& value : values_) {

@@ -1,5 +1,5 @@
-// Magnitudes, phases and the way back by their definitions, one element at a time: integers exactly,
-// floats in extended precision.
+// Magnitudes, phases and the way back by their definitions, one element at a time: integers
+// exactly, floats in extended precision.
 #pragma once
 
 #include <cmath>
@@ -55,7 +55,7 @@ inline std::int64_t scaledRootRef(std::uint64_t squared, std::int64_t scaleFacto
     return low < high ? low : high;
 }
 
-// round(value), or nothing where the value is too near a tie to say: within `margin` of it.
+// clamp(round(value), low, high), the value itself being known within a margin.
 struct Rounded {
     long double value;
     std::int64_t low, high;
@@ -65,7 +65,7 @@ struct Rounded {
             if (v <= static_cast<long double>(low)) return low;
             return static_cast<std::int64_t>(std::nearbyint(v));
         };
-        return got == clamp(value - margin) || got == clamp(value + margin);
+        return clamp(value - margin) <= got && got <= clamp(value + margin);
     }
 };
 

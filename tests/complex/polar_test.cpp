@@ -2,6 +2,7 @@
 // all lengths and alignments, in place, statuses.
 #include "complex/polar_ref.h"
 
+#include "harness/effort.h"
 #include "vlqs/complex.h"
 
 namespace {

@@ -46,7 +46,8 @@ struct Double {
     static constexpr double eightPoint = 0.70710678118654752440;
 };
 
-// The data of both kinds. Vectors hold whole values, or the real parts and then the imaginary parts.
+// The data of both kinds. Vectors hold whole values, or the real parts and then the imaginary
+// parts.
 template <class T>
 struct InterleavedData {
     static std::vector<T> fromParts(const std::vector<T>& parts) {

@@ -508,8 +508,8 @@ TEST(FftFixedScale, ShiftsOfMoreThan31Are31) {
     }
 }
 
-// Past the range of the floating type the scale is infinite, and infinity times 0 is stored as the
-// conversions store what is not a number.
+// Beyond the range of the floating type the scale is infinite, and infinity times 0 is stored as
+// the conversions store what is not a number.
 TEST(FftFixedScale, ZerosOf16BitsUnderAnInfiniteScale) {
     const Plan<R_16s> plan(5, vlqNormNone);
     Vlq16s x[32] = {100}, y[34];

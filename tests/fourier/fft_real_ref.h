@@ -1,5 +1,5 @@
-// Plain references of the real FFT: spectra in extended precision in each layout, and the sizes of a
-// spec from their formulas.
+// Plain references of the real FFT: spectra in extended precision in each layout, and the sizes of
+// a spec from their formulas.
 #pragma once
 
 #include "fourier/fft_complex_ref.h"
@@ -13,8 +13,8 @@ inline std::size_t layoutSize(Layout layout, std::size_t n) {
     return layout != Layout::ccs ? n : n > 1 ? n + 2 : 2;
 }
 
-// Index of the real part of spectrum value k of n points, for k up to n / 2; the imaginary part, where
-// it is stored, follows.
+// Index of the real part of spectrum value k of n points, for k up to n / 2; the imaginary part,
+// where it is stored, follows.
 inline std::size_t indexOf(Layout layout, std::size_t k, std::size_t n) {
     if (layout == Layout::ccs) return 2 * k;
     if (k == 0) return 0;
@@ -60,7 +60,8 @@ inline std::vector<long double> realSignal(const std::vector<long double>& y, La
     return x;
 }
 
-// Sizes of a real spec: those of the complex one of half the length and of the recombination tables.
+// Sizes of a real spec: those of the complex one of half the length and of the recombination
+// tables.
 inline Sizes realSizes(std::size_t element, int order) {
     const bool single = element == 4;
     if (order <= (single ? 4 : 5)) return {single ? 148 : 152, 0, 0};

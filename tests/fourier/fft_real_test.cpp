@@ -1,5 +1,5 @@
-// Real FFT in floating point against its definition, in all layouts: values, normalization, placement,
-// planning and checks.
+// Real FFT in floating point against its definition, in all layouts: values, normalization,
+// placement, planning and checks.
 #include "fourier/fft_real_ref.h"
 
 #include <array>

@@ -10,7 +10,8 @@ namespace {
 
 using namespace vlqtest;
 
-// To the bit, but all NaNs are equal: which operand's payload a sum keeps is the processor's choice.
+// To the bit, but all NaNs are equal: which operand's payload a sum keeps is the processor's
+// choice.
 template <class T>
 void quietPayloads(std::vector<T>& values) {
     for (T& v : values) {

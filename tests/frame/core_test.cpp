@@ -60,8 +60,8 @@ Vlq32s processors() {
     return sched_getaffinity(0, sizeof set, &set) == 0 ? CPU_COUNT(&set) : 1;
 }
 
-// The count of a core library that is loaded now, and so reads the environment of now: a copy, since
-// the library itself is loaded already.
+// The count of a core library that is loaded now, and so reads the environment of now: a copy,
+// since the library itself is loaded already.
 Vlq32s countAtLoad() {
     namespace fs = std::filesystem;
     Dl_info info;

@@ -42,7 +42,13 @@ bool isOptional(const Signature& s, const Parameter& p) {
         return p.name == "dlyLine" && !contains(s.name, "GetDlyLine") &&
                !contains(s.name, "_Direct");
     }
-    return false;
+    // Either part of a join, but not both.
+    return startsWith(s.name, "vlqsRealToCplx") && (p.name == "srcRe" || p.name == "srcIm");
+}
+
+// What is looked at only when the first one of two steps has given its results.
+bool isTestedLate(const Signature& s, const Parameter& p) {
+    return s.name == "vlqsCartToPolar_16sc_Sfs" && p.name == "dstPhase";
 }
 
 // The complex element-wise forms of these families hand over to their real twins with twice the
@@ -124,7 +130,7 @@ TEST(EveryFunction, NullPointers) {
     for (const Signature& s : signatures()) {
         for (std::size_t i = 0; i < s.parameters.size(); ++i) {
             const Parameter& p = s.parameters[i];
-            if (!p.isPointer() || isOptional(s, p)) continue;
+            if (!p.isPointer() || isOptional(s, p) || isTestedLate(s, p)) continue;
             // A transform looks at its record first and takes memory without a record for dead.
             const bool dataOfTransform = isTransform(s) && !isRecord(p) && !isConstRecord(p);
             Call call(s);

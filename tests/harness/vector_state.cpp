@@ -13,9 +13,9 @@
 #include "vlqs.h"
 
 // Each slot of the library's entry table is redirected to a thunk, which calls the body with the
-// caller's own stack: it keeps the return address aside, in a variable of the thread. The body finds
-// the upper halves clear. XGETBV with ecx = 1 then tells which of them are in use: bit 2 is for
-// those of the 256-bit registers, bit 6 for those of the 512-bit ones.
+// caller's own stack: it keeps the return address aside, in a variable of the thread. The body
+// finds the upper halves clear. XGETBV with ecx = 1 then tells which of them are in use: bit 2 is
+// for those of the 256-bit registers, bit 6 for those of the 512-bit ones.
 #define VLQTEST_THUNKS 4096
 #define VLQTEST_TEXT_(x) #x
 #define VLQTEST_TEXT(x) VLQTEST_TEXT_(x)

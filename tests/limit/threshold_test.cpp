@@ -412,8 +412,8 @@ TEST(Threshold, Complex64f) {
                                    vlqsThreshold_LTInv_64fc,
                                    vlqsThreshold_LTInv_64fc_I});
 }
-// A NaN is below every level of `_LT`, so that it does not pass for a valid element; the value forms
-// leave it.
+// A NaN is below every level of `_LT`, so that it does not pass for a valid element; the value
+// forms leave it.
 TEST(Threshold, ComplexNaN) {
     const Vlq32fc x[2] = {{NAN, 1}, {3, 4}};
     Vlq32fc out[2];

@@ -22,6 +22,7 @@
 
 #include "frame/team.cpp"  // the library does not export it
 #include "harness/core_double.h"
+#include "harness/effort.h"
 #include "harness/random.h"
 #include "vlqs.h"
 
@@ -33,7 +34,6 @@ std::atomic<bool> signalsBlocked{true};
 
 }  // namespace
 
-#if !defined(VLQS_EAGER_TEAMS)
 // In the place of the system's: counts, and refuses when told to.
 extern "C" int pthread_create(pthread_t* id, const pthread_attr_t* attributes,
                               void* (*start)(void*), void* argument) {
@@ -49,7 +49,6 @@ extern "C" int pthread_create(pthread_t* id, const pthread_attr_t* attributes,
         reinterpret_cast<decltype(&pthread_create)>(dlsym(RTLD_NEXT, "pthread_create"));
     return real(id, attributes, start, argument);
 }
-#endif
 
 namespace {
 
@@ -139,8 +138,8 @@ bool sameBits(const std::vector<float>& a, const std::vector<float>& b) {
     return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(float)) == 0;
 }
 
-#if !defined(VLQS_EAGER_TEAMS)
 TEST_F(Teams, StartOnlyForMoreThanOneThreadAndLongWork) {
+    if (vlqtest::sanitized()) GTEST_SKIP() << "a library with sanitizers starts every thread";
     const auto& src = samples();
     const std::vector<float> shortBlock(src.begin(), src.begin() + 1601);
     for (const int taps : kTapCounts) {
@@ -188,6 +187,7 @@ TEST_F(Teams, LeaveSignalsToTheProgram) {
 
 // No memory for another stack.
 TEST_F(Teams, RunWithoutMemoryForThreads) {
+    if (vlqtest::sanitized()) GTEST_SKIP() << "the sanitizer needs memory of its own";
     const auto& src = samples();
     const auto want = filtered(src, 20, 1);
     Core::setThreads(4);
@@ -208,7 +208,6 @@ TEST_F(Teams, RunWithoutMemoryForThreads) {
     EXPECT_EQ(0, status);
     EXPECT_EQ(vlqStsOk, vlqsFIRFree_32f(state));
 }
-#endif
 
 TEST_F(Teams, AreGoneWhenTheCallReturns) {
     const auto tasks = [] {

@@ -1,5 +1,6 @@
-// The fork-join frame alone, under the thread sanitizer. Built a second time with shares that overlap
-// by one element, it shows that the sanitizer sees what two threads of a team do to one address.
+// The fork-join frame alone, under the thread sanitizer. Built a second time with shares that
+// overlap by one element, it shows that the sanitizer sees what two threads of a team do to one
+// address.
 #include "frame/team.h"
 
 #include <cstdio>

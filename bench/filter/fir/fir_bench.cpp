@@ -40,7 +40,7 @@ std::vector<float> lowpass(int taps) {
     return h;
 }
 
-VlqsFIRState_32f* record(int taps) {
+VlqsFIRState_32f* filterOf(int taps) {
     VlqsFIRState_32f* state = nullptr;
     vlqsFIRInitAlloc_32f(&state, lowpass(taps).data(), taps, nullptr);
     return state;
@@ -75,7 +75,7 @@ double ofFftw(int taps) {
 int main(int argc, char** argv) {
     vlqSetNumThreads(1);
     for (const int taps : {32, 64, 96, 256, 1024}) {
-        auto* state = record(taps);
+        auto* state = filterOf(taps);
         static std::vector<std::vector<float>> kept;
         kept.push_back(lowpass(taps));
         std::reverse(kept.back().begin(), kept.back().end());
@@ -98,14 +98,14 @@ int main(int argc, char** argv) {
                 firfilt_rrrf_execute_block(liquid, source, static_cast<unsigned>(len), result);
             };
         };
-        // Blocks of fewer than 512 samples are computed directly.
-        row("FIR 32f direct, " + name, 160, "plain loop", 1, blocks(160, 160), withLoop(160));
-        row("FIR 32f direct, " + name + ", blocks of 511", 65536, "plain loop", 1,
+        // Blocks of fewer than 512 samples stay in the time domain.
+        row("FIR 32f time domain, " + name, 160, "plain loop", 1, blocks(160, 160), withLoop(160));
+        row("FIR 32f time domain, " + name + ", blocks of 511", 65536, "plain loop", 1,
             blocks(65536, 511), withLoop(65536));
         if (taps <= 256) {
-            row("FIR 32f direct, " + name + ", blocks of 511", 65536, "liquid-dsp", 1,
+            row("FIR 32f time domain, " + name + ", blocks of 511", 65536, "liquid-dsp", 1,
                 blocks(65536, 511), withLiquid(65536));
-            row("FIR 32f direct, " + name + ", blocks of 511", 65536,
+            row("FIR 32f time domain, " + name + ", blocks of 511", 65536,
                 "plain loop, tap by tap inside", 1, blocks(65536, 511),
                 [=] { firstLoop(source, reversed, result, 65536, taps); });
         }
@@ -149,7 +149,7 @@ int main(int argc, char** argv) {
             "FIR 32f 16s in place, 64 taps", 4096, "FFTW by hand", ofFftw(64),
             [state] { vlqsFIR32f_16s_ISfs(filtered.data(), 4096, state, 0); }, byHand(4096));
         row(
-            "FIR 32f 16s direct, 64 taps", 160, "", 0,
+            "FIR 32f 16s time domain, 64 taps", 160, "", 0,
             [state] { vlqsFIR32f_16s_Sfs(samples.data(), filtered.data(), 160, state, 0); },
             nullptr);
         vlqbench::add({"FIR one sample 32f 16s, 64 taps", 1, 1, "", 0,
@@ -157,7 +157,7 @@ int main(int argc, char** argv) {
                        nullptr});
     }
     {
-        auto* state = record(64);
+        auto* state = filterOf(64);
         auto h = lowpass(64);
         auto liquid = firfilt_rrrf_create(h.data(), 64);
         vlqbench::add({"FIR one sample 32f, 64 taps", 1, 1, "liquid-dsp", 1,
@@ -175,9 +175,9 @@ int main(int argc, char** argv) {
     // Two threads against one.
     for (const int taps : {32, 64, 256, 1024}) {
         vlqSetNumThreads(2);
-        auto* two = record(taps);
+        auto* two = filterOf(taps);
         vlqSetNumThreads(1);
-        auto* one = record(taps);
+        auto* one = filterOf(taps);
         row(
             "FIR 32f, " + std::to_string(taps) + " taps, two threads", kLong, "one thread", 1 / 1.7,
             [two] {

@@ -71,20 +71,20 @@ int main(int argc, char** argv) {
         vlqsFIRInitAlloc_32fc(&complex, xc32, taps, nullptr);
         vlqsFIRInitAlloc_64fc(&complexDouble, xc64, taps, nullptr);
         vlqsFIRInitAlloc32fc_16sc(&mixed, xc32, taps, nullptr);
-        // Blocks of 240 samples are computed directly by all kinds.
+        // Blocks of 240 samples stay in the time domain by all kinds.
         for (const int len : {240, 24000}) {
             const auto realBlocks =
                 blocks(vlqsFIR_32f, static_cast<const Vlq32f*>(x32), y32, len, 240, real);
             const auto complexBlocks = blocks(vlqsFIR_32fc, xc32, yc32, len, 240, complex);
-            row("FIR 32fc direct" + name, len, "FIR 32f", kComplex, complexBlocks, realBlocks);
-            row("FIR 32fc direct" + name, len, "plain loop", 1, complexBlocks,
+            row("FIR 32fc time domain" + name, len, "FIR 32f", kComplex, complexBlocks, realBlocks);
+            row("FIR 32fc time domain" + name, len, "plain loop", 1, complexBlocks,
                 [=] { vlqbench::plainComplexFir(x32, x32 + 512, y32, len, taps); });
-            row("FIR 64fc direct" + name, len, "FIR 32fc", kDouble,
+            row("FIR 64fc time domain" + name, len, "FIR 32fc", kDouble,
                 blocks(vlqsFIR_64fc, xc64, yc64, len, 240, complexDouble), complexBlocks);
             const auto doubleBlocks =
                 blocks(vlqsFIR_64f, static_cast<const Vlq64f*>(x64), y64, len, 240, realDouble);
-            row("FIR 64f direct" + name, len, "FIR 32f", kDouble, doubleBlocks, realBlocks);
-            row("FIR 64f direct" + name, len, "plain loop", 1, doubleBlocks,
+            row("FIR 64f time domain" + name, len, "FIR 32f", kDouble, doubleBlocks, realBlocks);
+            row("FIR 64f time domain" + name, len, "plain loop", 1, doubleBlocks,
                 [=] { vlqbench::plainFir(x64, x64 + 512, y64, len, taps); });
         }
         if (taps >= 64) {
@@ -104,7 +104,7 @@ int main(int argc, char** argv) {
             }
         }
         row(
-            "FIR 32fc 16sc direct" + name, 240, "FIR 32fc", 0,
+            "FIR 32fc 16sc time domain" + name, 240, "FIR 32fc", 0,
             [=] {
                 vlqsFIR32fc_16sc_Sfs(reinterpret_cast<Vlq16sc*>(x16.data()),
                                      reinterpret_cast<Vlq16sc*>(y16.data()), 240, mixed, 0);
@@ -125,7 +125,7 @@ int main(int argc, char** argv) {
                 vlqsFIROne_32fc({1, 2}, yc32, complex);
             });
 
-        // Without a record.
+        // Without a state.
         struct Ring {
             Vlq32f line[512];
             Vlq16s line16[512];
@@ -133,22 +133,22 @@ int main(int argc, char** argv) {
         };
         const auto ring = std::make_shared<Ring>();
         one(
-            "FIR one sample 32f, no record" + name, "record",
+            "FIR one sample 32f, no state" + name, "state",
             [=] { vlqsFIROne_Direct_32f(1, y32, x32, taps, ring->line, &ring->index); },
             [=] { vlqsFIROne_32f(1, y32, real); });
         one(
-            "FIR one sample 32f 16s, no record" + name, "",
+            "FIR one sample 32f 16s, no state" + name, "",
             [=] {
                 vlqsFIROne32f_Direct_16s_Sfs(1, y16.data(), x32, taps, ring->line16, &ring->index,
                                              0);
             },
             nullptr);
         row(
-            "FIR 32f, no record" + name, 240, "record", 0,
+            "FIR 32f, no state" + name, 240, "state", 0,
             [=] { vlqsFIR_Direct_32f(x32, y32, 240, x32, taps, ring->line, &ring->index); },
             [=] { vlqsFIR_32f(x32, y32, 240, real); });
         row(
-            "FIR 32f 16s, no record" + name, 240, "", 0,
+            "FIR 32f 16s, no state" + name, 240, "", 0,
             [=] {
                 vlqsFIR32f_Direct_16s_Sfs(x16.data(), y16.data(), 240, x32, taps, ring->line16,
                                           &ring->index, 0);

@@ -7,9 +7,9 @@ namespace vlq::fft {
 
 enum class Direction { forward, inverse };
 
-// dst = DFT(src) of 2^order interleaved complex values; when `scaled`, every output is multiplied by
-// spec.normFactor. src may be dst. `work` has spec.workBytes bytes on a 64-byte boundary (unused up
-// to order 5). `order` may differ from spec.order: a real spec of order n transforms at n - 1.
+// dst = DFT(src) of 2^order interleaved complex values; when `scaled`, every output is multiplied
+// by spec.normFactor. src may be dst. `work` has spec.workBytes bytes on a 64-byte boundary (unused
+// up to order 5). `order` may differ from spec.order: a real spec of order n transforms at n - 1.
 template <class T, Direction direction>
 void complexTransform(int order, const FloatSpec<T>& spec, const T* src, T* dst, void* work,
                       bool scaled);

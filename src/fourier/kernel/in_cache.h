@@ -23,7 +23,7 @@ void laterPassOf(int radix, In in, Out out, std::ptrdiff_t n, std::ptrdiff_t spa
     }
 }
 
-// All passes of one order: from src to `work`, then between `work` and `middle`, the last one to dst.
+// All passes of one order: from src to `work`, then between `work` and `middle`, at last to dst.
 template <class T, int B, class In, class Middle, class Out>
 void runPasses(const PassPlan& plan, int order, const T* table, In src, Middle work, Middle middle,
                Out dst, T scale, bool scaled) {

@@ -27,9 +27,9 @@ struct Tile {
     Tile from(std::ptrdiff_t row) const { return {p + 2 * row * kTileColumns<T>}; }
 };
 
-// One radix-R step over `rows` rows: transforms rows j + p * rows / R over p, multiplies output q by
-// factor [j][q], but not in the last step, which has none, and writes it to row q * rows / R + j.
-// `eighth` is the factor of the eight-point transform in it.
+// One radix-R step over `rows` rows: transforms rows j + p * rows / R over p, multiplies output q
+// by factor [j][q], except in the last step, and writes it to row q * rows / R + j. `eighth` is the
+// factor of the eight-point transform in it.
 template <class T, int B, int R>
 [[gnu::noinline]] void columnStep(std::ptrdiff_t rows, const T* factors, T eighth,
                                   Tile<T, B> tile) {
@@ -63,8 +63,8 @@ template <class T, int B, int R>
     }
 }
 
-// A column transform of 2^bits rows in the tile. Output q is in row place(q) afterwards: the digits of
-// q, one for each step, in reverse order.
+// A column transform of 2^bits rows in the tile. Output q is in row place(q) afterwards: the digits
+// of q, one for each step, in reverse order.
 template <class T, int B>
 struct ColumnTransform {
     int bits;
@@ -97,8 +97,8 @@ struct ColumnTransform {
     }
 };
 
-// Twiddles of a phase: exp(-2 pi i row * column / N) as the product of a vector for the column within
-// a tile and a scalar for the tile.
+// Twiddles of a phase: exp(-2 pi i row * column / N) as the product of a vector for the column
+// within a tile and a scalar for the tile.
 template <class T, int B>
 struct PhaseTwiddles {
     const T* within;  // [row][column]

@@ -1,5 +1,5 @@
 // The layouts of the spectrum of N real samples.
-//   Perm: X[0], X[N/2], then real and imaginary parts of X[1] to X[N/2-1]; the layout of the kernels.
+//   Perm: X[0], X[N/2], real and imaginary parts of X[1] to X[N/2-1]; the layout of the kernels.
 //   Pack: X[0], the parts of X[1] to X[N/2-1], X[N/2].
 //   CCS:  X[0] to X[N/2] as complex numbers, N + 2 elements.
 #pragma once

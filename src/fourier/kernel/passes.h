@@ -49,8 +49,8 @@ template <int q, class T, int B>
     }
 }
 
-// A 16-point transform as four by four: get(p) reads input p, turn(q, b, c, d) multiplies inputs 1 to
-// 3 of the q-th butterfly of the second stage, put(q, value) writes output q.
+// A 16-point transform as four by four: get(p) reads input p, turn(q, b, c, d) multiplies inputs 1
+// to 3 of the q-th butterfly of the second stage, put(q, value) writes output q.
 template <class T, int B, class Get, class Turn, class Put>
 [[gnu::always_inline]] inline void fourByFour(Get&& get, Turn&& turn, Put&& put) {
     using S = Split<T, B>;
@@ -114,7 +114,8 @@ struct Square {
     }
 };
 
-// R vectors, outputs q of columns j to j + lanes - 1, become `lanes` contiguous groups of R outputs.
+// R vectors, outputs q of columns j to j + lanes - 1, become `lanes` contiguous groups of R
+// outputs.
 template <int R, class T, int B, class Out>
 [[gnu::always_inline]] inline void putTransposed(Out out, std::ptrdiff_t j,
                                                  const Split<T, B> (&y)[R]) {

@@ -27,8 +27,8 @@ inline void recombineForward(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T,
     b = {bRe, bIm};
 }
 
-// c = cos, s = -sin of the same angle. No factor 1/2: the unscaled inverse of N points is twice that
-// of H points.
+// c = cos, s = -sin of the same angle. No factor 1/2: the unscaled inverse of N points is twice
+// that of H points.
 template <class T, int B>
 inline void recombineInverse(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T, B> s) {
     const auto dR = a.re - b.re, sR = a.re + b.re;
@@ -47,8 +47,8 @@ inline void recombineStep(Split<T, B>& a, Split<T, B>& b, Vec<T, B> c, Vec<T, B>
         recombineInverse(a, b, c, s);
 }
 
-// src1 and dst1 point at value 1; quarter = H/2 is a multiple of the lanes. The last vectors of both
-// ends hold value H/2, its own mirror: both compute the same result.
+// src1 and dst1 point at value 1; quarter = H/2 is a multiple of the lanes. The last vectors of
+// both ends hold value H/2, its own mirror: both compute the same result.
 template <Direction direction, class T>
 inline void recombineBlocks(const T* src1, T* dst1, const T* factors, std::ptrdiff_t quarter) {
     constexpr int lanes = Vec<T>::lanes;

@@ -9,8 +9,8 @@
 namespace vlq::fft {
 
 // ---- up to 32 points, scalar, by even and odd samples -------------------------------------------
-// spectrum = DFT of x[0], x[stride], ... , decimated in time: X[k] = E[k] + w^k O[k], and its mirror
-// X[N/2 - k]. T may be a fixed-point type.
+// spectrum = DFT of x[0], x[stride], ... , decimated in time: X[k] = E[k] + w^k O[k], and its
+// mirror X[N/2 - k]. T may be a fixed-point type.
 template <int order, int stride, class T>
 inline void realForward(const T* x, T* spectrum) {
     constexpr int n = 1 << order, half = n / 2;
@@ -94,9 +94,9 @@ template <class T>
     return {vlq::backwardAcross(v.re, next.re), vlq::backwardAcross(v.im, next.im)};
 }
 
-// z holds H = N/2 values; on the spectrum's side the parts of the first are the mean and the Nyquist
-// term. The formulas hold for k = 0 as well: value H is value 0 of the complex transform, and the
-// Nyquist term of the real one.
+// z holds H = N/2 values; on the spectrum's side the parts of the first are the mean and the
+// Nyquist term. The formulas hold for k = 0 as well: value H is value 0 of the complex transform,
+// and the Nyquist term of the real one.
 template <Direction direction, class T, int count>
 [[gnu::always_inline]] inline void recombineRegisters(Split<T, 16> (&z)[count], const T* factors) {
     using V = Vec<T, 16>;

@@ -1,10 +1,10 @@
-// Transforms beyond the first caches as 16 rows of N / 16 values, which fit the caches. Row r is the
-// transform of every sixteenth sample from r on. Its first pass combines samples N / 16 apart, so
-// that this pass, for all rows, exchanges square blocks of 16 by 16 values, and may run in place. The
-// rows then continue one by one, and a radix-16 pass combines them. Sixteen streams a power of two
-// apart compete for a few ways of the first cache: the butterflies access four at a time, in whole
-// cache lines, and keep a block of values in the work buffer between their two stages. A row that is
-// too long itself is split and joined once more.
+// Transforms beyond the first caches as 16 rows of N / 16 values, which fit the caches. Row r is
+// the transform of every sixteenth sample from r on. Its first pass combines samples N / 16 apart,
+// so that this pass, for all rows, exchanges square blocks of 16 by 16 values, and may run in
+// place. The rows then continue one by one, and a radix-16 pass combines them. Sixteen streams a
+// power of two apart compete for a few ways of the first cache: the butterflies access four at a
+// time, in whole cache lines, and keep a block of values in the work buffer between their two
+// stages. A row that is too long itself is split and joined once more.
 #pragma once
 
 #include "fourier/kernel/passes.h"
@@ -102,8 +102,8 @@ struct SixteenthPowers {
     }
 };
 
-// The second pass of a row of 16 * length values in groups of `span`, in place: makes sixteen rows of
-// it. The table is that of 16 * span values.
+// The second pass of a row of 16 * length values in groups of `span`, in place: makes sixteen rows
+// of it. The table is that of 16 * span values.
 template <class T, int B, class Middle>
 void splitGroups(Middle row, std::ptrdiff_t length, std::ptrdiff_t span, const T* table, T* work) {
     using S = Split<T, B>;
@@ -138,8 +138,8 @@ void splitGroups(Middle row, std::ptrdiff_t length, std::ptrdiff_t span, const T
     }
 }
 
-// Combines the rows, middle to dst, which may be the same memory, and multiplies by scale. The table
-// is that of all their values.
+// Combines the rows, middle to dst, which may be the same memory, and multiplies by scale. The
+// table is that of all their values.
 template <class T, int B, class Middle, class Out>
 void joinRows(Middle middle, Out dst, std::ptrdiff_t length, const T* table, T* work, T scale) {
     using S = Split<T, B>;

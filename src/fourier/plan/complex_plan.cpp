@@ -13,8 +13,8 @@ namespace {
 // The twiddles of the in-cache passes: one for each complex value, padded.
 template <class T>
 constexpr Vlq64s passTableBytes(int order) {
-    return roundDown(
-        static_cast<Vlq64s>(2 * sizeof(T)) * pow2(order) + (sizeof(T) == 4 ? 71 : 79), 64);
+    return roundDown(static_cast<Vlq64s>(2 * sizeof(T)) * pow2(order) + (sizeof(T) == 4 ? 71 : 79),
+                     64);
 }
 template <class T>
 constexpr Vlq64s passWorkBytes(int order) {
@@ -45,8 +45,8 @@ int splitLaneOf(int bytes, int lane) {
 }
 
 // The twiddles of every pass after the first, in the order in which the pass reads them: for each
-// vector of columns k the R - 1 factors of a radix-R pass, each as a vector of real parts and one of
-// imaginary parts.
+// vector of columns k the R - 1 factors of a radix-R pass, each as a vector of real parts and one
+// of imaginary parts.
 template <class T>
 T* buildPassTable(const PassPlan& plan, int order, const SineTable<T>& sine, Cursor& cursor) {
     const int lanes = plan.bytes / static_cast<int>(sizeof(T));
@@ -98,8 +98,8 @@ void buildColumnTable(int bits, const SineTable<T>& sine, T* next) {
     }
 }
 
-// Twiddles of a phase of 2^rowBits rows and 2^columnBits columns: vectors for the columns of a tile,
-// then one factor for each row of each tile; see PhaseTwiddles.
+// Twiddles of a phase of 2^rowBits rows and 2^columnBits columns: vectors for the columns of a
+// tile, then one factor for each row of each tile; see PhaseTwiddles.
 template <class T>
 T* buildPhaseTable(int rowBits, int columnBits, const SineTable<T>& sine, Cursor& cursor) {
     constexpr int columns = kTileColumns<T>, lanes = Vec<T>::lanes;

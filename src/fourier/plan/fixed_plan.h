@@ -1,5 +1,5 @@
-// Specs of the fixed-point transforms: a header, followed by the spec of the floating transform that
-// does the work.
+// Specs of the fixed-point transforms: a header, followed by the spec of the floating transform
+// that does the work.
 #pragma once
 
 #include "fourier/plan/lifecycle.h"

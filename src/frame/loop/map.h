@@ -5,6 +5,7 @@
 #pragma once
 
 #include "frame/simd/cache.h"
+#include "frame/simd/control.h"
 #include "frame/simd/tuning.h"
 
 namespace vlq {
@@ -76,9 +77,10 @@ inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
 template <class... T>
 inline constexpr int kBlock = kVecBytes / kNarrowest<T...>;
 
-// The first n elements, fewer than a block.
+// The first n elements, fewer than a block. Each loop calls it from a lambda, so that the compiler
+// decides for each whether to inline it.
 template <class D, class Op, class... S>
-inline void mapPartial(D* dst, int n, const Op& op, const S*... src) {
+[[gnu::always_inline]] inline void mapPartial(D* dst, int n, const Op& op, const S*... src) {
     constexpr int count = kBlock<D, S...>;
     const auto read = [n]<class T>(const T* p) {
         const auto block = loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
@@ -114,15 +116,19 @@ template <int group, class D, class Op, class... S>
     const bool bypass =
         exceedsCache(static_cast<std::size_t>(len) * (sizeof(D) + ... + sizeof(S))) &&
         !(isSource(src) || ...);
+    const auto partial = [&](std::ptrdiff_t at, std::ptrdiff_t n) {
+        mapPartial(dst + at, static_cast<int>(n), op, (src + at)...);
+    };
     std::ptrdiff_t i = headLength<group>(dst);
-    if (i > 0) mapPartial(dst, static_cast<int>(i), op, src...);
+    if (i > 0) partial(0, i);
     const auto block = [&] { return op(loadBlock<S, count / Vec<S>::lanes>(src + i)...); };
     if (bypass && reinterpret_cast<std::uintptr_t>(dst + i) % kVecBytes == 0) {
         for (; len - i >= count; i += count) streamBlock(dst + i, block());
         streamFence();
     }
     for (; len - i >= count; i += count) storeBlock(dst + i, block());
-    if (i < len) mapPartial(dst + i, static_cast<int>(len - i), op, (src + i)...);
+    if (i < len) partial(i, len - i);
+    clearUpperHalves();  // op may hold vectors
 }
 
 }  // namespace detail
@@ -138,13 +144,14 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
         return detail::mapLong<group>(dst, len, op, src...);
 
     constexpr int count = detail::kBlock<D, S...>;
+    const auto partial = [&](int n) { detail::mapPartial(dst, n, op, src...); };
     const auto advance = [&](std::ptrdiff_t n) {
         dst += n;
         ((src += n), ...);
         len -= n;
     };
     if (const int head = detail::headLength<group>(dst); head != 0 && len > 4 * count) {
-        detail::mapPartial(dst, head, op, src...);
+        partial(head);
         advance(head);
     }
     // The compiler may outline the partial blocks and pass them op by address. The loops use a
@@ -164,7 +171,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
         detail::storeBlock(dst, hot(detail::loadBlock<S, count / Vec<S>::lanes>(src)...));
         advance(count);
     }
-    if (len > 0) detail::mapPartial(dst, static_cast<int>(len), op, src...);
+    if (len > 0) partial(static_cast<int>(len));
 }
 
 // All types of one size: op takes and returns single vectors.

@@ -224,9 +224,9 @@ inline Vec<float> toFloat(Block<double, 2> v) {
 #endif
 
 // ---- floats to integers -------------------------------------------------------------------------
-// Out of range, and of NaN: the most negative integer. toZero drops the fraction; toNearest takes the
-// even one of two equally near; toNearestAway the one farther from zero. The latter two rely on the
-// default rounding mode, except where the instruction carries its own.
+// Out of range, and of NaN: the most negative integer. toZero drops the fraction; toNearest takes
+// the even one of two equally near; toNearestAway the one farther from zero. The latter two rely on
+// the default rounding mode, except where the instruction carries its own.
 inline constexpr bool kRoundingInInstruction = VLQ_SIMD_BYTES == 64;
 
 #if VLQ_SIMD_BYTES == 16

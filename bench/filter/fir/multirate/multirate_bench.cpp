@@ -85,8 +85,8 @@ void row(const std::string& work, int outputs, const std::string& peer, double b
                    std::move(theirs)});
 }
 
-// As many multiplications through the single-rate filter of 96 taps, in blocks that it computes
-// directly.
+// As many multiplications through the single-rate filter of 96 taps, in blocks that it filters in
+// the time domain.
 const char* const kSameWork = "as many multiplications, single rate";
 
 }  // namespace
@@ -219,7 +219,7 @@ int main(int argc, char** argv) {
             static float line[128];
             const auto plain = std::make_shared<Plain<float>>(96, up, down);
             row(
-                describe("32f", 96, up, down) + ", without a record", n * up, "plain loop", 1,
+                describe("32f", 96, up, down) + ", without a state", n * up, "plain loop", 1,
                 [=] {
                     vlqsFIRMR_Direct_32f(source, result, n, h96.data(), 96, up, 0, down, 0, line);
                 },

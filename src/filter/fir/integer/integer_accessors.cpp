@@ -7,7 +7,7 @@ using namespace vlq;
 using namespace vlq::fir;
 using namespace vlq::fir::integer;
 
-// take(state, taps) brings in the taps.
+// take(state, taps) stores the taps.
 template <class State, class Tap, class Take>
 VlqStatus setTaps(const Tap* taps, State* state, Take take) {
     if (!taps || !state) return vlqStsNullPtr;

@@ -76,7 +76,7 @@ void layOut(State& state, Vlq32s tapsLen, Cursor& cursor) {
         cursor.take<Vlq16s>(Vlq64s{kStaging} * kParts<typename State::Sample>, State::kAlignment);
 }
 
-// take(state, taps) brings in the taps.
+// take(state, taps) stores the taps.
 template <class State, class Tap, class Take>
 VlqStatus build(State** outState, Vlq8u* memory, const Tap* taps, Vlq32s tapsLen,
                 const typename State::Sample* dlyLine, Take take) {

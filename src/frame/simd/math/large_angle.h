@@ -15,8 +15,8 @@ struct ReducedAngle {
     int quadrant;
 };
 
-// For finite |x| >= 2^20. Method: x times as many bits of 2/pi as neither drop out as multiples of 4
-// nor are too small to matter (Payne and Hanek).
+// For finite |x| >= 2^20. Method: x times as many bits of 2/pi as neither drop out as multiples of
+// 4 nor are too small to matter (Payne and Hanek).
 inline ReducedAngle reduceLargeAngle(double x) {
     // 2/pi from the bit of weight 1/2 on, after a word of zeros.
     static constexpr std::uint64_t twoOverPi[] = {

@@ -4,7 +4,7 @@
 //
 // Samples go two words at a time, as in the single-rate kernels: an element is two neighbouring
 // samples of a real filter or one of a complex one. A cycle is as many periods, one or two, as make
-// its inputs and its outputs whole elements. The input is taken asunder into streams, element c of
+// its inputs and its outputs whole elements. The input is de-interleaved into streams, element c of
 // every cycle into stream c, and then lanes are cycles: each load of a stream meets two taps of two
 // filters, and their sums are one output element of as many cycles as there are lanes.
 #pragma once
@@ -57,7 +57,7 @@ inline void copyElement(const Vlq16s* src, Vlq16s* dst) {
     std::memcpy(dst, src, 2 * sizeof(Vlq16s));
 }
 
-// Takes `count` cycles of `width` elements asunder: element c of cycle q to dst[c * stride + q].
+// De-interleaves `count` cycles of `width` elements: element c of cycle q to dst[c * stride + q].
 template <int B>
 inline void takeAsunder(const Vlq16s* src, std::ptrdiff_t width, std::ptrdiff_t count, Vlq16s* dst,
                         std::ptrdiff_t stride) {

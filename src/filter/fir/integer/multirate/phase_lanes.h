@@ -2,7 +2,7 @@
 //
 // Where a filter has many outputs to a period and no more than about as many inputs, the windows of
 // neighbours are so close to each other that one load holds a pair of samples for every lane, and a
-// shuffle brings the pairs to their lanes. The taps are stored in the order in which the lanes take
+// shuffle moves the pairs to their lanes. The taps are stored in the order in which the lanes take
 // them. It needs a shuffle of 16-bit values under control of a vector, which SSE2 has not.
 #pragma once
 
@@ -97,7 +97,8 @@ template <int B, int Parts, int PairsOfLoad>
     for (int v = 0; v < vectors; ++v) {
         pattern[0][v] = loadAligned<Vlq16s, B>(newest + v * lanes);
         for (int k = 1; k < PairsOfLoad; ++k)
-            pattern[k][v] = pattern[0][v] - V::broadcast(k * (pickIndex(2) - pickIndex(0)));
+            pattern[k][v] = pattern[0][v] -
+                            V::broadcast(static_cast<Vlq16s>(k * (pickIndex(2) - pickIndex(0))));
     }
     auto first = Vec<Vlq32s, B>::zero(), second = first;
     auto addPairs = [&]<int Count>(std::integral_constant<int, Count>) {
