@@ -5,6 +5,7 @@
 #pragma once
 
 #include "frame/simd/cache.h"
+#include "frame/simd/control.h"
 #include "frame/simd/tuning.h"
 
 namespace vlq {
@@ -127,6 +128,7 @@ template <int group, class D, class Op, class... S>
     }
     for (; len - i >= count; i += count) storeBlock(dst + i, block());
     if (i < len) partial(i, len - i);
+    clearUpperHalves();  // op may hold vectors
 }
 
 }  // namespace detail
