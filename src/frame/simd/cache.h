@@ -25,8 +25,7 @@ inline std::size_t cacheBytes() {
 // its result in the cache. Non-temporal stores win from here on, whoever uses the result next;
 // below, the next reader would have to fetch from memory what ordinary stores leave in the cache.
 inline bool exceedsCache(std::size_t bytes) {
-    constexpr std::size_t smallest = std::size_t{1} << 20;  // below, not worth asking
-    return bytes >= smallest && bytes >= cacheBytes() / 2 * 3;
+    return bytes >= cacheBytes() / 2 * 3;
 }
 
 }  // namespace vlq
