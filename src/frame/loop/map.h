@@ -184,8 +184,8 @@ inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
         src...);
 }
 
-// The same two for operations that cost less than their memory traffic: where the vectors exceed the
-// cache the results bypass it. Others gain nothing by it that the second copy of their code is worth.
+// The same two for operations that cost less than their memory traffic: results of vectors that
+// exceed the cache bypass it. For others that is not worth a second copy of their code.
 template <int group = 1, class D, class Op, class... S>
 inline void mapBlocksStreaming(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     constexpr std::size_t bytes = (sizeof(D) + ... + sizeof(S));  // of an element in all vectors
