@@ -173,6 +173,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
         advance(count);
     }
     if (len > 0) partial(static_cast<int>(len));
+    clearUpperHalves();  // op may hold vectors, and this may be no function of its own
 }
 
 // All types of one size: op takes and returns single vectors.
