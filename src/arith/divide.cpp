@@ -22,12 +22,14 @@ bool anyZero(const T* divisors, Vlq32s len) {
 }
 
 template <class Op, class A, class B, class D>
-VlqStatus divided(Op op, const A* divisors, const B* numerators, D* dst, Vlq32s len) {
+VlqStatus divided(const Op& op, const A* divisors, const B* numerators, D* dst, Vlq32s len) {
     auto found0 = Vec<vlq::BitsOf<A>>::zero();
     const auto is0 = [](Vec<A> v) { return v == Vec<A>::zero(); };
     vlq::mapBlocks(dst, len, vlq::Watching<Op, decltype(is0), decltype(found0)>(op, is0, &found0),
                    divisors, numerators);
-    return vlq::any(found0) ? vlqStsWarnDivByZero : vlqStsOk;
+    const bool hasZero = vlq::any(found0);
+    vlq::clearUpperHalves();  // the loop hands its findings over in vectors after its end
+    return hasZero ? vlqStsWarnDivByZero : vlqStsOk;
 }
 
 // Below -30 every quotient but 0 must saturate; a factor of 2^31 would not be enough for 1 / 65535.

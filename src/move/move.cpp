@@ -15,6 +15,7 @@ using Pattern = vlq::Vec<Byte>;
 template <class T>
 [[gnu::noinline]] VlqStatus fillLongRun(Byte* dst, std::size_t bytes, T val) {
     vlq::fillLong<sizeof(T)>(dst, bytes, vlq::repeated(val));
+    vlq::clearUpperHalves();  // what stores the pattern has it among its arguments
     return vlqStsOk;
 }
 [[gnu::noinline]] VlqStatus copyLongRun(Byte* dst, const Byte* src, std::size_t bytes) {
