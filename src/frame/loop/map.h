@@ -81,7 +81,7 @@ inline constexpr int kBlock = kVecBytes / kNarrowest<T...>;
 template <class D, class Op, class... S>
 inline void mapPartial(D* dst, int n, const Op& op, const S*... src) {
     constexpr int count = kBlock<D, S...>;
-    const auto read = [n]<class T>(const T* p) {
+    const auto read = [&]<class T>(const T* p) {
         const auto block = loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
         if constexpr (marksUnused<Op>)
             return markUnused(block, n);
