@@ -17,7 +17,7 @@ demo: ## Filters a voice recording, WAV=file for your own; results in build/demo
 build_packages = build-essential cmake ninja-build pkg-config
 test_packages = $(build_packages) binutils clang-14 clang-format-14 libgtest-dev \
     libsndfile1-dev libpng-dev alsa-utils
-peers = libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev gnuplot-nox
+peers = libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev libsleef-dev gnuplot-nox
 
 test: ## Builds and tests every build; ends with "N passed, N failed".
 	@tools/install-packages.sh $(test_packages)

@@ -38,8 +38,8 @@ VLQS_BEGIN_DECLS
  * @defgroup vlqs_sqr Squares
  * @ingroup vlqs_maths
  *
- * `dst = src * src`, as vlqsMul of the vector with itself. The square of a complex element a + bi is
- * `(a*a - b*b) + (a*b + b*a)i`; of floats, every product and sum is rounded by itself.
+ * `dst = src * src`, as vlqsMul of the vector with itself. The square of a complex element a + bi
+ * is `(a*a - b*b) + (a*b + b*a)i`; of floats, every product and sum is rounded by itself.
  *
  * @{
  */
@@ -83,16 +83,16 @@ VlqStatus vlqsSqr_64fc_I(Vlq64fc* srcDst, Vlq32s len);
  * @defgroup vlqs_sqrt Square roots
  * @ingroup vlqs_maths
  *
- * `dst = sqrt(src)`. A negative element gives 0 in the integer types, NaN in the real float types, and
- * the warning #vlqStsWarnSqrtNegArg; minus zero gives itself, without a warning.
+ * `dst = sqrt(src)`. A negative element gives 0 in the integer types, NaN in the real float types,
+ * and the warning #vlqStsWarnSqrtNegArg; minus zero gives itself, without a warning.
  *
  * The root of a 16-bit integer is first rounded to single precision, then scaled and rounded: a
  * root within 2^-25 of the middle between two results counts as a tie. Of all other integers the
  * exact root is rounded.
  *
  * Real floats: the IEEE square root. Complex: the principal root, with a real part that is not
- * negative and an imaginary part of the sign of the element's; single precision within 1 ulp in each
- * part, double within 3. No intermediate result overflows or underflows.
+ * negative and an imaginary part of the sign of the element's; single precision within 1 ulp in
+ * each part, double within 3. No intermediate result overflows or underflows.
  *
  * @{
  */
@@ -147,8 +147,8 @@ VlqStatus vlqsSqrt_64fc_I(Vlq64fc* srcDst, Vlq32s len);
  * `dst = cbrt(src)`, of negative elements too. Single precision: within 1 ulp.
  *
  * In vlqsCubrt_32s16s_Sfs() only the lower seven bits of the scale factor's magnitude count: the
- * factor is 2^(-scaleFactor mod 128) for a negative scale factor, 2^-(scaleFactor mod 128) otherwise,
- * and 0 where that would be 2^-127.
+ * factor is 2^(-scaleFactor mod 128) for a negative scale factor, 2^-(scaleFactor mod 128)
+ * otherwise, and 0 where that would be 2^-127.
  *
  * @{
  */
@@ -202,14 +202,14 @@ VlqStatus vlqsExp_64f_I(Vlq64f* srcDst, Vlq32s len);
  * @ingroup vlqs_maths
  *
  * `dst = ln(src)`, and ten times the decimal logarithm. A zero element gives minus infinity, a
- * negative one NaN; in the integer types both give the smallest value of the result's type. The first
- * such element of the vector decides the warning: #vlqStsWarnLnZero or #vlqStsWarnLnNegative. NaN
- * gives NaN without a warning.
+ * negative one NaN; in the integer types both give the smallest value of the result's type. The
+ * first such element of the vector decides the warning: #vlqStsWarnLnZero or #vlqStsWarnLnNegative.
+ * NaN gives NaN without a warning.
  *
- * At scale factors from 0 up the 32-bit variant, and up to 0 the 16-bit variant, rounds the unscaled
- * logarithm to an integer k; the former then shifts it right, so that it is rounded before it is
- * scaled, and the latter ignores the scale factor. The integers from which k rises are the least above
- * e^(k - 1/2), but for 5389698 and 39824784, which are one lower.
+ * At scale factors from 0 up the 32-bit variant, and up to 0 the 16-bit variant, rounds the
+ * unscaled logarithm to an integer k; the former then shifts it right, so that it is rounded before
+ * it is scaled, and the latter ignores the scale factor. The integers from which k rises are the
+ * least above e^(k - 1/2), but for 5389698 and 39824784, which are one lower.
  *
  * Floats: within 1 ulp.
  *
@@ -222,7 +222,7 @@ VlqStatus vlqsLn_16s_Sfs(const Vlq16s* src, Vlq16s* dst, Vlq32s len, Vlq32s scal
 VlqStatus vlqsLn_16s_ISfs(Vlq16s* srcDst, Vlq32s len, Vlq32s scaleFactor);
 /** dst = round(ln(src)) >> scaleFactor, or below 0 sat(round(ln(src) * 2^-scaleFactor)). */
 VlqStatus vlqsLn_32s_Sfs(const Vlq32s* src, Vlq32s* dst, Vlq32s len, Vlq32s scaleFactor);
-/** srcDst = round(ln(srcDst)) >> scaleFactor, or below 0 sat(round(ln(srcDst) * 2^-scaleFactor)). */
+/** srcDst = round(ln(srcDst)) >> scaleFactor, or below 0 sat(... * 2^-scaleFactor). */
 VlqStatus vlqsLn_32s_ISfs(Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
 /** dst = sat(round(ln(src) * 2^-scaleFactor)). */
 VlqStatus vlqsLn_32s16s_Sfs(const Vlq32s* src, Vlq16s* dst, Vlq32s len, Vlq32s scaleFactor);
@@ -247,12 +247,12 @@ VlqStatus vlqs10Log10_32s_ISfs(Vlq32s* srcDst, Vlq32s len, Vlq32s scaleFactor);
  * @defgroup vlqs_sumln Sums of logarithms
  * @ingroup vlqs_maths
  *
- * `*pSum = ln(src[0]) + ... + ln(src[len - 1])`, the logarithm of the product of all elements, which
- * neither overflows nor underflows. Computed in double precision in blocks of 512 elements.
+ * `*pSum = ln(src[0]) + ... + ln(src[len - 1])`, the logarithm of the product of all elements,
+ * which neither overflows nor underflows. Computed in double precision in blocks of 512 elements.
  *
  * The first element that is zero, negative or NaN ends the sum. Zero gives plus infinity and
- * #vlqStsWarnLnZero; a negative element NaN (with the sign bit set) and #vlqStsWarnLnNegative; NaN the
- * same NaN and #vlqStsOk.
+ * #vlqStsWarnLnZero; a negative element NaN (with the sign bit set) and #vlqStsWarnLnNegative; NaN
+ * the same NaN and #vlqStsOk.
  *
  * @{
  */

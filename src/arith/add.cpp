@@ -32,9 +32,9 @@ VlqStatus unscaled(const A* a, const B* b, D* dst, Vlq32s len, Op op) {
     if (!a || !b || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
     if constexpr (sizeof(A) == sizeof(B) && sizeof(B) == sizeof(D))
-        map(dst, len, op, a, b);
+        mapStreaming(dst, len, op, a, b);
     else
-        mapBlocks(dst, len, op, a, b);
+        mapBlocksStreaming(dst, len, op, a, b);
     return vlqStsOk;
 }
 

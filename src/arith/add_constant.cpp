@@ -80,7 +80,7 @@ VlqStatus reverseDifference16u(const Vlq16u* src, Vlq16u val, Vlq16u* dst, Vlq32
 template <class Op, class T, class C>
 void runExact(const T* src, C val, T* dst, std::ptrdiff_t len) {
     const Vec<T> constant = bitCast<T>(repeated(val));
-    map<unit<T, C>>(
+    mapStreaming<unit<T, C>>(
         dst, len * unit<T, C>, [constant](Vec<T> x) { return Op::exact(x, constant); }, src);
 }
 

@@ -12,7 +12,7 @@ template <class T, class Op>
 VlqStatus twoVectors(const T* src1, const T* src2, T* dst, Vlq32s len, const Op& op) {
     if (!src1 || !src2 || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::map(dst, len, op, src1, src2);
+    vlq::mapStreaming(dst, len, op, src1, src2);
     return vlqStsOk;
 }
 
@@ -20,7 +20,7 @@ template <class T, class Op>
 VlqStatus oneVector(const T* src, T* dst, Vlq32s len, const Op& op) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::map(dst, len, op, src);
+    vlq::mapStreaming(dst, len, op, src);
     return vlqStsOk;
 }
 

@@ -12,7 +12,7 @@ template <class T>
 VlqStatus product(const T* a, const T* b, T* dst, Vlq32s len) {
     if (!a || !b || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::map(dst, len, Product{}, a, b);
+    vlq::mapStreaming(dst, len, Product{}, a, b);
     return vlqStsOk;
 }
 
@@ -28,7 +28,7 @@ template <class T>
 VlqStatus productByConstant(const T* src, T val, T* dst, Vlq32s len) {
     if (!src || !dst) return vlqStsNullPtr;
     if (len < 1) return vlqStsBadSize;
-    vlq::map(
+    vlq::mapStreaming(
         dst, len, [b = Vec<T>::broadcast(val)](Vec<T> a) { return a * b; }, src);
     return vlqStsOk;
 }

@@ -115,8 +115,10 @@ public:
                      std::floor((static_cast<double>(scaleFactor) - 1) * 0.69314718055994531)) -
                  1) {
         WideFloat v = powerOfE(first_);
-        for (T& value : values_) {
-            value = roundedTo<T, halves>(v, scaleFactor);
+        for (int i = 0; i < count; ++i) {
+            // The only power that may be a tie is 1, exactly.
+            if (first_ + i == 0) v = powerOfE(0);
+            values_[static_cast<std::size_t>(i)] = roundedTo<T, halves>(v, scaleFactor);
             v = v * kPowersOfE.up[0];
         }
     }

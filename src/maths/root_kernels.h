@@ -140,22 +140,24 @@ private:
 // With t = sqrt((|z| + |re|)/2) the principal root of z is t + im/(2t) i in the right half-plane,
 // and |im|/(2t) +- t i, with the sign of im, in the left one. Neither part cancels.
 
-// (re, im) in adjacent lanes.
-inline Vec<double> rootOfModerate(Vec<double> z) {
+// t, in both lanes of each value (re, im), whose squared magnitude is a normal number.
+inline Vec<double> largerPart(Vec<double> z) {
+    const auto squares = z * z;
+    const auto magnitude = squareRoot(squares + swapParts(squares));
+    return squareRoot((magnitude + absolute(realParts(z))) * Vec<double>::broadcast(0.5));
+}
+inline Vec<double> rootOfLarger(Vec<double> z, Vec<double> larger) {
     using V = Vec<double>;
-    const V squares = z * z;
-    const V magnitude = squareRoot(squares + swapParts(squares));
-    const V a = absolute(realParts(z)), b = absolute(imaginaryParts(z));
-    const V larger = squareRoot((magnitude + a) * V::broadcast(0.5));
     // The root of 0 is 0.
     const V twice = maximum(V::broadcast(std::numeric_limits<double>::min()), larger + larger);
-    const V smaller = b / twice;
+    const V smaller = absolute(imaginaryParts(z)) / twice;
     const V isReal = broadcastPair(std::bit_cast<double>(std::int64_t{-1}), 0.0);
     // Of the left half-plane in the other order; the imaginary part has the sign of z's.
     const auto order =
         bitCast<std::int64_t>(isReal) ^ signMask(bitCast<std::int64_t>(realParts(z)));
     return select(order, larger, smaller) | (signBit(z) & ~isReal);
 }
+inline Vec<double> rootOfModerate(Vec<double> z) { return rootOfLarger(z, largerPart(z)); }
 
 struct ComplexRoot {
     // The squared magnitude of floats fits a double.
@@ -176,7 +178,8 @@ struct ComplexRoot {
                                 select(tooSmall, V::broadcast(0x1p600), V::broadcast(1)));
         const V back = select(tooLarge, V::broadcast(0x1p300),
                               select(tooSmall, V::broadcast(0x1p-300), V::broadcast(1)));
-        return withInfinities(z, rootOfModerate(z * factor) * back);
+        // Only t is computed from the scaled value: the other part of z may vanish in it.
+        return withInfinities(z, rootOfLarger(z, largerPart(z * factor) * back));
     }
 
 private:

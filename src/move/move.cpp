@@ -1,6 +1,7 @@
 // Zero, set, copy and move.
 #include "vlqs/move.h"
 #include "frame/loop/bulk.h"
+#include "frame/simd/control.h"
 #include "vlqs/arith.h"
 
 namespace {
@@ -31,6 +32,7 @@ VlqStatus fill(T* dst, Vlq32s len, Value val, Pattern pattern) {
     const std::size_t bytes = static_cast<std::size_t>(len) * sizeof(T);
     if (bytes > vlq::kShort) return fillLongRun(to, bytes, val);
     vlq::fillShort(to, bytes, pattern);
+    vlq::clearUpperHalves();  // the pattern is an argument where this is not inlined
     return vlqStsOk;
 }
 

@@ -1,5 +1,5 @@
 // Calls whose vectors exceed the cache, which store around it: their results are those of short
-// calls. Each kind of loop once, with every kind of alignment of the destination.
+// calls, at every kind of alignment of the destination. Some operations do so, others do not.
 #include "harness/effort.h"
 #include "vlqs/arith.h"
 #include "vlqs/convert.h"

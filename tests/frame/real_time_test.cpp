@@ -41,10 +41,11 @@ const Signature* find(std::string_view name) {
 
 long long valueOf(std::string_view name) {
     static const std::map<std::string_view, long long> values = {
-        {"len", 1000},       {"numIters", 300},  {"tapsLen", 5},          {"upFactor", 2},
-        {"downFactor", 3},   {"order", 7},       {"flag", vlqNormInvByN}, {"scaleFactor", 3},
-        {"val", 3},          {"channels", 2},    {"frames", 500},         {"rndMode", 1},
-        {"srcBitOffset", 1}, {"dstBitOffset", 1}};
+        {"len", 1000},           {"numIters", 300},   {"tapsLen", 5},
+        {"upFactor", 2},         {"downFactor", 3},   {"order", 7},
+        {"flag", vlqNormInvByN}, {"scaleFactor", 3},  {"val", 3},
+        {"channels", 2},         {"frames", 500},     {"rndMode", 1},
+        {"srcBitOffset", 1},     {"dstBitOffset", 1}, {"vDiv", 2}};
     const auto found = values.find(name);
     return found == values.end() ? 0 : found->second;
 }

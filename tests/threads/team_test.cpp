@@ -97,7 +97,7 @@ TEST(Team, RunsEachShareOnce) {
 // ---- filters on a team --------------------------------------------------------------------------
 
 // Long enough for a team on any machine: direct and by transforms.
-constexpr int kSamples = 1 << 22;
+constexpr int kSamples = 1 << 21;
 constexpr int kTapCounts[] = {20, 300};
 
 class Teams : public testing::Test {
@@ -114,6 +114,11 @@ protected:
 std::vector<float> noise(int count, unsigned seed) {
     vlqtest::Rng rng(seed);
     return vlqtest::uniformVector<float>(static_cast<std::size_t>(count), -1, 1, rng);
+}
+
+const std::vector<float>& samples() {
+    static const auto all = noise(kSamples, 1);
+    return all;
 }
 
 // The outputs of one block on up to so many threads; empty if a call fails.
@@ -135,7 +140,7 @@ bool sameBits(const std::vector<float>& a, const std::vector<float>& b) {
 
 TEST_F(Teams, StartOnlyForMoreThanOneThreadAndLongWork) {
     if (vlqtest::sanitized()) GTEST_SKIP() << "a library with sanitizers starts every thread";
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     const std::vector<float> shortBlock(src.begin(), src.begin() + 1601);
     for (const int taps : kTapCounts) {
         ASSERT_FALSE(filtered(src, taps, 1).empty());
@@ -150,7 +155,7 @@ TEST_F(Teams, StartOnlyForMoreThanOneThreadAndLongWork) {
 }
 
 TEST_F(Teams, RunOnTheThreadsThatTheSystemGrants) {
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     for (const int taps : kTapCounts) {
         const auto want = filtered(src, taps, 1);
         for (const int granted : {0, 1, 2}) {
@@ -165,7 +170,7 @@ TEST_F(Teams, RunOnTheThreadsThatTheSystemGrants) {
 }
 
 TEST_F(Teams, LeaveSignalsToTheProgram) {
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     sigset_t some, after;
     sigemptyset(&some);
     sigaddset(&some, SIGUSR2);
@@ -183,7 +188,7 @@ TEST_F(Teams, LeaveSignalsToTheProgram) {
 // No memory for another stack.
 TEST_F(Teams, RunWithoutMemoryForThreads) {
     if (vlqtest::sanitized()) GTEST_SKIP() << "the sanitizer needs memory of its own";
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     const auto want = filtered(src, 20, 1);
     Core::setThreads(4);
     const auto taps = noise(20, 5);
@@ -210,7 +215,7 @@ TEST_F(Teams, AreGoneWhenTheCallReturns) {
         return std::distance(fs::directory_iterator("/proc/self/task"), fs::directory_iterator());
     };
     const auto before = tasks();
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     for (const int taps : kTapCounts) {
         ASSERT_FALSE(filtered(src, taps, 4).empty());
         EXPECT_EQ(before, tasks());
@@ -218,7 +223,7 @@ TEST_F(Teams, AreGoneWhenTheCallReturns) {
 }
 
 TEST_F(Teams, WorkInTheChildOfAFork) {
-    const auto src = noise(kSamples, 1);
+    const auto& src = samples();
     const auto want = filtered(src, 300, 1);
     ASSERT_TRUE(sameBits(want, filtered(src, 300, 3)));
     const pid_t child = fork();
@@ -259,7 +264,8 @@ TEST_F(Teams, LetTheLibraryBeUnloaded) {
     const auto release =
         reinterpret_cast<decltype(&vlqsFIRFree_32f)>(dlsym(handle, "vlqsFIRFree_32f"));
     Core::setThreads(4);
-    const auto src = noise(kSamples, 1), taps = noise(20, 5);
+    const auto& src = samples();
+    const auto taps = noise(20, 5);
     std::vector<float> dst(src.size());
     VlqsFIRState_32f* state = nullptr;
     ASSERT_EQ(vlqStsOk, init(&state, taps.data(), 20, nullptr));
@@ -274,7 +280,7 @@ TEST_F(Teams, LetTheLibraryBeUnloaded) {
 // Rounding and the treatment of subnormals are the caller's on every thread.
 TEST_F(Teams, KeepTheFloatingPointMode) {
     constexpr unsigned kFlushToZero = 0x8000, kDenormalsAreZero = 0x40, kFlags = 0x3F;
-    auto src = noise(kSamples, 1);
+    auto src = samples();
     for (float& x : src) x = std::ldexp(x, -126);  // results on both sides of the subnormals
     for (const int taps : kTapCounts) {
         const auto usual = filtered(src, taps, 1);
@@ -300,7 +306,7 @@ TEST_F(Teams, KeepTheFloatingPointMode) {
 
 // An exception of a thread's share is the caller's, as if it had done the work itself.
 TEST_F(Teams, PassOnFloatingPointExceptions) {
-    auto src = noise(kSamples, 1);
+    auto src = samples();
     const float huge = std::numeric_limits<float>::max();
     src[kSamples - 1000] = src[kSamples - 1001] = src[kSamples - 999] = huge;
     for (float& x : src) x *= 4;
@@ -321,7 +327,7 @@ TEST_F(Teams, PassOnFloatingPointExceptions) {
 // A cancellation waits until the call is complete.
 TEST_F(Teams, AreNotCutShortByACancellation) {
     static std::vector<float> src, want, got;
-    src = noise(kSamples, 1);
+    src = samples();
     want = filtered(src, 20, 1);
     got.clear();
     pthread_t thread;

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "frame/simd/cache.h"
+#include "frame/simd/control.h"
 #include "frame/simd/tuning.h"
 
 namespace vlq {
@@ -76,10 +77,9 @@ inline void storeBlockPartial(T* p, const Block<T, N>& block, int count) {
 template <class... T>
 inline constexpr int kBlock = kVecBytes / kNarrowest<T...>;
 
-// The first n elements, fewer than a block. Each loop calls it from a lambda, so that the compiler
-// decides for each whether to inline it.
+// The first n elements, fewer than a block.
 template <class D, class Op, class... S>
-[[gnu::always_inline]] inline void mapPartial(D* dst, int n, const Op& op, const S*... src) {
+inline void mapPartial(D* dst, int n, const Op& op, const S*... src) {
     constexpr int count = kBlock<D, S...>;
     const auto read = [n]<class T>(const T* p) {
         const auto block = loadBlockPartial<T, count / Vec<T>::lanes>(p, n);
@@ -101,32 +101,39 @@ inline int headLength(const D* dst) {
                : 0;
 }
 
-// From this many bytes on, those of all vectors together, a loop is mapLong. It is bound by memory,
-// and whether it bypasses the cache is worth asking.
-inline constexpr std::size_t kLongBytes = std::size_t{1} << 20;
+// Bytes of all vectors together from which on it is worth asking whether they exceed the cache.
+inline constexpr std::size_t kLongBytes = std::size_t{8} << 20;
 
-// mapBlocks for long vectors, with non-temporal stores where the vectors exceed the cache and dst
-// is none of the sources, whose cache lines would be there already. It is a function of its own
-// because a caller that inlined it would need a stack frame, which short calls feel.
+template <class D, class... S>
+inline bool overlapsNone(const D* dst, std::ptrdiff_t len, const S*... src) {
+    const auto begin = reinterpret_cast<std::uintptr_t>(dst),
+               end = begin + static_cast<std::uintptr_t>(len) * sizeof(D);
+    return (... && (reinterpret_cast<std::uintptr_t>(src) >= end ||
+                    reinterpret_cast<std::uintptr_t>(src + len) <= begin));
+}
+
+// mapBlocks for long vectors and a dst that overlaps no source, with non-temporal stores where the
+// vectors exceed the cache. The first and the last block overlap their neighbours: the elements in
+// both are computed twice. A function of its own, because short calls feel the stack frame that a
+// caller that inlined it would need.
 template <int group, class D, class Op, class... S>
 [[gnu::noinline]] void mapLong(D* dst, std::ptrdiff_t len, Op op, const S*... src) {
     constexpr int count = kBlock<D, S...>;
-    const auto isSource = [dst](const void* p) { return p == dst; };
-    const bool bypass =
-        exceedsCache(static_cast<std::size_t>(len) * (sizeof(D) + ... + sizeof(S))) &&
-        !(isSource(src) || ...);
-    const auto partial = [&](std::ptrdiff_t at, std::ptrdiff_t n) {
-        mapPartial(dst + at, static_cast<int>(n), op, (src + at)...);
-    };
-    std::ptrdiff_t i = headLength<group>(dst);
-    if (i > 0) partial(0, i);
-    const auto block = [&] { return op(loadBlock<S, count / Vec<S>::lanes>(src + i)...); };
-    if (bypass && reinterpret_cast<std::uintptr_t>(dst + i) % kVecBytes == 0) {
-        for (; len - i >= count; i += count) streamBlock(dst + i, block());
-        streamFence();
+    const bool streams =
+        exceedsCache(static_cast<std::size_t>(len) * (sizeof(D) + ... + sizeof(S)));
+    const std::ptrdiff_t head = headLength<group>(dst), last = len - count;
+    for (std::ptrdiff_t i = 0;;) {
+        const auto result = op(loadBlock<S, count / Vec<S>::lanes>(src + i)...);
+        if (streams && reinterpret_cast<std::uintptr_t>(dst + i) % kVecBytes == 0)
+            streamBlock(dst + i, result);
+        else
+            storeBlock(dst + i, result);
+        if (i == last) break;
+        i = i == 0 && head != 0 ? head : i + count;
+        if (i > last) i = last;
     }
-    for (; len - i >= count; i += count) storeBlock(dst + i, block());
-    if (i < len) partial(i, len - i);
+    streamFence();
+    clearUpperHalves();  // op may hold vectors
 }
 
 }  // namespace detail
@@ -137,10 +144,6 @@ template <int group, class D, class Op, class... S>
 // vectors.
 template <int group = 1, class D, class Op, class... S>
 inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
-    constexpr std::size_t bytes = (sizeof(D) + ... + sizeof(S));  // of an element in all vectors
-    if (len >= static_cast<std::ptrdiff_t>(detail::kLongBytes / bytes)) [[unlikely]]
-        return detail::mapLong<group>(dst, len, op, src...);
-
     constexpr int count = detail::kBlock<D, S...>;
     const auto partial = [&](int n) { detail::mapPartial(dst, n, op, src...); };
     const auto advance = [&](std::ptrdiff_t n) {
@@ -170,6 +173,7 @@ inline void mapBlocks(D* dst, std::ptrdiff_t len, const Op& op, const S*... src)
         advance(count);
     }
     if (len > 0) partial(static_cast<int>(len));
+    clearUpperHalves();  // op may hold vectors, and this may be no function of its own
 }
 
 // All types of one size: op takes and returns single vectors.
@@ -177,6 +181,24 @@ template <int group = 1, class D, class Op, class... S>
 inline void map(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
     static_assert(((sizeof(S) == sizeof(D)) && ...));
     mapBlocks<group>(
+        dst, len, [op](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; },
+        src...);
+}
+
+// The same two for operations that cost less than their memory traffic: results of vectors that
+// exceed the cache bypass it. For others that is not worth a second copy of their code.
+template <int group = 1, class D, class Op, class... S>
+inline void mapBlocksStreaming(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
+    constexpr std::size_t bytes = (sizeof(D) + ... + sizeof(S));  // of an element in all vectors
+    if (len >= static_cast<std::ptrdiff_t>(detail::kLongBytes / bytes)) [[unlikely]] {
+        if (detail::overlapsNone(dst, len, src...))
+            return detail::mapLong<group>(dst, len, op, src...);
+    }
+    mapBlocks<group>(dst, len, op, src...);
+}
+template <int group = 1, class D, class Op, class... S>
+inline void mapStreaming(D* dst, std::ptrdiff_t len, const Op& op, const S*... src) {
+    mapBlocksStreaming<group>(
         dst, len, [op](const auto&... block) { return Block<D, 1>{{op(block.part[0]...)}}; },
         src...);
 }

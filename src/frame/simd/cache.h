@@ -24,9 +24,6 @@ inline std::size_t cacheBytes() {
 // Whether a call that touches `bytes` bytes, sources and destination together, leaves nothing of
 // its result in the cache. Non-temporal stores win from here on, whoever uses the result next;
 // below, the next reader would have to fetch from memory what ordinary stores leave in the cache.
-inline bool exceedsCache(std::size_t bytes) {
-    constexpr std::size_t smallest = std::size_t{1} << 20;  // below, not worth asking
-    return bytes >= smallest && bytes >= cacheBytes() / 2 * 3;
-}
+inline bool exceedsCache(std::size_t bytes) { return bytes >= cacheBytes() / 2 * 3; }
 
 }  // namespace vlq

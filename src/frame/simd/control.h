@@ -1,9 +1,18 @@
-// The processor's floating-point control register: rounding mode, flushing of subnormals.
+// The state of the processor's floating-point unit: rounding mode, flushing of subnormals, upper
+// halves of the vector registers.
 #pragma once
 
-#include <xmmintrin.h>
+#include "frame/simd/vec.h"
 
 namespace vlq {
+
+// A function that has vectors among its arguments and is not inlined calls this last: for such a
+// function GCC leaves it to the callers, which then slow down SSE code after them.
+inline void clearUpperHalves() {
+#if VLQ_SIMD_BYTES > 16
+    _mm256_zeroupper();
+#endif
+}
 
 // While in scope, floats round to nearest and subnormals are kept, whatever mode the caller has
 // set. In the default mode it costs one addition.

@@ -105,9 +105,19 @@ inline bool allPositiveNormal(Vec<T, B> x) {
     if constexpr (B == 16 && sizeof(T) == 4) return _mm_fpclass_ps_mask(x.raw, 0xFF) == 0;
     if constexpr (B == 16 && sizeof(T) == 8) return _mm_fpclass_pd_mask(x.raw, 0xFF) == 0;
 #else
-    using Limits = std::numeric_limits<T>;
-    return all((x >= Vec<T, B>::broadcast(Limits::min())) &
-               (x <= Vec<T, B>::broadcast(Limits::max())));
+    if constexpr (sizeof(T) == 4) {
+        // The bits less those of the smallest normal number, from the lowest integer on: one
+        // comparison serves both ends.
+        constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
+        const auto moved = bitCast<std::int32_t>(x) +
+                           Vec<std::int32_t, B>::broadcast(
+                               std::numeric_limits<std::int32_t>::max() - (1 << 23) + 1);
+        return !any(moved > Vec<std::int32_t, B>::broadcast(lowest + (254 << 23) - 1));
+    } else {
+        using Limits = std::numeric_limits<T>;
+        return all((x >= Vec<T, B>::broadcast(Limits::min())) &
+                   (x <= Vec<T, B>::broadcast(Limits::max())));
+    }
 #endif
 }
 
