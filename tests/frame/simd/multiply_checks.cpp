@@ -138,4 +138,57 @@ TEST_F(Simd, Pairs) {
     });
 }
 
+TEST_F(Simd, BlocksOfSums) {
+    forEachSize([&](auto size) {
+        constexpr int B = size;
+        constexpr std::size_t lanes = Vec<i32, B>::lanes;
+        for (int round = 0; round < 300; ++round) {
+            const auto m = extremeVector<i32>(4 * lanes, rng);
+            Vec<i32, B> rows[4];
+            for (std::size_t r = 0; r < 4; ++r) rows[r] = load<i32, B>(m.data() + r * lanes);
+            ASSERT_TRUE(sameLanes(lanesOf(blockSums(rows)), [&](std::size_t i) {
+                const i32* block = m.data() + i % 4 * lanes + i / 4 * 4;
+                return static_cast<i32>(i64{block[0]} + block[1] + block[2] + block[3]);
+            }));
+            const auto saturated = [&](std::size_t i) {
+                return static_cast<i16>(std::clamp(m[i], -32768, 32767));
+            };
+            ASSERT_TRUE(sameLanes(lanesOf(narrowSatBlocks(rows[0], rows[1])), [&](std::size_t i) {
+                return saturated(i % 8 / 4 * lanes + i / 8 * 4 + i % 4);
+            }));
+            if constexpr (B > 16) {
+                ASSERT_TRUE(sameLanes(lanesOf(addBlocks(rows[0], rows[1])), [&](std::size_t i) {
+                    const i32* blocks = m.data() + i / 4 * 8 + i % 4;
+                    return static_cast<i32>(i64{blocks[0]} + blocks[4]);
+                }));
+            }
+            if constexpr (kVecBytes > 16) {
+                ASSERT_TRUE(sameLanes(lanesOf(joinSat(rows[0], rows[1])),
+                                      [&](std::size_t i) { return saturated(i); }));
+            }
+        }
+    });
+}
+
+TEST_F(Simd, PickedWords) {
+    if constexpr (kVecBytes > 16) {
+        forEachSize([&](auto size) {
+            constexpr int B = size;
+            constexpr std::size_t lanes = Vec<i16, B>::lanes, unit = kPickUnit<B> / 2;
+            for (int round = 0; round < 300; ++round) {
+                const auto words = extremeVector<i16>(lanes, rng);
+                std::vector<std::size_t> from(lanes);
+                std::vector<i16> pattern(lanes);
+                for (std::size_t i = 0; i < lanes; ++i) {
+                    from[i] = rng() % unit;
+                    pattern[i] = pickIndex(static_cast<int>(from[i]));
+                }
+                ASSERT_TRUE(sameLanes(
+                    lanesOf(pick(load<i16, B>(words.data()), load<i16, B>(pattern.data()))),
+                    [&](std::size_t i) { return words[i / unit * unit + from[i]]; }));
+            }
+        });
+    }
+}
+
 }  // namespace

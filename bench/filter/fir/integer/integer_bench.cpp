@@ -37,11 +37,13 @@ int main(int argc, char** argv) {
         const auto count = static_cast<std::size_t>(taps);
         static std::vector<std::vector<Vlq16s>> rows;
         std::vector<Vlq32s> h(count);
+        std::vector<Vlq16s> shorts(count);
         std::vector<float> floats(count);
         std::vector<Vlq32sc> complexTaps(count);
         rows.emplace_back(count);
         for (std::size_t k = 0; k < count; ++k) {
             h[k] = static_cast<Vlq32s>(k * 977 % 2000) - 1000;
+            shorts[k] = static_cast<Vlq16s>(h[k]);
             floats[k] = static_cast<float>(h[k]);
             complexTaps[k] = {h[k], -h[k] / 2};
             rows.back()[k] = static_cast<Vlq16s>(h[k]);
@@ -50,14 +52,22 @@ int main(int argc, char** argv) {
         VlqsFIRState32s_16s* state = nullptr;
         VlqsFIRState32sc_16sc* complexState = nullptr;
         VlqsFIRState_32f* floatState = nullptr;
+        VlqsFIRState_16s* shortState = nullptr;
+        VlqsFIRState32f_16s* mixedState = nullptr;
         vlqsFIRInitAlloc32s_16s(&state, h.data(), taps, -15, nullptr);
         vlqsFIRInitAlloc32sc_16sc(&complexState, complexTaps.data(), taps, -15, nullptr);
         vlqsFIRInitAlloc_32f(&floatState, floats.data(), taps, nullptr);
+        vlqsFIRInitAlloc_16s(&shortState, shorts.data(), taps, -15, nullptr);
+        vlqsFIRInitAlloc32f_16s(&mixedState, floats.data(), taps, nullptr);
         const std::string name = std::to_string(taps) + " taps";
         // Up to 511 samples the float filter stays on its direct path.
-        for (const int n : {32, 511, longest}) {
+        for (const int n : {32, 128, 511, longest}) {
             if (n < 512) {
-                vlqbench::add({"FIR 32s_16s, " + name, n, 1.0 * n, "32f, direct", 0.5,
+                vlqbench::add({"FIR 16s, " + name, n, 1.0 * n, "32f_16s, direct", 1,
+                               [=] { vlqsFIR_16s_Sfs(src, dst, n, shortState, 0); },
+                               [=] { vlqsFIR32f_16s_Sfs(src, dst, n, mixedState, 15); }});
+                vlqbench::add({"FIR 32s_16s, " + name, n, 1.0 * n, "32f, direct",
+                               taps > 16 ? 0.5 : 1,
                                [=] { vlqsFIR32s_16s_Sfs(src, dst, n, state, 0); },
                                [=] { vlqsFIR_32f(floatSrc, floatDst, n, floatState); }});
             }

@@ -1,11 +1,11 @@
 // The integer FIR kernels: 16-bit samples and taps, two products at a time, summed in 32 bits that
 // wrap. Such sums do not depend on their order, so every kernel below gives the same bits.
 //
-// Complex values are words in turn, real and imaginary part, and one kernel serves both: of a
-// vector of samples it forms two vectors of 32-bit sums that belong into every other word of the
-// result, each with a tap row of its own. These are the sums of the even and of the odd outputs of
-// a real filter, whose second row is the first one word later; or the real and the imaginary parts
-// of a complex one.
+// Complex samples are interleaved values, real and imaginary part, and one kernel serves real and
+// complex filters: of a vector of samples it forms two vectors of 32-bit sums that belong into
+// every other value of the result, each with a tap row of its own. These are the sums of the even
+// and of the odd outputs of a real filter, whose second row is the first one value later; or the
+// real and the imaginary parts of a complex one. Counts named words are of 16-bit values.
 #pragma once
 
 #include <algorithm>
@@ -167,7 +167,7 @@ inline Sums<Rows> dots(const Vlq16s* x, const Vlq16s* const (&rows)[Rows], std::
 // ---- blocks -------------------------------------------------------------------------------------
 
 // The impulse response reversed: one row of a real filter, with two zeros before and one behind it;
-// two of a complex one. `words` is the length of a row, `magnitude` that of its taps together.
+// two of a complex one. `magnitude` is the sum of the absolute taps of an output, at most.
 template <int Parts>
 struct TapRows {
     const Vlq16s* row[Parts];
@@ -179,7 +179,7 @@ struct TapRows {
 // rows, two as well, and a vector of samples must fit into 16 or 32 registers.
 inline constexpr int kTileVectors = kVecBytes == 64 ? 12 : 5;
 
-// Two rows, of an even number of words.
+// Two rows, of an even number of values.
 struct Pairs {
     const Vlq16s* first;
     const Vlq16s* second;
@@ -236,8 +236,10 @@ inline void tile(const Vlq16s* firstRow, const Vlq16s* secondRow, std::ptrdiff_t
         x += done;
         words -= done;
     };
-    for (; words >= 2 * lanes; advance(2 * lanes))
+    while (words >= 2 * lanes) {
         addColumns<2>(first, second, firstRow, secondRow, x, lanes / 2);
+        advance(2 * lanes);
+    }
     if (words > lanes) {
         // Of the last group only the first columns have two rows.
         const std::ptrdiff_t longer = words - lanes;
@@ -252,7 +254,7 @@ inline void tile(const Vlq16s* firstRow, const Vlq16s* secondRow, std::ptrdiff_t
 }
 
 // A vectors of results of a short real filter of an even number of taps: one row, which the odd
-// outputs meet a word later in the samples. That is a pair less than two rows take.
+// outputs meet one sample later. That is a pair less than two rows take.
 template <int A, int B, class F>
 inline void shortTile(const Vlq16s* row, std::ptrdiff_t tapsLen, const Vlq16s* x, Vlq16s* dst,
                       const F& finish) {
@@ -310,7 +312,7 @@ template <class Make>
     }
 }
 
-// n words of results, at least one vector.
+// n values of results, at least one vector.
 template <int A, int B, class F>
 inline void tiles(const Pairs& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_t n,
                   const F& finish) {
@@ -320,8 +322,8 @@ inline void tiles(const Pairs& taps, const Vlq16s* x, Vlq16s* dst, std::ptrdiff_
     });
 }
 
-// n words of results of the windows that begin at x, x + Parts ...: no word behind the last window
-// is read, of a real filter the word before x may be. dst does not overlap the samples.
+// n values of results, of the windows that begin at x, x + Parts ...: nothing after the last window
+// is read; of a real filter the sample before x may be. dst does not overlap the samples.
 template <int Parts, class F>
 inline void filterWordsBy(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* dst,
                           std::ptrdiff_t n, const F& finish) {
@@ -337,7 +339,7 @@ inline void filterWordsBy(const TapRows<Parts>& taps, const Vlq16s* x, Vlq16s* d
             });
             return;
         }
-        // Odd outputs meet the same samples with the taps one word later. The zeros around the row
+        // Odd outputs meet the same samples with the taps one value later. The zeros around the row
         // make all pairs whole, and the last pair ends with the window of the odd output.
         const std::ptrdiff_t before = taps.words % 2 == 0 ? 1 : 0;
         x -= before;

@@ -8,7 +8,7 @@
 namespace vlq::fir::integer {
 
 // len samples by way of the staging area, which must hold them and the line before them. dst may be
-// src. len counts samples, everything else words.
+// src. len counts samples, everything else 16-bit values.
 template <class State>
 void blockStaged(State& state, const Vlq16s* src, Vlq16s* dst, Vlq32s len, const Finish& finish) {
     constexpr int count = kParts<typename State::Sample>;
@@ -22,7 +22,7 @@ void blockStaged(State& state, const Vlq16s* src, Vlq16s* dst, Vlq32s len, const
     filterWords(rowsOf(state), staging + count, dst, words, finish);
 }
 
-// Up to so many words a copy is cheaper than two runs of the kernel.
+// Up to so many 16-bit values a copy is cheaper than two runs of the kernel.
 inline constexpr std::ptrdiff_t kStagedWords = 1024;
 
 // The outputs at the seam of two calls are made from a copy of the samples; the others read src

@@ -1,5 +1,5 @@
-// The state of a FIR filter with integer arithmetic. Sizes and offsets are counted in words of 16
-// bits, two to a complex sample; lengths of delay lines and calls in samples.
+// The state of a FIR filter with integer arithmetic. Counts named words are of 16-bit values, two
+// to a complex sample; lengths of delay lines and calls are in samples.
 #pragma once
 
 #include <cstddef>
@@ -30,14 +30,14 @@ struct IntegerState {
         dlyLine;  // store; the live window of dlyLen samples starts at dlyIndex, oldest first
     Vlq32s tapsLen;
     Vlq32s upFactor;    // multi-rate only
-    Vlq32s firstChunk;  // words that go into the store at the seam of two blocks
+    Vlq32s firstChunk;  // values that go into the store at the seam of two blocks
     Vlq32s downFactor;  // multi-rate only
     Vlq32s tapsStride;  // multi-rate only: outputs of the first chunk
     Vlq32s tapsFactor;
     RelPtr<Vlq16s> tapRows;
     Vlq32s dlyIndex;
     RelPtr<PhaseTable> phases;  // multi-rate only
-    Vlq32s rowLen;              // words
+    Vlq32s rowLen;              // 16-bit values
     Vlq32s dlyLen;              // samples in the delay line
     RelPtr<Vlq16s> blockBuf;    // kStaging samples; multi-rate: the streams
     Vlq32s owned;

@@ -53,10 +53,12 @@ TYPED_TEST(FirIntBlock, Values) {
     }
 }
 
+// The longest leave no room for samples in the staging area.
 TYPED_TEST(FirIntBlock, LongBlocks) {
     using Sample = typename TypeParam::Sample;
-    for (const int taps : {1, 2, 3, 4, 8, 17, 64, 65, 127, 128, 129, 300, 1000}) {
-        for (const int len : {4095, 4096, 4097, 10000}) {
+    for (const int taps : {1, 2, 3, 4, 8, 17, 64, 65, 127, 128, 129, 300, 1000, 2048, 2049, 5000}) {
+        for (const int len : {1023, 1024, 1025, 4095, 4096, 4097, 10000}) {
+            if (taps > 1000 && len < 4097) continue;
             const auto h = wideTaps<typename TypeParam::Tap>(count(taps), this->rng);
             const auto src = values<Sample>(count(len), this->rng);
             Record<TypeParam> record(h, -17), second(h, -17);
@@ -70,7 +72,7 @@ TYPED_TEST(FirIntBlock, LongBlocks) {
             ASSERT_TRUE(same(inOut, want)) << taps << " taps, " << len << " samples in place";
             ASSERT_EQ(ref.line, record.line());
             ASSERT_EQ(ref.line, second.line());
-            if (taps > 200) break;
+            if (taps > 200 && len >= 4095) break;
         }
     }
 }
@@ -154,7 +156,7 @@ TYPED_TEST(FirIntBlock, Checks) {
     using Sample = typename TypeParam::Sample;
     using State = typename TypeParam::State;
     Record<TypeParam> record(wideTaps<typename TypeParam::Tap>(4, this->rng), 0);
-    // Records of every other kind, by their words.
+    // A state of no kind.
     Buffer<Vlq8u> alienMemory(256);
     auto* alien = reinterpret_cast<State*>(alienMemory.data());
     const std::vector<Sample> src(8);
@@ -168,17 +170,6 @@ TYPED_TEST(FirIntBlock, Checks) {
     EXPECT_EQ(vlqStsNullPtr, TypeParam::inPlace(nullptr, 0, alien, 0));
     EXPECT_EQ(vlqStsNullPtr, TypeParam::inPlace(dst.data(), 0, nullptr, 0));
     EXPECT_EQ(vlqStsBadSize, TypeParam::inPlace(dst.data(), 0, alien, 0));
-    EXPECT_EQ(vlqStsNullPtr, TypeParam::one(src[0], nullptr, alien, 0));
-    EXPECT_EQ(vlqStsNullPtr, TypeParam::one(src[0], dst.data(), nullptr, 0));
-    for (int high = '0'; high <= '3'; ++high) {
-        for (int low = '0'; low <= '9'; ++low) {
-            const Vlq32u word = 0x46490000u | static_cast<Vlq32u>(high << 8 | low);
-            std::memcpy(alienMemory.data(), &word, sizeof word);
-            if (word == TypeParam::word) continue;
-            EXPECT_EQ(vlqStsBadSpec, TypeParam::one(src[0], dst.data(), alien, 0))
-                << std::hex << word;
-        }
-    }
     EXPECT_EQ(vlqStsBadSpec, TypeParam::filter(src.data(), dst.data(), 8, alien, 0));
     EXPECT_EQ(vlqStsBadSpec, TypeParam::inPlace(dst.data(), 8, alien, 0));
     EXPECT_TRUE(same(dst, marked));

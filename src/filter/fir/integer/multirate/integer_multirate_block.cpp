@@ -43,7 +43,7 @@ struct Filter {
         }
     }
 
-    // Whole periods that begin at x; the `reach` words before them are at `past`, and before x
+    // Whole periods that begin at x; the `reach` values before them are at `past`, and before x
     // unless there are streams. What is left finds the samples that it needs before its own.
     void manyPeriods(const Vlq16s* past, const Vlq16s* x, Vlq16s* dst,
                      std::ptrdiff_t periods) const {
@@ -82,8 +82,8 @@ struct Filter {
             fewPeriods(src + seam * inputWords, dst + seam * outputWords, periods - seam);
     }
 
-    // A single stream is the input itself: the first periods are made from a copy that the past
-    // comes before.
+    // A single stream is the input itself: the first periods are made from a copy that the
+    // delay line comes before.
     void fromCopy(const Vlq16s* before, const Vlq16s* src, Vlq16s* dst,
                   std::ptrdiff_t periods) const {
         Vlq16s* const copy = state.blockBuf;

@@ -7,7 +7,7 @@
 
 #include "filter/common/rates.h"
 #include "filter/fir/integer/integer_state.h"
-#include "filter/fir/integer/multirate/integer_multirate_kernels.h"
+#include "filter/fir/integer/multirate/fir_integer_cycle_kernels.h"
 #include "filter/fir/integer/multirate/phase_lanes.h"
 #include "filter/fir/integer/multirate/phase_rows.h"
 
@@ -15,7 +15,7 @@ namespace vlq::fir::integer {
 
 // ---- sizes --------------------------------------------------------------------------------------
 
-// Everything that follows from the number of taps and the factors. Elements are pairs of words.
+// Everything that follows from the number of taps and the factors. Elements are pairs of values.
 template <int Parts>
 struct PhaseSizes : RateSizes {
     // Periods of a cycle: a real filter's samples go in pairs.
@@ -24,18 +24,18 @@ struct PhaseSizes : RateSizes {
     constexpr Vlq64s outputElements() const { return cycle() * up * Parts / 2; }
     constexpr Vlq64s windowWords() const { return delayLen() * Parts; }
     constexpr Vlq64s inputWords() const { return down * Parts; }  // of a period
-    // Words of a window, made up to whole cycles.
+    // Values of a window, made up to whole cycles.
     constexpr Vlq64s reach() const { return roundUpTo(windowWords(), 2 * inputElements()); }
 
     constexpr LaneShape lanes() const { return laneShape<Parts>(up, down); }
-    // Words before the first of a period that its own outputs may load.
+    // Values before the first of a period that its own outputs may load.
     constexpr Vlq64s loadedBefore() const {
         return lanes().vectorBytes ? laneReach<Parts>(delayLen()) : phaseRowLength(windowWords());
     }
     constexpr Vlq64s periodsLoadedBefore() const {
         return roundUpTo(loadedBefore(), inputWords()) / inputWords();
     }
-    // Words behind the delay line, in its store.
+    // Values behind the delay line, in its store.
     constexpr Vlq64s seamWords() const {
         return std::max(seam() * Parts, periodsLoadedBefore() * inputWords());
     }
@@ -73,8 +73,8 @@ inline Vlq16s saturated(Vlq64s value) {
     return static_cast<Vlq16s>(std::clamp<Vlq64s>(value, -32768, 32767));
 }
 
-// A tap of the list into a row; of a complex one a pair of words into the rows for the real and for
-// the imaginary part.
+// A tap of the list into a row; of a complex one a pair of values into the rows for the real and
+// for the imaginary part.
 inline void writeTap(Vlq32s tap, Vlq16s* row, Vlq16s*) { *row = saturated(tap); }
 inline void writeTap(Vlq32sc tap, Vlq16s* re, Vlq16s* im) {
     re[0] = im[1] = saturated(tap.re);
@@ -82,14 +82,14 @@ inline void writeTap(Vlq32sc tap, Vlq16s* re, Vlq16s* im) {
     im[0] = saturated(tap.im);
 }
 
-// Of all words of a row together; of a long one the top of the type.
+// Sum of the absolute values of a row; of a long one the top of the type.
 inline Vlq32s magnitudeOf(const Vlq16s* row, std::ptrdiff_t words) {
     Vlq64s sum = 0;
     for (std::ptrdiff_t i = 0; i < words; ++i) sum += std::abs(Vlq32s{row[i]});
     return static_cast<Vlq32s>(std::min<Vlq64s>(sum, std::numeric_limits<Vlq32s>::max()));
 }
 
-// Words from the first sample of a period to behind the newest that an output sees.
+// Values from the first sample of a period to behind the newest that an output sees.
 template <class State>
 Vlq64s windowEnd(const State& state, Vlq64s output) {
     return (placeOf(ratesOf(state), output).newest + 1) * kParts<typename State::Sample>;
@@ -114,7 +114,7 @@ void writeRow(const State& state, Vlq64s output, Vlq16s* row, Vlq16s* other) {
     });
 }
 
-// Fills in the table of row pairs; returns the words of the longest row.
+// Fills in the table of row pairs; returns the length of the longest row.
 template <class State>
 Vlq64s writeRowPairs(const State& state, RowPair* rowPairs) {
     const PhaseSizesOf<State> d = sizesOf(state);

@@ -45,7 +45,7 @@ constexpr LaneShape laneShape([[maybe_unused]] Vlq64s up, [[maybe_unused]] Vlq64
     constexpr int narrowest = kVecBytes == 64 ? 32 : kVecBytes;
     for (int bytes = kVecBytes; bytes >= narrowest; bytes /= 2) {
         LaneShape shape{bytes, kPickUnit<kVecBytes> == 16 ? 16 : bytes, 0};
-        // Words between the newest samples of the first output of a unit and of the last.
+        // Values between the newest samples of the first output of a unit and of the last.
         const Vlq64s apart = ((shape.unitOutputs() - 1) * down + up - 1) / up * Parts,
                      spare = shape.unitWords() - 2 - apart;
         if (up < groupOutputs<Parts>(bytes) || spare < 0) continue;
@@ -56,7 +56,7 @@ constexpr LaneShape laneShape([[maybe_unused]] Vlq64s up, [[maybe_unused]] Vlq64
     return {0, 16, 0};
 }
 
-// Words before the first sample of a period that may be loaded.
+// Values before the first sample of a period that may be loaded.
 template <int Parts>
 constexpr Vlq64s laneReach(Vlq64s delayLen) {
     return kVecBytes / 2 + 2 * (pairsOfWindow<Parts>(delayLen) - 1);
@@ -67,7 +67,7 @@ struct PhaseLanes {
     LaneShape shape;
     const Vlq16s* taps;      // for each group, for each pair of a window, two vectors
     const Vlq16s* patterns;  // to pick the newest pairs with, a vector for each vector of outputs
-    const Vlq32s* starts;    // of the units that hold them, in words from the period's first sample
+    const Vlq32s* starts;    // of the units that hold them, in values from the period's first
     std::ptrdiff_t pairs;    // of a window
     std::ptrdiff_t outputs;  // of a period
     std::ptrdiff_t inputWords;  // of a period

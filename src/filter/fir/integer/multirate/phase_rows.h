@@ -13,13 +13,13 @@ namespace vlq::fir::integer {
 // windows therefore begin before the oldest sample that counts, and end with the newest.
 struct PhaseRows {
     const Vlq16s* rows;         // of each output of a period; of a complex one Re's, then Im's
-    const Vlq32s* starts;       // of their windows, in words from the first sample of the period
-    std::ptrdiff_t rowLen;      // words
+    const Vlq32s* starts;       // of their windows, in values from the period's first sample
+    std::ptrdiff_t rowLen;      // 16-bit values
     std::ptrdiff_t outputs;     // of a period
     std::ptrdiff_t inputWords;  // of a period
 };
 
-// Bytes of the vectors of a row that holds `words` taps.
+// Bytes of the vectors of a row that holds so many 16-bit taps.
 constexpr int rowVectorBytes(Vlq64s words) {
     constexpr Vlq64s wordBytes = sizeof(Vlq16s);
     int bytes = 16;
@@ -54,7 +54,7 @@ template <int B, int Vectors, int Parts>
     }
 }
 
-// A vector of words of outputs. window(i) and row(i) are those of output i.
+// A vector of outputs. window(i) and row(i) are those of output i.
 template <int B, int Vectors, int Parts, class Window, class Row>
 [[gnu::always_inline]] inline Vec<Vlq16s, B> vectorOfOutputs(Window window, Row row,
                                                              std::ptrdiff_t rowLen,

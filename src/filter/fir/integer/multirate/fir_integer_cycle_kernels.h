@@ -1,8 +1,8 @@
 // The kernels of integer multi-rate filters. An output of a period is a plain filter of its own,
 // and so are all outputs in the same place of their periods: the windows of such a row of outputs
-// lie one period's input apart.
+// are one period's input apart.
 //
-// Samples go two words at a time, as in the single-rate kernels: an element is two neighbouring
+// Samples go two values at a time, as in the single-rate kernels: an element is two neighbouring
 // samples of a real filter or one of a complex one. A cycle is as many periods, one or two, as make
 // its inputs and its outputs whole elements. The input is de-interleaved into streams, element c of
 // every cycle into stream c, and then lanes are cycles: each load of a stream meets two taps of two
@@ -16,7 +16,7 @@
 namespace vlq::fir::integer {
 
 // The taps of one output element: `pairs` pairs of either row. They begin `start` elements into the
-// input of a cycle, counted from `reach` words before it. The second row has zeros in its first
+// input of a cycle, counted from `reach` values before it. The second row has zeros in its first
 // `lead` pairs, the first row in its last `trail` ones.
 struct RowPair {
     Vlq32s start, pairs;
@@ -41,7 +41,7 @@ struct Cycle {
     const Vlq16s* rows;  // two for each output element
     std::ptrdiff_t rowLen;
     std::ptrdiff_t outputs, inputs;  // elements
-    std::ptrdiff_t reach;            // words, whole cycles
+    std::ptrdiff_t reach;            // 16-bit values, whole cycles
     Vlq16s* streams;
     std::ptrdiff_t streamStride;  // elements, more than are reached by a vector at least
 
@@ -129,7 +129,7 @@ template <bool hasFirst, bool hasSecond, int A, int B>
 }
 
 // A vectors of cycles of one output element, from streams; x is the first of them at the cycle
-// `reach` words before the one that is first in the result.
+// `reach` values before the one that is first in the result.
 template <int A, int B, class F>
 inline void streamTile(const RowPair& taps, const Vlq16s* firstRow, const Vlq16s* secondRow,
                        const Vlq16s* x, std::ptrdiff_t inputs, std::ptrdiff_t stride, Vlq16s* dst,
@@ -200,8 +200,8 @@ inline void putThree(const Vlq16s* const (&columns)[kWaiting], std::ptrdiff_t co
 // Vectors of cycles in a tile, at most.
 inline constexpr int kCycleVectors = kVecBytes == 64 ? 8 : 5;
 
-// A vectors of cycles, all their outputs. x: of a single stream the input, `reach` words before the
-// first cycle; else the place of that cycle in the first stream.
+// A vectors of cycles, all their outputs. x: of a single stream the input, `reach` values before
+// the first cycle; else the place of that cycle in the first stream.
 template <int A, int B, class F>
 inline void cycleTile(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, const F& finish) {
     constexpr std::ptrdiff_t words = A * Vec<Vlq16s, B>::lanes, count = words / 2;
@@ -245,8 +245,8 @@ inline void cycleTiles(const Cycle& cycle, const Vlq16s* x, Vlq16s* dst, std::pt
     });
 }
 
-// The same of more than one stream. The `reach` words before x, where the input of the first cycle
-// begins, lie at `past`.
+// The same of more than one stream. The `reach` values before x, where the input of the first cycle
+// begins, are at `past`.
 template <int A, int B, class F>
 inline void streamCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x, Vlq16s* dst,
                          std::ptrdiff_t count, const F& finish) {
@@ -271,7 +271,7 @@ inline void streamCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x
 // Fewer are made one by one.
 inline constexpr std::ptrdiff_t kFewestCycles = Vec<Vlq32s, 16>::lanes;
 
-// Answers how many cycles of `whole` it makes: all, or none where they fill no vector. Of a single
+// Returns how many cycles of `whole` it makes: all, or none where they fill no vector. Of a single
 // stream `past` ends where x begins.
 template <class F>
 inline std::ptrdiff_t manyCycles(const Cycle& cycle, const Vlq16s* past, const Vlq16s* x,
