@@ -3,10 +3,10 @@
 #
 #   layers        rules of the source that no compiler checks
 #   release       every test program on every build that this processor supports, GCC
-#   clang         the same test programs on the baseline build as Clang compiles it
 #   install       the installed package as its users see it
 #   names         every exported name is called by a test
 # and those that take longer, in `all` alone:
+#   clang         the same test programs on the baseline build as Clang compiles it
 #   sanitize      the same programs with the address and undefined-behaviour sanitizers of GCC, the smallest sweeps
 #   clang-all     the test programs on the other two builds as Clang compiles them
 #   sanitize-all  the sanitize stage with the usual sweeps
@@ -19,9 +19,9 @@
 set -u
 cd "$(dirname "$0")/.." || exit 1
 repo=$PWD
-usual="layers release clang install names"
+usual="layers release install names"
 stages=${*:-$usual}
-[ "$stages" != all ] || stages="$usual sanitize tsan full clang-all sanitize-all"
+[ "$stages" != all ] || stages="$usual clang sanitize tsan full clang-all sanitize-all"
 jobs=$(nproc)
 # The builds have their own number of jobs, whatever `make` was called with.
 unset MAKEFLAGS MFLAGS MAKELEVEL
