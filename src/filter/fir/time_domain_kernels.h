@@ -7,7 +7,7 @@
 //
 //     for each group, for each column p, for each row i:   chain[i mod 2] += g[p + i * lanes] * x
 //
-// and y = chain[0] + chain[1]. The point of going down the columns: outputs lie in lanes, A
+// and y = chain[0] + chain[1]. The point of going down the columns: outputs are in lanes, A
 // vectors of them in a tile, and one load of samples then meets all rows of its column, each for
 // another vector of outputs. A kernel that took the taps one after the other would load a vector,
 // most often across a cache line, for every multiply-add.

@@ -7,11 +7,3 @@
 #include "frame/state/rel_ptr.h"
 #include "frame/state/tag.h"
 #include "frame/state/work_buffer.h"
-
-namespace vlq {
-
-// ---- former names, while the last users move over -----------------------------------------------
-constexpr bool fitsRecord(Vlq64s bytes) { return fitsState(bytes); }
-constexpr Vlq32s toldSize(Vlq64s bytes) { return reportedSize(bytes); }
-
-}  // namespace vlq

@@ -58,7 +58,7 @@ void multiRateBlock(FirState<E>& state, const E* src, E* dst, Vlq32s periods) {
         moveElements(line + count, line, f.line);
         return;
     }
-    // As many periods as it takes until windows lie in src.
+    // As many periods as it takes until windows are within src.
     const Vlq32s seam = (f.line + f.down - 1) / f.down;
     widen(src, behind, seam * f.down);
     polyphase(f, behind, dst, seam);
